@@ -1,0 +1,19 @@
+/* Lumi: image-processing primitives with a C ABI.
+   The one header to include; it pulls in every subsystem's declarations. */
+#ifndef LUMI_H
+#define LUMI_H
+
+#include "lumi/types.h"
+#include "lumi/core.h"
+#include "lumi/arith.h"
+#include "lumi/arithf.h"
+#include "lumi/mathfn.h"
+#include "lumi/convert.h"
+#include "lumi/datamove.h"
+#include "lumi/threshold.h"
+#include "lumi/compare.h"
+#include "lumi/lut.h"
+#include "lumi/stats.h"
+#include "lumi/generate.h"
+
+#endif

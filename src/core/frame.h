@@ -1,0 +1,198 @@
+// The library's internal frame: validation helpers, row addressing, channel layouts, status
+// composition, the parallel-rows helpers and the rounding-mode guards. Every family builds
+// on these; nothing here is exported.
+#pragma once
+
+#define LUMI_BUILDING_LIBRARY 1
+#include "lumi.h"
+
+#include <omp.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <type_traits>
+
+namespace lumi {
+
+// ---- channel layouts ---------------------------------------------------------------------
+// kCh: interleaved channels in memory; kUse: channels written (AC4 leaves the fourth alone).
+struct C1 { static constexpr int kCh = 1, kUse = 1; };
+struct C2 { static constexpr int kCh = 2, kUse = 2; };
+struct C3 { static constexpr int kCh = 3, kUse = 3; };
+struct C4 { static constexpr int kCh = 4, kUse = 4; };
+struct AC4 { static constexpr int kCh = 4, kUse = 3; };
+
+// ---- addressing --------------------------------------------------------------------------
+template <class T>
+inline T* byteOffset(T* p, std::ptrdiff_t bytes) {
+  using B = std::conditional_t<std::is_const_v<T>, const char, char>;
+  return reinterpret_cast<T*>(reinterpret_cast<B*>(p) + bytes);
+}
+// Row y of an image whose first row starts at p; steps may be zero or negative.
+template <class T>
+inline T* rowAt(T* p, int step, int y) {
+  return byteOffset(p, static_cast<std::ptrdiff_t>(step) * y);
+}
+
+// ---- validation --------------------------------------------------------------------------
+template <class... P>
+inline bool anyNull(const P*... p) {
+  return ((p == nullptr) || ...);
+}
+inline bool badSize(LumiSize r) { return r.width < 1 || r.height < 1; }
+template <class... S>
+inline bool badStep(S... s) {
+  return ((s < 1) || ...);
+}
+
+// ---- status composition of row-composed functions ---------------------------------------
+struct FirstStatus {  // the first nonzero row status wins
+  LumStatus value = lumStatusOk;
+  void add(LumStatus s) {
+    if (value == lumStatusOk) value = s;
+  }
+};
+struct LastStatus {  // the last nonzero row status wins
+  LumStatus value = lumStatusOk;
+  void add(LumStatus s) {
+    if (s != lumStatusOk) value = s;
+  }
+};
+
+// ---- saturation --------------------------------------------------------------------------
+template <class T, class V>
+constexpr T saturate(V v) {
+  if constexpr (std::is_floating_point_v<T>) {
+    return static_cast<T>(v);
+  } else {
+    using L = std::numeric_limits<T>;
+    if (v < static_cast<V>(L::min())) return L::min();
+    if (v > static_cast<V>(L::max())) return L::max();
+    return static_cast<T>(v);
+  }
+}
+
+// ---- run-time dispatch -------------------------------------------------------------------
+// 0 = plain scalar kernels, 1 = SSE4, 2 = AVX2, 3 = AVX-512. Decided once per process from
+// the processor and the LUMI_SCALAR environment variable (set to 1 to force the scalar path).
+enum SimdLevel : int { kScalar = 0, kSSE4 = 1, kAVX2 = 2, kAVX3 = 3 };
+int simdLevel();
+
+// Picks the best compiled SIMD variant the processor supports from a table indexed by
+// SimdLevel; null means "use the scalar kernel".
+template <class F, std::size_t N>
+inline F pickSimd(F const (&table)[N]) {
+  for (int l = simdLevel(); l > 0; --l)
+    if (l < static_cast<int>(N) && table[l]) return table[l];
+  return nullptr;
+}
+
+// ---- parallel rows -----------------------------------------------------------------------
+// Thread count of the next parallel region: the core library's variable, at least 1.
+inline int regionThreads() {
+  int n = threads_omp_of_n_lum;
+  return n < 1 ? 1 : n;
+}
+
+// The row band [y0, y1) of thread t among n for a static schedule over `height` rows.
+inline void rowBand(int height, int t, int n, int* y0, int* y1) {
+  int base = height / n, extra = height % n;
+  *y0 = t * base + (t < extra ? t : extra);
+  *y1 = *y0 + base + (t < extra ? 1 : 0);
+}
+
+// Runs body(y0, y1) over rows [0, height): on the calling thread when `parallel` is false,
+// otherwise as one contiguous band per thread of a team of regionThreads() threads.
+template <class Body>
+inline void forRows(int height, bool parallel, Body&& body) {
+  int n = parallel ? regionThreads() : 1;
+  if (n > height) n = height;
+  if (n <= 1) {
+    body(0, height);
+    return;
+  }
+#pragma omp parallel num_threads(n)
+  {
+    int y0, y1;
+    rowBand(height, omp_get_thread_num(), omp_get_num_threads(), &y0, &y1);
+    if (y0 < y1) body(y0, y1);
+  }
+}
+
+// The common fork rule of the row loops: width + height at least the threshold (a sum of the
+// two dimensions, not an area).
+inline bool forkBySum(LumiSize roi, int threshold = 256) {
+  return roi.width + roi.height >= threshold;
+}
+
+// Scratch-region pattern: the master thread allocates one block of perThreadBytes for every
+// thread of the team, all threads meet at a barrier, and each runs body(y0, y1, scratch) on
+// its band with its own slice. An allocation failure leaves the destination untouched and
+// gives lumStatusMemAllocErr.
+template <class Body>
+inline LumStatus forRowsWithScratch(int height, bool parallel, std::size_t perThreadBytes,
+                                    Body&& body) {
+  int n = parallel ? regionThreads() : 1;
+  if (n > height) n = height;
+  if (n < 1) n = 1;
+  Lum8u* shared = nullptr;
+  bool failed = false;
+  std::size_t slice = (perThreadBytes + 31) & ~static_cast<std::size_t>(31);
+#pragma omp parallel num_threads(n) if (n > 1)
+  {
+#pragma omp master
+    {
+      std::size_t total = slice * static_cast<std::size_t>(omp_get_num_threads());
+      shared = total > 0x7fffffffu ? nullptr : lumsMalloc_8u(static_cast<int>(total));
+      failed = shared == nullptr;
+    }
+#pragma omp barrier
+    if (!failed) {
+      int y0, y1;
+      rowBand(height, omp_get_thread_num(), omp_get_num_threads(), &y0, &y1);
+      if (y0 < y1) body(y0, y1, shared + slice * omp_get_thread_num());
+    }
+  }
+  lumsFree(shared);
+  return failed ? lumStatusMemAllocErr : lumStatusOk;
+}
+
+// ---- rounding mode of the SSE unit ---------------------------------------------------------
+constexpr unsigned kRoundingMask = 0x6000u;
+
+// Float-to-integer conversions: round to nearest (ties to even) when the caller's selector is
+// 1, toward zero otherwise; the caller's register is put back only if it had other bits.
+class ConversionRounding {
+ public:
+  explicit ConversionRounding(int roundSelector)
+      : want_(roundSelector == lumRndNear ? 0u : kRoundingMask), old_(lum_set_rc_ssx(want_)) {}
+  ~ConversionRounding() {
+    if ((old_ & kRoundingMask) != want_) lum_set_cw_ssx(old_);
+  }
+  ConversionRounding(const ConversionRounding&) = delete;
+  ConversionRounding& operator=(const ConversionRounding&) = delete;
+
+ private:
+  unsigned want_, old_;
+};
+
+// Kernels that need round-to-nearest: switch only when the caller's mode differs. The
+// register is per thread, so a parallel body takes its own guard.
+class NearestRounding {
+ public:
+  NearestRounding() : saved_(ps_get_ssx() & kRoundingMask) {
+    if (saved_) ps_set_ssx(0, kRoundingMask);
+  }
+  ~NearestRounding() {
+    if (saved_) ps_set_ssx(saved_, kRoundingMask);
+  }
+  NearestRounding(const NearestRounding&) = delete;
+  NearestRounding& operator=(const NearestRounding&) = delete;
+
+ private:
+  unsigned saved_;
+};
+
+}  // namespace lumi
