@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Builds the library and runs every test.
+#   scripts/test.sh            native x86-64 build (build/)
+#   scripts/test.sh i386       32-bit x86 build, -m32 with SSE3 baseline (build-i386/)
+#   scripts/test.sh sanitize   AddressSanitizer + UndefinedBehaviorSanitizer build (build-asan/)
+# Installs the Debian packages it needs first.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+kind=${1:-native}
+jobs=$(nproc)
+case "$kind" in
+  native)   dir=build;      opts=() ;                                   deps=() ;;
+  i386)     dir=build-i386; opts=(-DLUMI_I386=ON -DLUMI_BUILD_BENCH=OFF -DLUMI_BUILD_DEMO=OFF); deps=(--i386) ;;
+  sanitize) dir=build-asan; opts=(-DLUMI_SANITIZE=ON -DLUMI_BUILD_BENCH=OFF -DLUMI_BUILD_DEMO=OFF); deps=() ;;
+  *) echo "usage: scripts/test.sh [native|i386|sanitize]" >&2; exit 2 ;;
+esac
+bash scripts/install-deps.sh "${deps[@]}"
+cmake -S . -B "$dir" -DCMAKE_BUILD_TYPE=Release "${opts[@]}" >/dev/null
+cmake --build "$dir" -j "$jobs"
+export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1:abort_on_error=1}
+export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1}
+ctest --test-dir "$dir" --output-on-failure -j "$jobs"
