@@ -1,0 +1,212 @@
+// Single-precision image arithmetic: Add, Sub, Mul, Div between two images and with a
+// per-channel constant. Every element gets the IEEE single-precision operation; the constant
+// division multiplies by the single-precision reciprocal of the constant.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "src/arith/float_arith.cpp"
+#include "hwy/foreach_target.h"
+#include "hwy/highway.h"
+#include "core/frame.h"
+#include "arith/float_kernels-inl.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace lumi {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+template <int OP, class V>
+HWY_INLINE V VOp(V x, V y) {
+  if constexpr (OP == 0) return hn::Add(x, y);
+  else if constexpr (OP == 1) return hn::Sub(x, y);
+  else if constexpr (OP == 2) return hn::Mul(x, y);
+  else return hn::Div(x, y);
+}
+
+// out = x op y over n elements; for division, reports whether an owned divisor was zero.
+template <int OP>
+int BinaryRowSimd(const float* x, const float* y, float* out, int n, const RowPattern<float>* pat) {
+  const hn::ScalableTag<float> d;
+  auto zeros = hn::Zero(d);
+  int tailZero = 0;
+  ForEachVector(
+      d, static_cast<size_t>(n), pat ? pat->period : 1,
+      [&](size_t i, size_t off) {
+        const auto yv = hn::LoadU(d, y + i);
+        if constexpr (OP == 3) {
+          auto z = hn::VecFromMask(d, hn::Eq(yv, hn::Zero(d)));
+          if (pat && pat->masked) z = hn::And(z, hn::LoadU(d, pat->mask + off));
+          zeros = hn::Or(zeros, z);
+        }
+        StoreOwned(d, VOp<OP>(hn::LoadU(d, x + i), yv), out + i, pat, off);
+      },
+      [&](size_t i, size_t off) {
+        if (!Owns(pat, off)) return;
+        if (OP == 3 && y[i] == 0.0f) tailZero = 1;
+        out[i] = fop<OP>(x[i], y[i]);
+      });
+  return tailZero | !hn::AllFalse(d, hn::MaskFromVec(zeros));
+}
+
+// out = x op constant, the constant taken per element from the pattern.
+template <int OP>
+void ConstRowSimd(const float* x, float* out, int n, const RowPattern<float>* pat) {
+  const hn::ScalableTag<float> d;
+  ForEachVector(
+      d, static_cast<size_t>(n), pat->period,
+      [&](size_t i, size_t off) {
+        StoreOwned(d, VOp<OP>(hn::LoadU(d, x + i), hn::LoadU(d, pat->value + off)), out + i,
+                   pat, off);
+      },
+      [&](size_t i, size_t off) {
+        if (Owns(pat, off)) out[i] = fop<OP>(x[i], pat->value[off]);
+      });
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace lumi
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+#include "core/simd.h"
+
+namespace lumi {
+
+LUMI_SIMD_TABLE(F32BinaryRow, kAddRow, BinaryRowSimd<0>);
+LUMI_SIMD_TABLE(F32BinaryRow, kSubRow, BinaryRowSimd<1>);
+LUMI_SIMD_TABLE(F32BinaryRow, kMulRow, BinaryRowSimd<2>);
+LUMI_SIMD_TABLE(F32BinaryRow, kDivRow, BinaryRowSimd<3>);
+LUMI_SIMD_TABLE(F32ConstRow, kAddCRow, ConstRowSimd<0>);
+LUMI_SIMD_TABLE(F32ConstRow, kSubCRow, ConstRowSimd<1>);
+LUMI_SIMD_TABLE(F32ConstRow, kMulCRow, ConstRowSimd<2>);
+
+namespace {
+
+template <int OP>
+int binaryRowScalar(const float* x, const float* y, float* out, int n,
+                    const RowPattern<float>* pat) {
+  int zero = 0;
+  for (int i = 0; i < n; ++i) {
+    if (pat && !pat->writes(i)) continue;
+    if (OP == 3 && y[i] == 0.0f) zero = 1;
+    out[i] = fop<OP>(x[i], y[i]);
+  }
+  return zero;
+}
+
+template <int OP>
+void constRowScalar(const float* x, float* out, int n, const RowPattern<float>* pat) {
+  for (int i = 0; i < n; ++i)
+    if (pat->writes(i)) out[i] = fop<OP>(x[i], pat->value[i % pat->period]);
+}
+
+// Image-image members; x is the second operand image (src2 or the in-place image), y the
+// first, so Sub gives src2 - src1 and Div src2 / src1.
+template <class L>
+LumStatus binary32f(int op, const float* s1, int s1Step, const float* s2, int s2Step, float* d,
+                    int dStep, LumiSize roi) {
+  if (anyNull(s1, s2, d)) return lumStatusNullPtrErr;
+  if (badSize(roi)) return lumStatusSizeErr;
+  if (op == 3 && badStep(s1Step, s2Step, dStep)) return lumStatusStepErr;
+  const bool masked = L::kUse < L::kCh;
+  RowPattern<float> pat(masked ? L::kCh : 1, masked ? L::kUse : 1, nullptr);
+  F32BinaryRow row = pickF32Binary(op);
+  const int n = roi.width * L::kCh;
+  FirstStatus status;
+  for (int y = 0; y < roi.height; ++y)
+    if (row(rowAt(s2, s2Step, y), rowAt(s1, s1Step, y), rowAt(d, dStep, y), n,
+            masked ? &pat : nullptr))
+      status.add(lumStatusDivByZeroWarn);
+  return status.value;
+}
+
+// Constant members; op 3 (DivC) becomes a multiplication by the reciprocals.
+template <class L>
+LumStatus const32f(int op, const float* s, int sStep, const float* value, float* d, int dStep,
+                   LumiSize roi) {
+  if (anyNull(s, value, d)) return lumStatusNullPtrErr;
+  if (badSize(roi)) return lumStatusSizeErr;
+  float c[4] = {0, 0, 0, 0};
+  for (int k = 0; k < L::kUse; ++k) c[k] = value[k];
+  if (op == 3) {
+    if (badStep(sStep, dStep)) return lumStatusStepErr;
+    for (int k = 0; k < L::kUse; ++k)
+      if (c[k] == 0.0f) return lumStatusDivisorZeroErr;
+    for (int k = 0; k < L::kUse; ++k) c[k] = 1.0f / c[k];
+    op = 2;
+  }
+  RowPattern<float> pat(L::kCh, L::kUse, c);
+  F32ConstRow row = pickF32Const(op);
+  const int n = roi.width * L::kCh;
+  for (int y = 0; y < roi.height; ++y) row(rowAt(s, sStep, y), rowAt(d, dStep, y), n, &pat);
+  return lumStatusOk;
+}
+
+}  // namespace
+
+F32BinaryRow pickF32Binary(int op) {
+  static F32BinaryRow const scalar[4] = {binaryRowScalar<0>, binaryRowScalar<1>,
+                                         binaryRowScalar<2>, binaryRowScalar<3>};
+  F32BinaryRow simd = nullptr;
+  switch (op) {
+    case 0: simd = pickSimd(kAddRow); break;
+    case 1: simd = pickSimd(kSubRow); break;
+    case 2: simd = pickSimd(kMulRow); break;
+    default: simd = pickSimd(kDivRow); break;
+  }
+  return simd ? simd : scalar[op & 3];
+}
+
+F32ConstRow pickF32Const(int op) {
+  static F32ConstRow const scalar[3] = {constRowScalar<0>, constRowScalar<1>, constRowScalar<2>};
+  F32ConstRow simd = nullptr;
+  switch (op) {
+    case 0: simd = pickSimd(kAddCRow); break;
+    case 1: simd = pickSimd(kSubCRow); break;
+    default: simd = pickSimd(kMulCRow); break;
+  }
+  return simd ? simd : scalar[op > 2 ? 2 : op];
+}
+
+}  // namespace lumi
+
+// ---- exports -------------------------------------------------------------------------------
+#define LUMI_F32_BIN_ONE(NAME, OP, L)                                                         \
+  LUMI_API LumStatus lumi##NAME##_32f_##L##R(const Lum32f* a, int as, const Lum32f* b, int bs, \
+                                             Lum32f* d, int ds, LumiSize r) {                  \
+    return lumi::binary32f<lumi::L>(OP, a, as, b, bs, d, ds, r);                               \
+  }                                                                                            \
+  LUMI_API LumStatus lumi##NAME##_32f_##L##IR(const Lum32f* s, int ss, Lum32f* sd, int sds,    \
+                                              LumiSize r) {                                    \
+    return lumi::binary32f<lumi::L>(OP, s, ss, sd, sds, sd, sds, r);                           \
+  }
+#define LUMI_F32_BIN(NAME, OP)   \
+  LUMI_F32_BIN_ONE(NAME, OP, C1) \
+  LUMI_F32_BIN_ONE(NAME, OP, C3) \
+  LUMI_F32_BIN_ONE(NAME, OP, C4) \
+  LUMI_F32_BIN_ONE(NAME, OP, AC4)
+
+#define LUMI_F32_CONST_ONE(NAME, OP, L, VT, VP)                                                \
+  LUMI_API LumStatus lumi##NAME##_32f_##L##R(const Lum32f* s, int ss, VT value, Lum32f* d,      \
+                                             int ds, LumiSize r) {                              \
+    return lumi::const32f<lumi::L>(OP, s, ss, VP, d, ds, r);                                    \
+  }                                                                                             \
+  LUMI_API LumStatus lumi##NAME##_32f_##L##IR(VT value, Lum32f* sd, int sds, LumiSize r) {      \
+    return lumi::const32f<lumi::L>(OP, sd, sds, VP, sd, sds, r);                                \
+  }
+#define LUMI_F32_CONST(NAME, OP)                                      \
+  LUMI_F32_CONST_ONE(NAME, OP, C1, Lum32f, &value)                    \
+  LUMI_F32_CONST_ONE(NAME, OP, C3, const Lum32f*, value)              \
+  LUMI_F32_CONST_ONE(NAME, OP, C4, const Lum32f*, value)              \
+  LUMI_F32_CONST_ONE(NAME, OP, AC4, const Lum32f*, value)
+
+extern "C" {
+LUMI_F32_BIN(Add, 0)
+LUMI_F32_BIN(Sub, 1)
+LUMI_F32_BIN(Mul, 2)
+LUMI_F32_BIN(Div, 3)
+LUMI_F32_CONST(AddC, 0)
+LUMI_F32_CONST(SubC, 1)
+LUMI_F32_CONST(MulC, 2)
+LUMI_F32_CONST(DivC, 3)
+}
+
+#endif  // HWY_ONCE

@@ -1,0 +1,124 @@
+// Shared pieces of the floating-point, complex and pointwise-maths row kernels: per-element
+// patterns (channel constants and the write mask of AC4 layouts), scaled integer rounding of
+// exact 64-bit results, and the row functions one family borrows from another.
+#pragma once
+
+#include "core/frame.h"
+
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+
+namespace lumi {
+
+// Widest vector, in lanes of the smallest element, that any kernel uses.
+constexpr int kPatLanes = 64;
+constexpr int kMaxPeriod = 8;
+
+// The per-element view of one pixel layout: element i of a row uses value[i % period] and is
+// written only when mask[i % period] is all ones. Both arrays repeat the period kPatLanes
+// times, so a vector kernel reads the pattern of the k-th vector of a cycle at k * lanes.
+template <class T>
+struct RowPattern {
+  alignas(64) T value[kMaxPeriod * kPatLanes];
+  alignas(64) T mask[kMaxPeriod * kPatLanes];
+  int period = 1, use = 1;
+  bool masked = false;
+
+  // per: elements per pixel; use: leading elements of each pixel written; c: per values or
+  // null when the row has no constant operand.
+  RowPattern(int per, int used, const T* c) : period(per), use(used), masked(used < per) {
+    for (int i = 0; i < per * kPatLanes; ++i) {
+      int e = i % per;
+      value[i] = c ? c[e] : T();
+      std::memset(&mask[i], e < used ? 0xff : 0, sizeof(T));
+    }
+  }
+  bool writes(int i) const {  // scalar kernels: is element i of a row written?
+    return !masked || (i % period) < use;
+  }
+};
+
+// Elements per pixel and elements written per pixel of a layout whose channels hold `parts`
+// scalars each (2 for complex pixels).
+template <class L>
+constexpr int perPixel(int parts = 1) { return L::kCh * parts; }
+template <class L>
+constexpr int usedPerPixel(int parts = 1) { return L::kUse * parts; }
+
+// Rows of the 32f Abs, Sqr and Sqrt members advance by the step with its two low bits
+// cleared; the 16s Abs members clear the lowest bit.
+inline int stepDown(int step, int bytes) { return step & ~(bytes - 1); }
+
+// ---- scaled integer results ---------------------------------------------------------------
+// Multiplies an exact result given as sign and magnitude (magnitude up to 2^63) by 2^-sf,
+// rounds ties to even and saturates to [lo, hi].
+inline int64_t scaleMagnitude(bool negative, uint64_t mag, int sf, int64_t lo, int64_t hi) {
+  uint64_t limit = negative ? static_cast<uint64_t>(-(lo + 1)) + 1u : static_cast<uint64_t>(hi);
+  uint64_t q;
+  if (mag == 0) return 0;
+  if (sf > 0) {
+    if (sf >= 64) {
+      q = 0;  // mag / 2^64 is at most one half, and that tie goes to the even 0
+    } else {
+      uint64_t half = uint64_t{1} << (sf - 1);
+      uint64_t rem = mag & ((half << 1) - 1);
+      q = mag >> sf;
+      if (rem > half || (rem == half && (q & 1u))) ++q;
+    }
+  } else if (sf < 0) {
+    int k = -sf;
+    q = (k >= 63 || mag > (limit >> k)) ? limit : mag << k;
+  } else {
+    q = mag;
+  }
+  if (q > limit) q = limit;
+  return negative ? -static_cast<int64_t>(q) : static_cast<int64_t>(q);
+}
+
+inline int64_t scaleInt64(int64_t v, int sf, int64_t lo, int64_t hi) {
+  bool neg = v < 0;
+  uint64_t mag = neg ? 0u - static_cast<uint64_t>(v) : static_cast<uint64_t>(v);
+  return scaleMagnitude(neg, mag, sf, lo, hi);
+}
+
+// Round half to even without relying on the processor's rounding mode.
+inline double roundHalfEven(double x) {
+  double f = std::floor(x);
+  double diff = x - f;
+  if (diff > 0.5) return f + 1.0;
+  if (diff < 0.5) return f;
+  return std::fmod(f, 2.0) == 0.0 ? f : f + 1.0;
+}
+
+// A double result multiplied by 2^-sf, rounded half to even and saturated to [lo, hi]; NaN
+// gives 0.
+inline double scaleDouble(double v, int sf, double lo, double hi) {
+  double s = std::ldexp(v, -sf);
+  if (std::isnan(s)) return 0.0;
+  if (s <= lo) return lo;
+  if (s >= hi) return hi;
+  s = roundHalfEven(s);
+  return s > hi ? hi : s < lo ? lo : s;
+}
+
+// The four IEEE operations of the 32f rows, by code: 0 x + y, 1 x - y, 2 x * y, 3 x / y.
+template <int OP>
+inline float fop(float x, float y) {
+  if constexpr (OP == 0) return x + y;
+  else if constexpr (OP == 1) return x - y;
+  else if constexpr (OP == 2) return x * y;
+  else return x / y;
+}
+
+// ---- row functions shared between files ---------------------------------------------------
+// 32f element rows (also used for the parts of complex pixels). op: 0 x + y, 1 x - y,
+// 2 x * y, 3 x / y. The binary form takes a second row, the constant form the pattern's
+// values. Returns nonzero when the division met a zero divisor.
+using F32BinaryRow = int (*)(const float* x, const float* y, float* out, int n,
+                             const RowPattern<float>* pat);
+using F32ConstRow = void (*)(const float* x, float* out, int n, const RowPattern<float>* pat);
+F32BinaryRow pickF32Binary(int op);
+F32ConstRow pickF32Const(int op);
+
+}  // namespace lumi
