@@ -1,0 +1,536 @@
+// Integer arithmetic with scale factors: every member against a plain reference written from
+// the rounding and saturation rules, the validation orders, the shortcuts and the threads.
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <functional>
+#include <limits>
+#include <string>
+
+#include "lumitest.h"
+
+namespace {
+using namespace lumitest;
+
+enum Op { Add, Sub, Mul, Div };
+
+// ---- reference ---------------------------------------------------------------------------------
+template <class T>
+int64_t clampTo(int64_t v) {
+  return std::min<int64_t>(std::max<int64_t>(v, std::numeric_limits<T>::min()),
+                           std::numeric_limits<T>::max());
+}
+
+// r x 2^-sf, ties to even, by floor division and the remainder.
+int64_t scaleRef(int64_t r, int sf) {
+  if (sf <= 0) return r * (int64_t(1) << std::min(-sf, 20));  // 2^20 saturates anything
+  if (sf > 40) return 0;
+  const int64_t p = int64_t(1) << sf;
+  int64_t q = r >= 0 ? r / p : -((-r + p - 1) / p);
+  const int64_t rem = r - q * p;
+  if (2 * rem > p || (2 * rem == p && (q & 1))) ++q;
+  return q;
+}
+
+// `first` and `second` in the order of the two-image functions: Sub gives second - first,
+// Div second / first.
+template <class T>
+T reference(Op op, T first, T second, int sf) {
+  if (op == Div) {
+    if (first == 0) return second == 0 ? 0 : second > 0 ? std::numeric_limits<T>::max()
+                                                          : std::numeric_limits<T>::min();
+    // single-precision quotient, scaled, rounded to nearest
+    const float q = float(second) / float(first) * std::ldexp(1.0f, -std::max(-40, std::min(sf, 40)));
+    return T(clampTo<T>(int64_t(std::nearbyint(double(q)))));
+  }
+  int64_t r = op == Add ? int64_t(first) + second : op == Mul ? int64_t(first) * second
+                                                               : int64_t(second) - first;
+  if (std::is_unsigned_v<T> && r < 0) r = 0;
+  return T(clampTo<T>(scaleRef(r, sf)));
+}
+
+// ---- the members, called through one shape -------------------------------------------------
+template <class T>
+struct Member {
+  std::string name;
+  Op op;
+  int ch;        // channels in memory
+  bool ac4, inPlace, isConst, checksSteps, forks;
+  // image forms: (src1, st1, src2, st2, dst, dstStep); in place src2 must equal dst.
+  // constant forms: (src, st, -, -, dst, dstStep) with the values in v.
+  std::function<LumStatus(const T*, int, const T*, int, T*, int, LumiSize, const T*, int)> call;
+};
+template <class T>
+std::vector<Member<T>>& members() {
+  static std::vector<Member<T>> m;
+  return m;
+}
+
+// Which members test steps, as documented for each of them.
+bool stepChecked(Op op, const std::string& type, const std::string& layout, bool inPlace,
+                 bool isConst) {
+  if (op == Add || op == Sub || type == "16u") return false;
+  if (op == Div) return !inPlace;
+  if (type == "8u") return false;
+  if (!isConst) return layout == "AC4";
+  return layout == "AC4" || layout == "C4" || (layout == "C3" && !inPlace);
+}
+
+template <class T>
+void addMember(const char* opName, Op op, bool isConst, const char* type, const char* layout,
+               bool inPlace, decltype(Member<T>::call) f) {
+  const std::string l = layout;
+  Member<T> m;
+  m.name = std::string(opName) + "_" + type + "_" + l + (inPlace ? "IRSfs" : "RSfs");
+  m.op = op;
+  m.ch = l == "C1" ? 1 : l == "C3" ? 3 : 4;
+  m.ac4 = l == "AC4";
+  m.inPlace = inPlace;
+  m.isConst = isConst;
+  m.checksSteps = stepChecked(op, type, l, inPlace, isConst);
+  m.forks = l == "C1" && std::string(type) != "16u" && (op == Add || (op == Mul && !isConst));
+  m.call = std::move(f);
+  members<T>().push_back(std::move(m));
+}
+
+#define IMG_L(OP, TC, T, L)                                                                   \
+  addMember<T>(#OP, OP, false, #TC, #L, false,                                                \
+               [](const T* a, int sa, const T* b, int sb, T* d, int sd, LumiSize r, const T*, \
+                  int sf) { return lumi##OP##_##TC##_##L##RSfs(a, sa, b, sb, d, sd, r, sf); }); \
+  addMember<T>(#OP, OP, false, #TC, #L, true,                                                 \
+               [](const T* a, int sa, const T*, int, T* d, int sd, LumiSize r, const T*,      \
+                  int sf) { return lumi##OP##_##TC##_##L##IRSfs(a, sa, d, sd, r, sf); });
+#define CONST_L(OP, OPC, TC, T, L)                                                            \
+  addMember<T>(#OP "C", OP, true, #TC, #L, false,                                             \
+               [](const T* a, int sa, const T*, int, T* d, int sd, LumiSize r, const T* v,    \
+                  int sf) { return lumi##OPC##_##TC##_##L##RSfs(a, sa, v, d, sd, r, sf); });  \
+  addMember<T>(#OP "C", OP, true, #TC, #L, true,                                              \
+               [](const T*, int, const T*, int, T* d, int sd, LumiSize r, const T* v,         \
+                  int sf) { return lumi##OPC##_##TC##_##L##IRSfs(v, d, sd, r, sf); });
+#define ALL_L(OP, TC, T)                                                                      \
+  IMG_L(OP, TC, T, C1) IMG_L(OP, TC, T, C3) IMG_L(OP, TC, T, AC4) IMG_L(OP, TC, T, C4)        \
+  addMember<T>(#OP "C", OP, true, #TC, "C1", false,                                           \
+               [](const T* a, int sa, const T*, int, T* d, int sd, LumiSize r, const T* v,    \
+                  int sf) { return lumi##OP##C_##TC##_C1RSfs(a, sa, *v, d, sd, r, sf); });    \
+  addMember<T>(#OP "C", OP, true, #TC, "C1", true,                                            \
+               [](const T*, int, const T*, int, T* d, int sd, LumiSize r, const T* v,         \
+                  int sf) { return lumi##OP##C_##TC##_C1IRSfs(*v, d, sd, r, sf); });          \
+  CONST_L(OP, OP##C, TC, T, C3) CONST_L(OP, OP##C, TC, T, AC4) CONST_L(OP, OP##C, TC, T, C4)
+#define ALL_OPS(TC, T) ALL_L(Add, TC, T) ALL_L(Sub, TC, T) ALL_L(Mul, TC, T) ALL_L(Div, TC, T)
+
+const bool registered = [] {
+  ALL_OPS(8u, Lum8u)
+  ALL_OPS(16u, Lum16u)
+  ALL_OPS(16s, Lum16s)
+  return true;
+}();
+
+TEST(ArithScaled, EveryMemberIsListed) {
+  ASSERT_TRUE(registered);
+  EXPECT_EQ(members<Lum8u>().size() + members<Lum16u>().size() + members<Lum16s>().size(), 192u);
+}
+
+// ---- one call against the reference ---------------------------------------------------------------
+template <class T>
+T specialOrRandom(Rng& r) {
+  const T specials[] = {0, 1, 2, 3, std::numeric_limits<T>::max(), std::numeric_limits<T>::min(),
+                        T(std::numeric_limits<T>::max() - 1), T(std::numeric_limits<T>::min() + 1)};
+  return randInt(r, 0, 3) == 0 ? specials[randInt(r, 0, 7)] : randomValue<T>(r);
+}
+
+template <class T>
+struct Setup {
+  GuardedImage<T> s1, s2, d;
+  T vals[4] = {0, 0, 0, 0};
+  Setup(const Member<T>& m, LumiSize roi, uint32_t seed)
+      : s1(roi.width, roi.height, m.ch, -1, -1, seed),
+        s2(roi.width, roi.height, m.ch, -1, -1, seed + 1),
+        d(roi.width, roi.height, m.ch, -1, -1, seed + 2) {}
+  LumStatus run(const Member<T>& m, LumiSize roi, int sf) {
+    return m.call(s1.ptr(), s1.step(), s2.ptr(), s2.step(), d.ptr(),
+                  d.step(), roi, vals, sf);
+  }
+};
+
+// Fills the operands and returns the expected destination and status. In place, the
+// destination holds the second image (or the source of the constant forms).
+template <class T>
+std::vector<T> prepare(const Member<T>& m, Setup<T>& s, Rng& rng, int sf, LumStatus* status) {
+  auto fill = [&](GuardedImage<T>& g) { g.fill([&](int, int, int) { return specialOrRandom<T>(rng); }); };
+  fill(s.s1);
+  fill(s.s2);
+  fill(s.d);
+  if (m.inPlace) s.d.fill([&](int x, int y, int c) { return m.isConst ? s.s1.at(x, y, c) : s.s2.at(x, y, c); });
+  const int nv = m.ch == 1 ? 1 : m.ac4 ? 3 : m.ch;
+  const int kind = randInt(rng, 0, 5);  // sometimes all zero, all one or all equal
+  const T same = kind == 0 ? T(0) : kind == 1 ? T(1) : specialOrRandom<T>(rng);
+  for (int c = 0; c < nv; ++c) s.vals[c] = kind <= 2 ? same : specialOrRandom<T>(rng);
+  std::vector<T> want = s.d.pixels();
+  *status = lumStatusOk;
+  if (m.isConst && m.op == Div)
+    for (int c = 0; c < nv; ++c)
+      if (s.vals[c] == 0) *status = lumStatusDivisorZeroErr;
+  if (*status != lumStatusOk) return want;
+  std::size_t k = 0;
+  for (int y = 0; y < s.d.height(); ++y)
+    for (int x = 0; x < s.d.width(); ++x)
+      for (int c = 0; c < m.ch; ++c, ++k) {
+        if (m.ac4 && c == 3) continue;
+        T first, second;
+        if (m.isConst) {
+          const T src = s.s1.at(x, y, c), v = s.vals[c];
+          // src - value and src / value: the constant is the first operand there
+          first = (m.op == Sub || m.op == Div) ? v : src;
+          second = (m.op == Sub || m.op == Div) ? src : v;
+        } else {
+          first = s.s1.at(x, y, c);
+          second = m.inPlace ? s.d.at(x, y, c) : s.s2.at(x, y, c);
+          if (m.op == Div && first == 0) *status = lumStatusDivByZeroWarn;
+        }
+        want[k] = reference<T>(m.op, first, second, sf);
+      }
+  return want;
+}
+
+int randomScale(Rng& r) {
+  const int pick = randInt(r, 0, 9);
+  if (pick < 2) return randInt(r, -2, 2);
+  if (pick < 8) return randInt(r, -18, 33);
+  return randInt(r, -40, 40);
+}
+
+template <class T>
+void compareAll(uint32_t salt) {
+  Rng rng = makeRng(salt);
+  for (const Member<T>& m : members<T>()) {
+    for (int iter = 0; iter < 24; ++iter) {
+      const LumiSize roi = randomSize(rng, iter < 4 ? 300 : 67, 7);
+      int sf = randomScale(rng);
+      Setup<T> s(m, roi, rng());
+      LumStatus want;
+      std::vector<T> expect = prepare(m, s, rng, sf, &want);
+      const LumStatus got = s.run(m, roi, sf);
+      SCOPED_TRACE(m.name + " sf " + std::to_string(sf) + " size " + std::to_string(roi.width) +
+                   "x" + std::to_string(roi.height));
+      ASSERT_EQ(got, want);
+      ASSERT_TRUE(sameElements(s.d.pixels(), expect, roi.width * m.ch));
+      ASSERT_TRUE(s.d.guardsIntact());
+      ASSERT_TRUE(s.s1.guardsIntact());
+    }
+  }
+}
+
+TEST(ArithScaled, EightBitMembersMatchTheReference) { compareAll<Lum8u>(1); }
+TEST(ArithScaled, SixteenBitUnsignedMembersMatchTheReference) { compareAll<Lum16u>(2); }
+TEST(ArithScaled, SixteenBitSignedMembersMatchTheReference) { compareAll<Lum16s>(3); }
+
+// The reference divides in single precision; for 8u that is the exactly rounded quotient.
+TEST(ArithScaled, EightBitDivisionRoundsExactQuotientsToEven) {
+  std::vector<Lum8u> a(256 * 256), b(256 * 256), d(256 * 256);
+  for (int i = 0; i < 256 * 256; ++i) a[i] = Lum8u(i & 255), b[i] = Lum8u(i >> 8);
+  for (int sf : {-9, -3, -1, 0, 1, 2, 5, 8}) {
+    // rows of 256: row i divides every dividend by i
+    ASSERT_EQ(lumiDiv_8u_C1RSfs(b.data(), 256, a.data(), 256, d.data(), 256, {256, 256}, sf),
+              lumStatusDivByZeroWarn);
+    for (int i = 256; i < 256 * 256; ++i) {
+      const int64_t num = int64_t(a[i]) << std::max(0, -sf), den = int64_t(b[i]) << std::max(0, sf);
+      int64_t q = num / den, rem = num - q * den;
+      if (2 * rem > den || (2 * rem == den && (q & 1))) ++q;
+      ASSERT_EQ(d[i], std::min<int64_t>(q, 255)) << int(a[i]) << "/" << int(b[i]) << " sf " << sf;
+    }
+  }
+}
+
+TEST(ArithScaled, DocumentedValues) {
+  Lum8u a = 200, b = 100, d = 0;
+  auto add = [&](Lum8u x, Lum8u y, int sf) {
+    a = x, b = y;
+    EXPECT_EQ(lumiAdd_8u_C1RSfs(&a, 1, &b, 1, &d, 1, {1, 1}, sf), 0);
+    return int(d);
+  };
+  EXPECT_EQ(add(200, 100, 0), 255);
+  EXPECT_EQ(add(200, 100, 1), 150);
+  EXPECT_EQ(add(1, 2, 1), 2);
+  EXPECT_EQ(add(2, 3, 1), 2);
+  EXPECT_EQ(add(255, 255, 9), 1);
+  EXPECT_EQ(add(255, 255, 10), 0);
+  EXPECT_EQ(add(0, 0, -8), 0);
+  EXPECT_EQ(add(0, 1, -8), 255);
+  EXPECT_EQ(add(0, 1, -7), 128);
+  a = 10, b = 3;
+  EXPECT_EQ(lumiSub_8u_C1RSfs(&a, 1, &b, 1, &d, 1, {1, 1}, 0), 0);
+  EXPECT_EQ(d, 0);
+  a = 3, b = 10;
+  EXPECT_EQ(lumiSub_8u_C1RSfs(&a, 1, &b, 1, &d, 1, {1, 1}, 0), 0);
+  EXPECT_EQ(d, 7);
+  a = b = 255;
+  EXPECT_EQ(lumiMul_8u_C1RSfs(&a, 1, &b, 1, &d, 1, {1, 1}, 8), 0);
+  EXPECT_EQ(d, 254);
+  EXPECT_EQ(lumiMul_8u_C1RSfs(&a, 1, &b, 1, &d, 1, {1, 1}, 4), 0);
+  EXPECT_EQ(d, 255);
+  // 16u products need 33 bits before rounding at the largest scale factor
+  Lum16u p = 65535, q = 65535, r = 7;
+  EXPECT_EQ(lumiMul_16u_C1RSfs(&p, 2, &q, 2, &r, 2, {1, 1}, 32), 0);
+  EXPECT_EQ(r, 1);
+  q = 32768;  // 2^31 - 32768: just under a half
+  EXPECT_EQ(lumiMul_16u_C1RSfs(&p, 2, &q, 2, &r, 2, {1, 1}, 32), 0);
+  EXPECT_EQ(r, 0);
+  Lum16s s = -32768, t = -32768, u = 0;
+  EXPECT_EQ(lumiMul_16s_C1RSfs(&s, 2, &t, 2, &u, 2, {1, 1}, 30), 0);
+  EXPECT_EQ(u, 1);
+  EXPECT_EQ(lumiMul_16s_C1RSfs(&s, 2, &t, 2, &u, 2, {1, 1}, 31), 0);  // 0.5 -> 0
+  EXPECT_EQ(u, 0);
+}
+
+// ---- division by zero ------------------------------------------------------------------------
+TEST(ArithScaled, ImageDivisionByZeroIsAWarningWithDefinedValues) {
+  Lum8u div8[4] = {0, 0, 2, 2}, num8[4] = {7, 0, 5, 7}, out8[4];
+  EXPECT_EQ(lumiDiv_8u_C1RSfs(div8, 4, num8, 4, out8, 4, {4, 1}, 0), lumStatusDivByZeroWarn);
+  EXPECT_EQ(out8[0], 255);
+  EXPECT_EQ(out8[1], 0);
+  EXPECT_EQ(out8[2], 2);  // 2.5 to even
+  EXPECT_EQ(out8[3], 4);  // 3.5 to even
+  Lum16s div16[3] = {0, 0, 0}, num16[3] = {5, -5, 0};
+  EXPECT_EQ(lumiDiv_16s_C1IRSfs(div16, 6, num16, 6, {3, 1}, -40), lumStatusDivByZeroWarn);
+  EXPECT_EQ(num16[0], 32767);
+  EXPECT_EQ(num16[1], -32768);
+  EXPECT_EQ(num16[2], 0);
+  Lum16u du[2] = {0, 3}, nu[2] = {9, 9}, ou[2];
+  EXPECT_EQ(lumiDiv_16u_C1RSfs(du, 4, nu, 4, ou, 4, {2, 1}, 20), lumStatusDivByZeroWarn);
+  EXPECT_EQ(ou[0], 65535);
+  EXPECT_EQ(ou[1], 0);
+
+  // a zero divisor only in the last row still reports, and every row is written
+  GuardedImage<Lum8u> a(19, 6, 1), b(19, 6, 1), d(19, 6, 1);
+  a.fill([](int, int y, int) { return Lum8u(y == 5 ? 0 : 3); });
+  b.fill([](int x, int, int) { return Lum8u(x); });
+  EXPECT_EQ(lumiDiv_8u_C1RSfs(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), a.roi(), 0),
+            lumStatusDivByZeroWarn);
+  EXPECT_EQ(d.at(18, 0), 6);
+  EXPECT_EQ(d.at(18, 5), 255);
+  EXPECT_TRUE(d.guardsIntact());
+
+  // zero divisors in the alpha channel of AC4 are not divisions that happen
+  GuardedImage<Lum8u> a4(5, 2, 4), b4(5, 2, 4), d4(5, 2, 4);
+  a4.fill([](int, int, int c) { return Lum8u(c == 3 ? 0 : 2); });
+  b4.fill([](int, int, int c) { return Lum8u(10 + c); });
+  EXPECT_EQ(lumiDiv_8u_AC4RSfs(a4.ptr(), a4.step(), b4.ptr(), b4.step(), d4.ptr(), d4.step(),
+                               a4.roi(), 0), lumStatusOk);
+  EXPECT_EQ(lumiDiv_8u_AC4IRSfs(a4.ptr(), a4.step(), b4.ptr(), b4.step(), b4.roi(), 0), lumStatusOk);
+  EXPECT_EQ(b4.at(4, 1, 3), 13);
+}
+
+TEST(ArithScaled, DivisionFollowsTheCallersRoundingMode) {
+  Lum8u div[2] = {2, 2}, num[2] = {7, 5}, out[2];
+  const unsigned old = lum_set_rc_ssx(0x6000);  // toward zero
+  EXPECT_EQ(lumiDiv_8u_C1RSfs(div, 2, num, 2, out, 2, {2, 1}, 0), 0);
+  lum_set_cw_ssx(old);
+  EXPECT_EQ(out[0], 3);
+  EXPECT_EQ(out[1], 2);
+  EXPECT_EQ(lumiDiv_8u_C1RSfs(div, 2, num, 2, out, 2, {2, 1}, 0), 0);
+  EXPECT_EQ(out[0], 4);
+  EXPECT_EQ(out[1], 2);
+}
+
+// ---- validation ---------------------------------------------------------------------------------
+template <class T>
+void validation() {
+  for (const Member<T>& m : members<T>()) {
+    SCOPED_TRACE(m.name);
+    GuardedImage<T> a(9, 3, m.ch), b(9, 3, m.ch), d(9, 3, m.ch);
+    a.fill([](int, int, int) { return T(1); });
+    b.fill([](int, int, int) { return T(1); });
+    const T ones[4] = {1, 1, 1, 1};
+    T zeroOne[4] = {1, 1, 1, 1};
+    zeroOne[m.ac4 ? 2 : m.ch - 1] = 0;
+    const LumiSize roi = a.roi(), empty{0, 3};
+    auto call = [&](const T* s1, int st1, const T* s2, int st2, T* dst, int dstep, LumiSize r,
+                    const T* v) { return m.call(s1, st1, s2, st2, dst, dstep, r, v, 0); };
+    // pointers first, even before a bad size
+    EXPECT_EQ(call(a.ptr(), a.step(), b.ptr(), b.step(), nullptr, d.step(), empty, ones), -8);
+    if (!m.isConst || !m.inPlace) {
+      EXPECT_EQ(call(nullptr, a.step(), b.ptr(), b.step(), d.ptr(), d.step(), roi, ones), -8);
+    }
+    if (!m.isConst && !m.inPlace) {
+      EXPECT_EQ(call(a.ptr(), a.step(), nullptr, b.step(), d.ptr(), d.step(), roi, ones), -8);
+    }
+    if (m.isConst && m.ch > 1) {
+      EXPECT_EQ(call(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), roi, nullptr), -8);
+    }
+    // sizes before steps
+    EXPECT_EQ(call(a.ptr(), 0, b.ptr(), 0, d.ptr(), 0, {3, 0}, ones), -6);
+    EXPECT_EQ(call(a.ptr(), -1, b.ptr(), -1, d.ptr(), -1, {0, 3}, ones), -6);
+    const std::vector<T> before = d.pixels();
+    // steps only where the member checks them, the constant divisor after the steps
+    if (!m.inPlace) {
+      EXPECT_EQ(call(a.ptr(), 0, b.ptr(), b.step(), d.ptr(), d.step(), roi, ones),
+                m.checksSteps ? -14 : 0);
+      if (!m.isConst) {
+        EXPECT_EQ(call(a.ptr(), a.step(), b.ptr(), 0, d.ptr(), d.step(), roi, ones),
+                  m.checksSteps ? -14 : 0);
+      }
+    } else {
+      EXPECT_EQ(call(a.ptr(), 0, b.ptr(), 0, d.ptr(), d.step(), roi, ones),
+                m.checksSteps && !m.isConst ? -14 : 0);
+      if (m.isConst) {
+        EXPECT_EQ(call(nullptr, 0, nullptr, 0, d.ptr(), 0, roi, ones), m.checksSteps ? -14 : 0);
+      }
+    }
+    if (m.checksSteps) {
+      EXPECT_TRUE(sameElements(d.pixels(), before));
+    }
+    if (m.op == Div && m.isConst) {
+      d.fill([](int, int, int) { return T(9); });
+      const std::vector<T> nines = d.pixels();
+      EXPECT_EQ(call(a.ptr(), a.step(), nullptr, 0, d.ptr(), d.step(), roi, zeroOne), -10);
+      EXPECT_EQ(call(a.ptr(), a.step(), nullptr, 0, d.ptr(), 0, roi, zeroOne),
+                m.checksSteps ? -14 : -10);
+      EXPECT_TRUE(sameElements(d.pixels(), nines));
+    }
+    EXPECT_TRUE(d.guardsIntact());
+  }
+}
+
+TEST(ArithScaled, ValidationOrderAndPerMemberStepChecks) {
+  validation<Lum8u>();
+  validation<Lum16u>();
+  validation<Lum16s>();
+}
+
+// An unchecked source step of zero is used as it is: every row reads the source's row 0.
+template <class T>
+void zeroSourceStep() {
+  Rng rng = makeRng(11);
+  for (const Member<T>& m : members<T>()) {
+    if (m.inPlace || m.checksSteps) continue;
+    SCOPED_TRACE(m.name);
+    GuardedImage<T> a(13, 4, m.ch), b(13, 4, m.ch), d0(13, 4, m.ch), d1(13, 4, m.ch);
+    a.fillRandom(rng);
+    b.fill([&](int, int, int) { return T(randInt(rng, 1, 100)); });
+    const T vals[4] = {3, 5, 7, 9};
+    const LumStatus s0 = m.call(a.ptr(), 0, b.ptr(), b.step(), d0.ptr(), d0.step(), a.roi(), vals, 1);
+    a.fill([&](int x, int, int c) { return a.at(x, 0, c); });
+    const LumStatus s1 = m.call(a.ptr(), a.step(), b.ptr(), b.step(), d1.ptr(), d1.step(), a.roi(), vals, 1);
+    EXPECT_EQ(s0, s1);
+    std::vector<T> p0 = d0.pixels(), p1 = d1.pixels();
+    for (std::size_t i = 3; m.ac4 && i < p0.size(); i += 4) p0[i] = p1[i] = 0;
+    EXPECT_TRUE(sameElements(p0, p1));
+  }
+}
+TEST(ArithScaled, UncheckedZeroStepsAreUsedAsTheyAre) {
+  zeroSourceStep<Lum8u>();
+  zeroSourceStep<Lum16u>();
+  zeroSourceStep<Lum16s>();
+}
+
+// ---- shortcuts ---------------------------------------------------------------------------------------
+// Memory that faults when touched: a source pointer into it proves that nothing is read.
+struct Untouchable {
+  void* base;
+  long page = sysconf(_SC_PAGESIZE);
+  Untouchable() {
+    base = mmap(nullptr, page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  }
+  ~Untouchable() { munmap(base, page); }
+  template <class T> const T* ptr() const { return static_cast<const T*>(base); }
+};
+
+TEST(ArithScaled, ZeroFillReadsNoSourceAndKeepsAlpha) {
+  Untouchable u;
+  ASSERT_NE(u.base, MAP_FAILED);
+  GuardedImage<Lum8u> d8(23, 5, 1), d4(7, 3, 4);
+  GuardedImage<Lum16u> d16(11, 4, 3);
+  GuardedImage<Lum16s> s16(9, 2, 1);
+  d8.fill([](int, int, int) { return Lum8u(77); });
+  EXPECT_EQ(lumiAdd_8u_C1RSfs(u.ptr<Lum8u>(), 1, u.ptr<Lum8u>(), 1, d8.ptr(), d8.step(), d8.roi(), 10), 0);
+  EXPECT_TRUE(sameElements(d8.pixels(), std::vector<Lum8u>(23 * 5, 0)));
+  d8.fill([](int, int, int) { return Lum8u(77); });
+  EXPECT_EQ(lumiMulC_8u_C1RSfs(u.ptr<Lum8u>(), 1, 0, d8.ptr(), d8.step(), d8.roi(), -3), 0);
+  EXPECT_TRUE(sameElements(d8.pixels(), std::vector<Lum8u>(23 * 5, 0)));
+  EXPECT_EQ(lumiSub_8u_C1RSfs(u.ptr<Lum8u>(), 1, u.ptr<Lum8u>(), 1, d8.ptr(), d8.step(), d8.roi(), 9), 0);
+  EXPECT_EQ(lumiSub_16u_C3RSfs(u.ptr<Lum16u>(), 0, u.ptr<Lum16u>(), 0, d16.ptr(), d16.step(), d16.roi(), 17), 0);
+  EXPECT_EQ(lumiMul_16s_C1IRSfs(u.ptr<Lum16s>(), 2, s16.ptr(), s16.step(), s16.roi(), 31), 0);
+  EXPECT_TRUE(sameElements(s16.pixels(), std::vector<Lum16s>(9 * 2, 0)));
+  // the fill keeps every alpha
+  d4.fill([](int, int, int) { return Lum8u(200); });
+  EXPECT_EQ(lumiAdd_8u_AC4RSfs(u.ptr<Lum8u>(), 4, u.ptr<Lum8u>(), 4, d4.ptr(), d4.step(), d4.roi(), 12), 0);
+  const Lum8u zero3[3] = {0, 0, 0};
+  d4.fill([](int, int, int) { return Lum8u(200); });
+  EXPECT_EQ(lumiMulC_8u_AC4IRSfs(zero3, d4.ptr(), d4.step(), d4.roi(), 0), 0);
+  for (int y = 0; y < 3; ++y)
+    for (int x = 0; x < 7; ++x)
+      for (int c = 0; c < 4; ++c) EXPECT_EQ(d4.at(x, y, c), c == 3 ? 200 : 0);
+  // the fill refuses a destination step below one, whatever the member checks otherwise
+  EXPECT_EQ(lumiAdd_8u_C1RSfs(u.ptr<Lum8u>(), 1, u.ptr<Lum8u>(), 1, d8.ptr(), 0, d8.roi(), 10), -14);
+  EXPECT_TRUE(d8.guardsIntact());
+  EXPECT_TRUE(d4.guardsIntact());
+  EXPECT_TRUE(d16.guardsIntact());
+  EXPECT_TRUE(s16.guardsIntact());
+}
+
+TEST(ArithScaled, IdentityConstantsCopy) {
+  Rng rng = makeRng(21);
+  GuardedImage<Lum16u> s(31, 3, 4), d(31, 3, 4);
+  s.fillRandom(rng);
+  d.fill([](int, int, int) { return Lum16u(4321); });
+  const Lum16u zeros[3] = {0, 0, 0}, ones[4] = {1, 1, 1, 1};
+  EXPECT_EQ(lumiSubC_16u_AC4RSfs(s.ptr(), s.step(), zeros, d.ptr(), d.step(), s.roi(), 0), 0);
+  for (int x = 0; x < 31; ++x)
+    for (int c = 0; c < 4; ++c) EXPECT_EQ(d.at(x, 2, c), c == 3 ? 4321 : s.at(x, 2, c));
+  EXPECT_EQ(lumiMulC_16u_C4RSfs(s.ptr(), s.step(), ones, d.ptr(), d.step(), s.roi(), 0), 0);
+  EXPECT_TRUE(sameElements(d.pixels(), s.pixels()));
+  EXPECT_TRUE(d.guardsIntact());
+}
+
+// ---- threads ------------------------------------------------------------------------------------
+template <class T>
+void threadsAgree() {
+  Rng rng = makeRng(31);
+  const int saved = threads_omp_of_n_lum;
+  for (const Member<T>& m : members<T>()) {
+    if (!m.forks) continue;
+    SCOPED_TRACE(m.name);
+    for (LumiSize roi : {LumiSize{100, 155}, LumiSize{100, 156}, LumiSize{517, 301}}) {
+      Setup<T> s(m, roi, rng());
+      LumStatus want;
+      const int sf = randInt(rng, -3, 6);
+      std::vector<T> expect = prepare(m, s, rng, sf, &want);
+      const std::vector<T> start = s.d.pixels();
+      threads_omp_of_n_lum = 1;
+      ASSERT_EQ(s.run(m, roi, sf), want);
+      const std::vector<T> one = s.d.pixels();
+      s.d.fill([&](int x, int y, int c) { return start[(std::size_t(y) * roi.width + x) * m.ch + c]; });
+      threads_omp_of_n_lum = 2;
+      ASSERT_EQ(s.run(m, roi, sf), want);
+      EXPECT_TRUE(sameElements(s.d.pixels(), one));
+      EXPECT_TRUE(sameElements(one, expect));
+      EXPECT_TRUE(s.d.guardsIntact());
+    }
+  }
+  threads_omp_of_n_lum = saved;
+}
+TEST(ArithScaled, OneAndTwoThreadsAgree) {
+  threadsAgree<Lum8u>();
+  threadsAgree<Lum16s>();
+}
+
+#ifdef LUMI_HAVE_OPENCV
+}  // namespace
+#include <opencv2/core.hpp>
+namespace {
+TEST(ArithScaled, SaturatingSumsAgreeWithOpenCV) {
+  cv::Mat a(37, 91, CV_8UC3), b(37, 91, CV_8UC3), want, got(37, 91, CV_8UC3);
+  cv::randu(a, 0, 256);
+  cv::randu(b, 0, 256);
+  cv::add(a, b, want);
+  ASSERT_EQ(lumiAdd_8u_C3RSfs(a.ptr(), int(a.step), b.ptr(), int(b.step), got.ptr(), int(got.step),
+                              {91, 37}, 0), 0);
+  EXPECT_EQ(cv::norm(want, got, cv::NORM_INF), 0);
+  cv::subtract(b, a, want);
+  ASSERT_EQ(lumiSub_8u_C3RSfs(a.ptr(), int(a.step), b.ptr(), int(b.step), got.ptr(), int(got.step),
+                              {91, 37}, 0), 0);
+  EXPECT_EQ(cv::norm(want, got, cv::NORM_INF), 0);
+}
+#endif
+
+}  // namespace
