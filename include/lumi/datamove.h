@@ -6,6 +6,196 @@
 extern "C" {
 #endif
 
+/* ---- whole-ROI, channel-of-interest and masked copies ---------------------------------- */
+LUMI_API LumStatus lumiCopy_8u_C1R(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_8u_C3R(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_8u_C4R(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_8u_AC4R(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_8u_C3C1R(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_8u_C4C1R(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_8u_C1C3R(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_8u_C1C4R(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_8u_C3CR(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_8u_C4CR(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_8u_C1MR(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_8u_C3MR(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_8u_C4MR(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_8u_AC4MR(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+
+LUMI_API LumStatus lumiCopy_16u_C1R(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16u_C3R(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16u_C4R(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16u_AC4R(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16u_C3C1R(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16u_C4C1R(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16u_C1C3R(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16u_C1C4R(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16u_C3CR(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16u_C4CR(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16u_C1MR(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_16u_C3MR(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_16u_C4MR(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_16u_AC4MR(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+
+LUMI_API LumStatus lumiCopy_16s_C1R(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16s_C3R(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16s_C4R(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16s_AC4R(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16s_C3C1R(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16s_C4C1R(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16s_C1C3R(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16s_C1C4R(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16s_C3CR(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16s_C4CR(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_16s_C1MR(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_16s_C3MR(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_16s_C4MR(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_16s_AC4MR(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+
+LUMI_API LumStatus lumiCopy_32s_C1R(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32s_C3R(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32s_C4R(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32s_AC4R(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32s_C3C1R(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32s_C4C1R(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32s_C1C3R(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32s_C1C4R(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32s_C3CR(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32s_C4CR(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32s_C1MR(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_32s_C3MR(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_32s_C4MR(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_32s_AC4MR(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+
+LUMI_API LumStatus lumiCopy_32f_C1R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32f_C3R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32f_C4R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32f_AC4R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32f_C3C1R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32f_C4C1R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32f_C1C3R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32f_C1C4R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32f_C3CR(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32f_C4CR(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiCopy_32f_C1MR(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_32f_C3MR(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_32f_C4MR(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiCopy_32f_AC4MR(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+
+/* ---- constant fills: C1 takes the value itself, C3 and AC4 three channel values, C4 four ---- */
+LUMI_API LumStatus lumiSet_8u_C1R(Lum8u value, Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_8u_C3R(const Lum8u value[3], Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_8u_C4R(const Lum8u value[4], Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_8u_AC4R(const Lum8u value[3], Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_8u_C3CR(Lum8u value, Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_8u_C4CR(Lum8u value, Lum8u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_8u_C1MR(Lum8u value, Lum8u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_8u_C3MR(const Lum8u value[3], Lum8u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_8u_C4MR(const Lum8u value[4], Lum8u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_8u_AC4MR(const Lum8u value[3], Lum8u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+
+LUMI_API LumStatus lumiSet_16u_C1R(Lum16u value, Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_16u_C3R(const Lum16u value[3], Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_16u_C4R(const Lum16u value[4], Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_16u_AC4R(const Lum16u value[3], Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_16u_C3CR(Lum16u value, Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_16u_C4CR(Lum16u value, Lum16u* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_16u_C1MR(Lum16u value, Lum16u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_16u_C3MR(const Lum16u value[3], Lum16u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_16u_C4MR(const Lum16u value[4], Lum16u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_16u_AC4MR(const Lum16u value[3], Lum16u* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+
+LUMI_API LumStatus lumiSet_16s_C1R(Lum16s value, Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_16s_C3R(const Lum16s value[3], Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_16s_C4R(const Lum16s value[4], Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_16s_AC4R(const Lum16s value[3], Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_16s_C3CR(Lum16s value, Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_16s_C4CR(Lum16s value, Lum16s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_16s_C1MR(Lum16s value, Lum16s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_16s_C3MR(const Lum16s value[3], Lum16s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_16s_C4MR(const Lum16s value[4], Lum16s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_16s_AC4MR(const Lum16s value[3], Lum16s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+
+LUMI_API LumStatus lumiSet_32s_C1R(Lum32s value, Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_32s_C3R(const Lum32s value[3], Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_32s_C4R(const Lum32s value[4], Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_32s_AC4R(const Lum32s value[3], Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_32s_C3CR(Lum32s value, Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_32s_C4CR(Lum32s value, Lum32s* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_32s_C1MR(Lum32s value, Lum32s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_32s_C3MR(const Lum32s value[3], Lum32s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_32s_C4MR(const Lum32s value[4], Lum32s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_32s_AC4MR(const Lum32s value[3], Lum32s* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+
+LUMI_API LumStatus lumiSet_32f_C1R(Lum32f value, Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_32f_C3R(const Lum32f value[3], Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_32f_C4R(const Lum32f value[4], Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_32f_AC4R(const Lum32f value[3], Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_32f_C3CR(Lum32f value, Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_32f_C4CR(Lum32f value, Lum32f* pDst, int dstStep, LumiSize roiSize);
+LUMI_API LumStatus lumiSet_32f_C1MR(Lum32f value, Lum32f* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_32f_C3MR(const Lum32f value[3], Lum32f* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_32f_C4MR(const Lum32f value[4], Lum32f* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+LUMI_API LumStatus lumiSet_32f_AC4MR(const Lum32f value[3], Lum32f* pDst, int dstStep, LumiSize roiSize, const Lum8u* pMask, int maskStep);
+
+/* ---- channel reordering: destination channel i receives source channel dstOrder[i] -------- */
+LUMI_API LumStatus lumiSwapChannels_8u_C3R(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, const int dstOrder[3]);
+LUMI_API LumStatus lumiSwapChannels_8u_AC4R(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, const int dstOrder[3]);
+LUMI_API LumStatus lumiSwapChannels_16u_C3R(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize, const int dstOrder[3]);
+LUMI_API LumStatus lumiSwapChannels_16u_AC4R(const Lum16u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize, const int dstOrder[3]);
+LUMI_API LumStatus lumiSwapChannels_32s_C3R(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize, const int dstOrder[3]);
+LUMI_API LumStatus lumiSwapChannels_32s_AC4R(const Lum32s* pSrc, int srcStep, Lum32s* pDst, int dstStep, LumiSize roiSize, const int dstOrder[3]);
+LUMI_API LumStatus lumiSwapChannels_32f_C3R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize, const int dstOrder[3]);
+LUMI_API LumStatus lumiSwapChannels_32f_AC4R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize, const int dstOrder[3]);
+LUMI_API LumStatus lumiSwapChannels_8u_C3IR(Lum8u* pSrcDst, int srcDstStep, LumiSize roiSize, const int dstOrder[3]);
+
+/* ---- grey to colour ----------------------------------------------------------------------- */
+LUMI_API LumStatus lumiDup_8u_C1C3R(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize);
+
+/* ---- border extension: the source lands at (leftBorderWidth, topBorderHeight) of the
+   destination; the in-place forms take the source inside the destination and one step --- */
+LUMI_API LumStatus lumiCopyConstBorder_8u_C1R(const Lum8u* pSrc, int srcStep, LumiSize srcRoiSize, Lum8u* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Lum8u value);
+LUMI_API LumStatus lumiCopyConstBorder_8u_C3R(const Lum8u* pSrc, int srcStep, LumiSize srcRoiSize, Lum8u* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Lum8u value[3]);
+LUMI_API LumStatus lumiCopyConstBorder_8u_C4R(const Lum8u* pSrc, int srcStep, LumiSize srcRoiSize, Lum8u* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Lum8u value[4]);
+LUMI_API LumStatus lumiCopyConstBorder_8u_AC4R(const Lum8u* pSrc, int srcStep, LumiSize srcRoiSize, Lum8u* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Lum8u value[3]);
+LUMI_API LumStatus lumiCopyReplicateBorder_8u_C1R(const Lum8u* pSrc, int srcStep, LumiSize srcRoiSize, Lum8u* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_8u_C3R(const Lum8u* pSrc, int srcStep, LumiSize srcRoiSize, Lum8u* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_8u_C4R(const Lum8u* pSrc, int srcStep, LumiSize srcRoiSize, Lum8u* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_8u_AC4R(const Lum8u* pSrc, int srcStep, LumiSize srcRoiSize, Lum8u* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_8u_C1IR(const Lum8u* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_8u_C3IR(const Lum8u* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_8u_C4IR(const Lum8u* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_8u_AC4IR(const Lum8u* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
+LUMI_API LumStatus lumiCopyConstBorder_16s_C1R(const Lum16s* pSrc, int srcStep, LumiSize srcRoiSize, Lum16s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Lum16s value);
+LUMI_API LumStatus lumiCopyConstBorder_16s_C3R(const Lum16s* pSrc, int srcStep, LumiSize srcRoiSize, Lum16s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Lum16s value[3]);
+LUMI_API LumStatus lumiCopyConstBorder_16s_C4R(const Lum16s* pSrc, int srcStep, LumiSize srcRoiSize, Lum16s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Lum16s value[4]);
+LUMI_API LumStatus lumiCopyConstBorder_16s_AC4R(const Lum16s* pSrc, int srcStep, LumiSize srcRoiSize, Lum16s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Lum16s value[3]);
+LUMI_API LumStatus lumiCopyReplicateBorder_16s_C1R(const Lum16s* pSrc, int srcStep, LumiSize srcRoiSize, Lum16s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_16s_C3R(const Lum16s* pSrc, int srcStep, LumiSize srcRoiSize, Lum16s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_16s_C4R(const Lum16s* pSrc, int srcStep, LumiSize srcRoiSize, Lum16s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_16s_AC4R(const Lum16s* pSrc, int srcStep, LumiSize srcRoiSize, Lum16s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_16s_C1IR(const Lum16s* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_16s_C3IR(const Lum16s* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_16s_C4IR(const Lum16s* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_16s_AC4IR(const Lum16s* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
+LUMI_API LumStatus lumiCopyConstBorder_32s_C1R(const Lum32s* pSrc, int srcStep, LumiSize srcRoiSize, Lum32s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Lum32s value);
+LUMI_API LumStatus lumiCopyConstBorder_32s_C3R(const Lum32s* pSrc, int srcStep, LumiSize srcRoiSize, Lum32s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Lum32s value[3]);
+LUMI_API LumStatus lumiCopyConstBorder_32s_C4R(const Lum32s* pSrc, int srcStep, LumiSize srcRoiSize, Lum32s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Lum32s value[4]);
+LUMI_API LumStatus lumiCopyConstBorder_32s_AC4R(const Lum32s* pSrc, int srcStep, LumiSize srcRoiSize, Lum32s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Lum32s value[3]);
+LUMI_API LumStatus lumiCopyReplicateBorder_32s_C1R(const Lum32s* pSrc, int srcStep, LumiSize srcRoiSize, Lum32s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_32s_C3R(const Lum32s* pSrc, int srcStep, LumiSize srcRoiSize, Lum32s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_32s_C4R(const Lum32s* pSrc, int srcStep, LumiSize srcRoiSize, Lum32s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_32s_AC4R(const Lum32s* pSrc, int srcStep, LumiSize srcRoiSize, Lum32s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_32s_C1IR(const Lum32s* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_32s_C3IR(const Lum32s* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_32s_C4IR(const Lum32s* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyReplicateBorder_32s_AC4IR(const Lum32s* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
+LUMI_API LumStatus lumiCopyWrapBorder_32s_C1R(const Lum32s* pSrc, int srcStep, LumiSize srcRoiSize, Lum32s* pDst, int dstStep, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+LUMI_API LumStatus lumiCopyWrapBorder_32s_C1IR(const Lum32s* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
 #ifdef __cplusplus
 }
 #endif

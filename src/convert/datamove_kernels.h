@@ -1,0 +1,200 @@
+// Private helpers of the data-movement family (copy, set, channel swap, duplicate, borders).
+//
+// The first part is plain C++: the scalar reference kernels, the row walker and the internal
+// entry points one source file offers the others. The second part holds the small Highway
+// helpers shared by the vector kernels; it is compiled once per SIMD target whenever this
+// header is included after "hwy/highway.h".
+#ifndef LUMI_DATAMOVE_KERNELS_H
+#define LUMI_DATAMOVE_KERNELS_H
+
+#include "core/frame.h"
+
+namespace lumi {
+namespace dm {
+
+// The vector kernels never look at values, only at bits: every element type runs on the
+// unsigned integer of its size.
+template <class T>
+using Bits = std::conditional_t<sizeof(T) == 1, uint8_t,
+                                std::conditional_t<sizeof(T) == 2, uint16_t, uint32_t>>;
+template <class T>
+inline Bits<T>* bits(T* p) { return reinterpret_cast<Bits<T>*>(p); }
+template <class T>
+inline const Bits<T>* bits(const T* p) { return reinterpret_cast<const Bits<T>*>(p); }
+
+// Calls body(y, n) for every row of the ROI with n pixels per row; when the caller has found
+// every step equal to the row length, the whole ROI is a single row of width * height pixels.
+template <class Body>
+inline void walkRows(LumiSize roi, bool oneRow, Body&& body) {
+  if (oneRow) {
+    body(0, static_cast<std::size_t>(roi.width) * static_cast<std::size_t>(roi.height));
+    return;
+  }
+  for (int y = 0; y < roi.height; ++y) body(y, static_cast<std::size_t>(roi.width));
+}
+template <class... S>
+inline bool stepsAre(std::ptrdiff_t rowBytes, S... steps) {
+  return ((static_cast<std::ptrdiff_t>(steps) == rowBytes) && ...);
+}
+
+// ---- scalar kernels: n pixels of the layout L (kCh elements in memory, kUse written) -----
+template <class T, class L>
+void copyPixelsScalar(const T* s, T* d, std::size_t n) {
+  for (std::size_t i = 0; i < n; ++i)
+    for (int c = 0; c < L::kUse; ++c) d[i * L::kCh + c] = s[i * L::kCh + c];
+}
+template <class T, class L>
+void setPixelsScalar(const T* v, T* d, std::size_t n) {
+  for (std::size_t i = 0; i < n; ++i)
+    for (int c = 0; c < L::kUse; ++c) d[i * L::kCh + c] = v[c];
+}
+template <class T, class L>
+void maskedCopyScalar(const T* s, T* d, const uint8_t* m, std::size_t n) {
+  for (std::size_t i = 0; i < n; ++i)
+    if (m[i])
+      for (int c = 0; c < L::kUse; ++c) d[i * L::kCh + c] = s[i * L::kCh + c];
+}
+template <class T, class L>
+void maskedSetScalar(const T* v, T* d, const uint8_t* m, std::size_t n) {
+  for (std::size_t i = 0; i < n; ++i)
+    if (m[i])
+      for (int c = 0; c < L::kUse; ++c) d[i * L::kCh + c] = v[c];
+}
+// One element every kSrc elements of s to one every kDst elements of d (channel of interest
+// and layout changes between one channel and several).
+template <class T, int kSrc, int kDst>
+void strideCopyScalar(const T* s, T* d, std::size_t n) {
+  for (std::size_t i = 0; i < n; ++i) d[i * kDst] = s[i * kSrc];
+}
+template <class T, int kDst>
+void strideSetScalar(T v, T* d, std::size_t n) {
+  for (std::size_t i = 0; i < n; ++i) d[i * kDst] = v;
+}
+// Destination channel c receives source channel order[c]; the three source values of a pixel
+// are read before any is written, so source and destination may be the same image.
+template <class T, int kCh>
+void swapScalar(const T* s, T* d, std::size_t n, const int* order) {
+  const int o0 = order[0], o1 = order[1], o2 = order[2];
+  for (std::size_t i = 0; i < n; ++i) {
+    const T* p = s + i * kCh;
+    T a = p[o0], b = p[o1], c = p[o2];
+    T* q = d + i * kCh;
+    q[0] = a;
+    q[1] = b;
+    q[2] = c;
+  }
+}
+template <class T>
+void dupScalar(const T* s, T* d, std::size_t n) {
+  for (std::size_t i = 0; i < n; ++i) d[3 * i] = d[3 * i + 1] = d[3 * i + 2] = s[i];
+}
+
+// ---- internal entry points shared between the family's source files ---------------------
+// A pixel of pixelBytes bytes (1, 2, 3, 4, 6, 8, 12 or 16) repeated over 192 bytes, a whole
+// number of pixels and of vectors of every target; `uniform` when all its bytes are equal.
+struct Pattern {
+  static constexpr int kBytes = 192;
+  alignas(64) uint8_t bytes[kBytes];
+  bool uniform;
+};
+void makePattern(Pattern* p, const void* pixel, int pixelBytes);
+// Fills `bytes` bytes (a whole number of pixels) with the pattern's pixel. (set.cpp)
+void fillPattern(const Pattern& p, void* d, std::size_t bytes);
+// Writes channels 0..2 of n four-channel pixels of elemBytes-byte elements, leaving the fourth
+// channel alone: from three values (set.cpp) or from a source image row (copy.cpp).
+void fillKeepAlpha(void* d, std::size_t n, const void* value3, int elemBytes);
+void copyKeepAlpha(const void* s, void* d, std::size_t n, int elemBytes);
+
+// n pixels of layout L from s to d (rows of distinct images, or identical rows).
+template <class T, class L>
+inline void copyPixels(const T* s, T* d, std::size_t n) {
+  if constexpr (L::kUse < L::kCh) {
+    copyKeepAlpha(s, d, n, sizeof(T));
+  } else {
+    if (s != d) std::memmove(d, s, n * L::kCh * sizeof(T));
+  }
+}
+// n pixels of layout L set to the channel values v (which may lie in the same image, outside
+// the run). Short runs, such as border columns, are written pixel by pixel.
+template <class T, class L>
+inline void fillPixels(T* d, std::size_t n, const T* v) {
+  if constexpr (L::kUse < L::kCh) {
+    fillKeepAlpha(d, n, v, sizeof(T));
+  } else if constexpr (L::kCh == 1 && sizeof(T) == 1) {
+    std::memset(d, v[0], n);
+  } else {
+    const std::size_t bytes = n * L::kCh * sizeof(T);
+    if (bytes < 256) {
+      setPixelsScalar<T, L>(v, d, n);
+    } else {
+      Pattern p;
+      makePattern(&p, v, L::kCh * sizeof(T));
+      fillPattern(p, d, bytes);
+    }
+  }
+}
+
+}  // namespace dm
+}  // namespace lumi
+
+// One dispatch table per element size for a kernel template whose first parameter is the
+// element's bits type, plus NAME<T>() returning the best variant for T (null: scalar path).
+// Use inside `#if HWY_ONCE`, in namespace lumi: LUMI_TABLES_BY_SIZE(extract3, Extract, , 3).
+#define LUMI_TABLES_BY_SIZE(NAME, K, ...)                                              \
+  LUMI_SIMD_TABLE(decltype(&HWY_NAMESPACE::K<uint8_t __VA_ARGS__>), NAME##1_,          \
+                  K<uint8_t __VA_ARGS__>);                                             \
+  LUMI_SIMD_TABLE(decltype(&HWY_NAMESPACE::K<uint16_t __VA_ARGS__>), NAME##2_,         \
+                  K<uint16_t __VA_ARGS__>);                                            \
+  LUMI_SIMD_TABLE(decltype(&HWY_NAMESPACE::K<uint32_t __VA_ARGS__>), NAME##4_,         \
+                  K<uint32_t __VA_ARGS__>);                                            \
+  template <class T>                                                                   \
+  inline auto NAME() {                                                                 \
+    if constexpr (sizeof(T) == 1) return pickSimd(NAME##1_);                           \
+    else if constexpr (sizeof(T) == 2) return pickSimd(NAME##2_);                      \
+    else return pickSimd(NAME##4_);                                                    \
+  }
+
+#endif  // LUMI_DATAMOVE_KERNELS_H
+
+// ---- Highway helpers, once per target -----------------------------------------------------
+#if defined(HWY_NAMESPACE)
+#if defined(LUMI_DATAMOVE_SIMD_H_) == defined(HWY_TARGET_TOGGLE)
+#ifdef LUMI_DATAMOVE_SIMD_H_
+#undef LUMI_DATAMOVE_SIMD_H_
+#else
+#define LUMI_DATAMOVE_SIMD_H_
+#endif
+
+HWY_BEFORE_NAMESPACE();
+namespace lumi {
+namespace HWY_NAMESPACE {
+namespace dmv {
+namespace hn = hwy::HWY_NAMESPACE;
+
+// Lane mask of the pixels whose mask byte is nonzero, one lane per pixel of type T.
+template <class D>
+HWY_INLINE auto pixelMask(D d, const uint8_t* m) {
+  using T = hn::TFromD<D>;
+  if constexpr (sizeof(T) == 1) {
+    return hn::Ne(hn::LoadU(d, m), hn::Zero(d));
+  } else {
+    const hn::Rebind<uint8_t, D> d8;
+    return hn::Ne(hn::PromoteTo(d, hn::LoadU(d8, m)), hn::Zero(d));
+  }
+}
+
+// Lanes holding channels 0..2 of four-channel pixels (every lane but each fourth).
+template <class D>
+HWY_INLINE auto colourLanes(D d) {
+  using T = hn::TFromD<D>;
+  const auto three = hn::Set(d, T{3});
+  return hn::Ne(hn::And(hn::Iota(d, 0), three), three);
+}
+
+}  // namespace dmv
+}  // namespace HWY_NAMESPACE
+}  // namespace lumi
+HWY_AFTER_NAMESPACE();
+
+#endif  // toggle
+#endif  // HWY_NAMESPACE
