@@ -1,0 +1,251 @@
+// Moment states: life cycle, argument checks, raw and central moments against direct sums,
+// closed forms for a centred rectangle and a single pixel, Hu invariants.
+#include <cmath>
+#include <cstring>
+#include <functional>
+#include <vector>
+
+#include "lumi.h"
+#include "lumitest.h"
+
+using namespace lumitest;
+
+namespace {
+
+struct State64f {
+  LumiMomentState_64f* p = nullptr;
+  State64f() { EXPECT_EQ(lumiMomentInitAlloc_64f(&p, lumHintAccurate), 0); }
+  ~State64f() { EXPECT_EQ(lumiMomentFree_64f(p), 0); }
+};
+struct State64s {
+  LumiMomentState_64s* p = nullptr;
+  State64s() { EXPECT_EQ(lumiMomentInitAlloc_64s(&p, lumHintNone), 0); }
+  ~State64s() { EXPECT_EQ(lumiMomentFree_64s(p), 0); }
+};
+
+long double ipow(long double b, int e) {
+  long double r = 1;
+  while (e-- > 0) r *= b;
+  return r;
+}
+
+// Direct sums over the ROI: sum (x + ox)^i (y + oy)^j I(x, y, c).
+template <class T>
+long double directMoment(const GuardedImage<T>& im, int c, int i, int j, long double ox, long double oy) {
+  long double s = 0;
+  for (int y = 0; y < im.height(); ++y)
+    for (int x = 0; x < im.width(); ++x) s += ipow(x + ox, i) * ipow(y + oy, j) * im.at(x, y, c);
+  return s;
+}
+
+void expectClose(double got, long double want, const char* what, int i, int j) {
+  long double tol = 1e-9L * std::fabs(want) + 1e-6L;
+  EXPECT_LE(std::fabs(got - want), tol) << what << " (" << i << ", " << j << ")";
+}
+
+// Checks every query of every channel of a filled 64f state against direct sums.
+template <class T, class Get>
+void checkAgainstDirect(const GuardedImage<T>& im, int use, Get* state, bool exact) {
+  for (int c = 0; c < use; ++c) {
+    long double m00 = directMoment(im, c, 0, 0, 0, 0);
+    long double xb = directMoment(im, c, 1, 0, 0, 0) / m00, yb = directMoment(im, c, 0, 1, 0, 0) / m00;
+    for (int j = 0; j <= 3; ++j)
+      for (int i = 0; i + j <= 3; ++i) {
+        Lum64f v;
+        LumiPoint off{3, -7};
+        long double sp = directMoment(im, c, i, j, 0, 0), spo = directMoment(im, c, i, j, off.x, off.y);
+        long double ce = directMoment(im, c, i, j, -xb, -yb);
+        long double norm = std::pow(static_cast<double>(m00), -(i + j + 2) / 2.0);
+        if constexpr (std::is_same_v<Get, LumiMomentState_64f>) {
+          ASSERT_EQ(lumiGetSpatialMoment_64f(state, i, j, c, LumiPoint{0, 0}, &v), 0);
+          expectClose(v, sp, "spatial", i, j);
+          ASSERT_EQ(lumiGetSpatialMoment_64f(state, i, j, c, off, &v), 0);
+          expectClose(v, spo, "spatial with offset", i, j);
+          ASSERT_EQ(lumiGetCentralMoment_64f(state, i, j, c, &v), 0);
+          EXPECT_LE(std::fabs(v - ce), 1e-7L * std::fabs(sp) + 1e-6L) << "central " << i << j;
+          ASSERT_EQ(lumiGetNormalizedSpatialMoment_64f(state, i, j, c, off, &v), 0);
+          expectClose(v, spo * norm, "normalised spatial", i, j);
+          ASSERT_EQ(lumiGetNormalizedCentralMoment_64f(state, i, j, c, &v), 0);
+          EXPECT_LE(std::fabs(v - ce * norm), (1e-7L * std::fabs(sp) + 1e-6L) * norm);
+        } else {
+          ASSERT_EQ(lumiGetSpatialMoment_64s(state, i, j, c, LumiPoint{0, 0}, &v), 0);
+          if (exact) EXPECT_EQ(v, static_cast<double>(sp)) << "exact spatial " << i << j;
+          ASSERT_EQ(lumiGetSpatialMoment_64s(state, i, j, c, off, &v), 0);
+          expectClose(v, spo, "spatial with offset", i, j);
+          ASSERT_EQ(lumiGetCentralMoment_64s(state, i, j, c, &v), 0);
+          EXPECT_LE(std::fabs(v - ce), 1e-7L * std::fabs(sp) + 1e-6L) << "central " << i << j;
+          ASSERT_EQ(lumiGetNormalizedCentralMoment_64s(state, i, j, c, &v), 0);
+          EXPECT_LE(std::fabs(v - ce * norm), (1e-7L * std::fabs(sp) + 1e-6L) * norm);
+        }
+      }
+  }
+}
+
+TEST(Moments, RandomImagesMatchDirectSums) {
+  Rng r = makeRng(17);
+  for (int iter = 0; iter < 8; ++iter) {
+    LumiSize sz = randomSize(r, 90, 40);
+    GuardedImage<Lum8u> a1(sz.width, sz.height, 1), a3(sz.width, sz.height, 3), a4(sz.width, sz.height, 4);
+    GuardedImage<float> f1(sz.width, sz.height, 1), f3(sz.width, sz.height, 3), f4(sz.width, sz.height, 4);
+    for (auto* im : {&a1, &a3, &a4}) im->fillRandom(r);
+    for (auto* im : {&f1, &f3, &f4}) im->fill([&](int, int, int) { return float(randInt(r, 0, 4000)) / 16; });
+    State64f s;
+    State64s e;
+    ASSERT_EQ(lumiMoments64f_8u_C1R(a1.ptr(), a1.step(), sz, s.p), 0);
+    checkAgainstDirect(a1, 1, s.p, false);
+    ASSERT_EQ(lumiMoments64f_8u_C3R(a3.ptr(), a3.step(), sz, s.p), 0);
+    checkAgainstDirect(a3, 3, s.p, false);
+    ASSERT_EQ(lumiMoments64f_8u_AC4R(a4.ptr(), a4.step(), sz, s.p), 0);
+    checkAgainstDirect(a4, 3, s.p, false);
+    ASSERT_EQ(lumiMoments64f_32f_C1R(f1.ptr(), f1.step(), sz, s.p), 0);
+    checkAgainstDirect(f1, 1, s.p, false);
+    ASSERT_EQ(lumiMoments64f_32f_C3R(f3.ptr(), f3.step(), sz, s.p), 0);
+    checkAgainstDirect(f3, 3, s.p, false);
+    ASSERT_EQ(lumiMoments64f_32f_AC4R(f4.ptr(), f4.step(), sz, s.p), 0);
+    checkAgainstDirect(f4, 3, s.p, false);
+    ASSERT_EQ(lumiMoments64s_8u_C1R(a1.ptr(), a1.step(), sz, e.p), 0);
+    checkAgainstDirect(a1, 1, e.p, true);
+    ASSERT_EQ(lumiMoments64s_8u_C3R(a3.ptr(), a3.step(), sz, e.p), 0);
+    checkAgainstDirect(a3, 3, e.p, true);
+    ASSERT_EQ(lumiMoments64s_8u_AC4R(a4.ptr(), a4.step(), sz, e.p), 0);
+    checkAgainstDirect(a4, 3, e.p, true);
+    Lum64f v;
+    EXPECT_EQ(lumiGetSpatialMoment_64s(e.p, 0, 0, 3, LumiPoint{0, 0}, &v), lumStatusChannelIndexErr);
+    for (auto* im : {&a1, &a3, &a4}) EXPECT_TRUE(im->guardsIntact());
+    for (auto* im : {&f1, &f3, &f4}) EXPECT_TRUE(im->guardsIntact());
+  }
+}
+
+// A large bright image: the exact state keeps every bit of the third-order sums.
+TEST(Moments, ExactStateOnLargeImage) {
+  const int w = 1500, h = 1200;
+  std::vector<Lum8u> buf(static_cast<std::size_t>(w) * h, 255);
+  State64s e;
+  ASSERT_EQ(lumiMoments64s_8u_C1R(buf.data(), w, LumiSize{w, h}, e.p), 0);
+  Lum64f v;
+  // sum x^3 over [0, w) = (w (w - 1) / 2)^2
+  __int128 sx3 = (__int128)w * (w - 1) / 2 * ((__int128)w * (w - 1) / 2);
+  __int128 m30 = sx3 * h * 255;
+  ASSERT_EQ(lumiGetSpatialMoment_64s(e.p, 3, 0, 0, LumiPoint{0, 0}, &v), 0);
+  EXPECT_EQ(v, static_cast<double>(m30));
+  __int128 sy = (__int128)h * (h - 1) / 2, sy2 = (__int128)(h - 1) * h * (2 * h - 1) / 6;
+  __int128 m12 = ((__int128)w * (w - 1) / 2) * sy2 * 255;
+  ASSERT_EQ(lumiGetSpatialMoment_64s(e.p, 1, 2, 0, LumiPoint{0, 0}, &v), 0);
+  EXPECT_EQ(v, static_cast<double>(m12));
+  (void)sy;
+}
+
+TEST(Moments, CentredRectangleAndSinglePixel) {
+  // a 9 x 5 block of ones centred in a 21 x 15 image
+  GuardedImage<Lum8u> im(21, 15, 1);
+  im.fill([](int x, int y, int) { return Lum8u(x >= 6 && x < 15 && y >= 5 && y < 10 ? 1 : 0); });
+  State64f s;
+  ASSERT_EQ(lumiMoments64f_8u_C1R(im.ptr(), im.step(), im.roi(), s.p), 0);
+  Lum64f v;
+  const double a = 9, b = 5, m00 = a * b;
+  ASSERT_EQ(lumiGetSpatialMoment_64f(s.p, 0, 0, 0, LumiPoint{0, 0}, &v), 0);
+  EXPECT_EQ(v, m00);
+  ASSERT_EQ(lumiGetSpatialMoment_64f(s.p, 1, 0, 0, LumiPoint{0, 0}, &v), 0);
+  EXPECT_EQ(v, 10 * m00);  // centre x = 10
+  ASSERT_EQ(lumiGetSpatialMoment_64f(s.p, 0, 1, 0, LumiPoint{0, 0}, &v), 0);
+  EXPECT_EQ(v, 7 * m00);  // centre y = 7
+  const double mu20 = b * a * (a * a - 1) / 12, mu02 = a * b * (b * b - 1) / 12;
+  ASSERT_EQ(lumiGetCentralMoment_64f(s.p, 2, 0, 0, &v), 0);
+  EXPECT_NEAR(v, mu20, 1e-9);
+  ASSERT_EQ(lumiGetCentralMoment_64f(s.p, 0, 2, 0, &v), 0);
+  EXPECT_NEAR(v, mu02, 1e-9);
+  for (auto ij : {std::pair{1, 1}, std::pair{3, 0}, std::pair{2, 1}, std::pair{1, 2}, std::pair{0, 3}, std::pair{1, 0}}) {
+    ASSERT_EQ(lumiGetCentralMoment_64f(s.p, ij.first, ij.second, 0, &v), 0);
+    EXPECT_NEAR(v, 0.0, 1e-8);
+  }
+  ASSERT_EQ(lumiGetNormalizedCentralMoment_64f(s.p, 2, 0, 0, &v), 0);
+  EXPECT_NEAR(v, mu20 / (m00 * m00), 1e-12);
+  Lum64f hu[7];
+  ASSERT_EQ(lumiGetHuMoments_64f(s.p, 0, hu), 0);
+  EXPECT_NEAR(hu[0], (mu20 + mu02) / (m00 * m00), 1e-12);
+  EXPECT_NEAR(hu[1], (mu20 - mu02) * (mu20 - mu02) / (m00 * m00 * m00 * m00), 1e-12);
+  for (int k = 2; k < 7; ++k) EXPECT_NEAR(hu[k], 0.0, 1e-12);
+  // the spatial moment seen from an offset: the block's centre moves to (10 + 4, 7 - 2)
+  ASSERT_EQ(lumiGetSpatialMoment_64f(s.p, 1, 1, 0, LumiPoint{4, -2}, &v), 0);
+  EXPECT_NEAR(v, 14.0 * 5.0 * m00, 1e-9);
+
+  // one pixel of 200 at (4, 3): m(i, j) = 200 * 4^i * 3^j, every central moment beyond 0 is 0
+  GuardedImage<float> one(7, 6, 3);
+  one.fill([](int x, int y, int c) { return x == 4 && y == 3 && c == 2 ? 200.0f : 0.0f; });
+  ASSERT_EQ(lumiMoments64f_32f_C3R(one.ptr(), one.step(), one.roi(), s.p), 0);
+  for (int j = 0; j <= 3; ++j)
+    for (int i = 0; i + j <= 3; ++i) {
+      ASSERT_EQ(lumiGetSpatialMoment_64f(s.p, i, j, 2, LumiPoint{0, 0}, &v), 0);
+      EXPECT_EQ(v, 200.0 * std::pow(4.0, i) * std::pow(3.0, j));
+      ASSERT_EQ(lumiGetCentralMoment_64f(s.p, i, j, 2, &v), 0);
+      EXPECT_EQ(v, i + j == 0 ? 200.0 : 0.0);
+    }
+  ASSERT_EQ(lumiGetHuMoments_64f(s.p, 2, hu), 0);
+  for (double h : hu) EXPECT_EQ(h, 0.0);
+  EXPECT_EQ(lumiGetHuMoments_64f(s.p, 0, hu), lumStatusMomentZeroErr);  // channel 0 is empty
+  EXPECT_TRUE(im.guardsIntact() && one.guardsIntact());
+}
+
+TEST(Moments, StateLifeCycleAndTags) {
+  int size = 0;
+  EXPECT_EQ(lumiMomentGetStateSize_64s(lumHintNone, nullptr), lumStatusNullPtrErr);
+  ASSERT_EQ(lumiMomentGetStateSize_64s(lumHintNone, &size), 0);
+  EXPECT_EQ(size, 400);
+  // a state in caller memory: nothing beyond its 400 bytes is touched
+  std::vector<unsigned char> mem(400 + 64, 0xCD);
+  auto* st = reinterpret_cast<LumiMomentState_64s*>(mem.data());
+  EXPECT_EQ(lumiMomentInit_64s(nullptr, lumHintFast), lumStatusNullPtrErr);
+  ASSERT_EQ(lumiMomentInit_64s(st, lumHintFast), 0);
+  int32_t head[3];
+  std::memcpy(head, mem.data(), 12);
+  EXPECT_EQ(head[0], 34);
+  EXPECT_EQ(head[1], lumHintFast);
+  EXPECT_EQ(head[2], -1);
+  Lum64f v = 5;
+  EXPECT_EQ(lumiGetSpatialMoment_64s(st, 0, 0, 0, LumiPoint{0, 0}, &v), lumStatusChannelIndexErr);
+  Lum8u px[12] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
+  ASSERT_EQ(lumiMoments64s_8u_C3R(px, 12, LumiSize{4, 1}, st), 0);
+  std::memcpy(head, mem.data(), 12);
+  EXPECT_EQ(head[2], 3);
+  for (std::size_t i = 400; i < mem.size(); ++i) EXPECT_EQ(mem[i], 0xCD);
+  ASSERT_EQ(lumiGetSpatialMoment_64s(st, 1, 0, 1, LumiPoint{0, 0}, &v), 0);
+  EXPECT_EQ(v, 0 * 2 + 1 * 5 + 2 * 8 + 3 * 11);
+  // a state of the other kind is refused everywhere
+  auto* wrong = reinterpret_cast<LumiMomentState_64f*>(st);
+  EXPECT_EQ(lumiMoments64f_8u_C1R(px, 12, LumiSize{0, 0}, wrong), lumStatusContextMismatchErr);
+  EXPECT_EQ(lumiGetCentralMoment_64f(wrong, 0, 0, 0, &v), lumStatusContextMismatchErr);
+  EXPECT_EQ(lumiGetHuMoments_64f(wrong, 9, nullptr), lumStatusNullPtrErr);
+  EXPECT_EQ(lumiMomentFree_64f(wrong), lumStatusContextMismatchErr);
+  EXPECT_EQ(lumiMomentFree_64s(nullptr), lumStatusNullPtrErr);
+  EXPECT_EQ(lumiMomentInitAlloc_64f(nullptr, 0), lumStatusNullPtrErr);
+}
+
+TEST(Moments, ValidationOrder) {
+  State64f s;
+  Lum8u px[64] = {};
+  float fx[16] = {};
+  Lum64f v = 5, hu[7];
+  EXPECT_EQ(lumiGetSpatialMoment_64f(s.p, 0, 0, 0, LumiPoint{0, 0}, &v), lumStatusChannelIndexErr);
+  EXPECT_EQ(lumiMoments64f_8u_C1R(nullptr, 0, LumiSize{0, 0}, s.p), lumStatusNullPtrErr);
+  EXPECT_EQ(lumiMoments64f_8u_C1R(px, 0, LumiSize{0, 0}, s.p), lumStatusStepErr);  // steps first
+  EXPECT_EQ(lumiMoments64f_8u_C1R(px, 5, LumiSize{0, 1}, s.p), lumStatusSizeErr);
+  EXPECT_EQ(lumiMoments64f_8u_C1R(px, 9, LumiSize{10, 1}, s.p), lumStatusStepBelowRowErr);
+  EXPECT_EQ(lumiMoments64f_8u_C3R(px, 29, LumiSize{10, 1}, s.p), lumStatusStepBelowRowErr);
+  EXPECT_EQ(lumiMoments64f_8u_AC4R(px, 39, LumiSize{10, 1}, s.p), lumStatusStepBelowRowErr);
+  EXPECT_EQ(lumiMoments64f_32f_C1R(fx, 39, LumiSize{10, 1}, s.p), lumStatusStepBelowRowErr);
+  EXPECT_EQ(lumiGetSpatialMoment_64f(s.p, 0, 0, 0, LumiPoint{0, 0}, &v), lumStatusChannelIndexErr);
+  ASSERT_EQ(lumiMoments64f_8u_C1R(px, 10, LumiSize{10, 1}, s.p), 0);  // an all-zero image
+  EXPECT_EQ(lumiGetSpatialMoment_64f(s.p, 0, 0, 0, LumiPoint{0, 0}, &v), 0);
+  EXPECT_EQ(v, 0.0);
+  EXPECT_EQ(lumiGetSpatialMoment_64f(s.p, 2, 2, 0, LumiPoint{0, 0}, &v), lumStatusSizeErr);
+  EXPECT_EQ(lumiGetCentralMoment_64f(s.p, -1, 1, 5, &v), lumStatusSizeErr);  // order before channel
+  EXPECT_EQ(lumiGetCentralMoment_64f(s.p, 1, 1, 1, &v), lumStatusChannelIndexErr);
+  EXPECT_EQ(lumiGetCentralMoment_64f(s.p, 1, 1, -1, &v), lumStatusChannelIndexErr);
+  EXPECT_EQ(lumiGetCentralMoment_64f(s.p, 1, 1, 0, &v), lumStatusMomentZeroErr);
+  EXPECT_EQ(lumiGetNormalizedSpatialMoment_64f(s.p, 1, 1, 0, LumiPoint{0, 0}, &v), lumStatusMomentZeroErr);
+  EXPECT_EQ(lumiGetNormalizedCentralMoment_64f(s.p, 0, 0, 0, &v), lumStatusMomentZeroErr);
+  EXPECT_EQ(lumiGetHuMoments_64f(s.p, 0, hu), lumStatusMomentZeroErr);
+  EXPECT_EQ(lumiGetHuMoments_64f(s.p, 0, nullptr), lumStatusNullPtrErr);
+}
+
+}  // namespace
