@@ -197,13 +197,15 @@ void compareValidation() {
     const float nan = std::numeric_limits<float>::quiet_NaN();
     // null before steps before size before the tolerance; the operation never fails
     EXPECT_EQ(lumStatusNullPtrErr, run(true, false, false, 0, 0, 0, bad, 9, -1.0f)) << c.name;
-    if (!(c.isConst && c.ch == 1))  // a C1 constant is passed by value
+    if (!(c.isConst && c.ch == 1)) {  // a C1 constant is passed by value
       EXPECT_EQ(lumStatusNullPtrErr, run(false, true, false, 0, 0, 0, bad, 9, -1.0f)) << c.name;
+    }
     EXPECT_EQ(lumStatusNullPtrErr, run(false, false, true, 0, 0, 0, bad, 9, -1.0f)) << c.name;
     EXPECT_EQ(lumStatusStepErr, run(false, false, false, 0, kDef, kDef, bad, 9, -1.0f)) << c.name;
     EXPECT_EQ(lumStatusStepErr, run(false, false, false, kDef, kDef, -2, bad, 9, -1.0f)) << c.name;
-    if (!c.isConst)
+    if (!c.isConst) {
       EXPECT_EQ(lumStatusStepErr, run(false, false, false, kDef, 0, kDef, bad, 9, -1.0f)) << c.name;
+    }
     EXPECT_EQ(lumStatusSizeErr, run(false, false, false, kDef, kDef, kDef, bad, 9, -1.0f)) << c.name;
     EXPECT_EQ(lumStatusSizeErr,
               run(false, false, false, kDef, kDef, kDef, LumiSize{-1, 2}, 0, nan)) << c.name;
@@ -213,8 +215,9 @@ void compareValidation() {
       EXPECT_EQ(lumStatusEpsilonErr,
                 run(false, false, false, kDef, kDef, kDef, ok, 0, -std::numeric_limits<float>::denorm_min()));
     } else {
-      for (int op : {5, 7, -1, 1000})
+      for (int op : {5, 7, -1, 1000}) {
         EXPECT_EQ(lumStatusOk, run(false, false, false, kDef, kDef, kDef, ok, op, 0.0f)) << c.name;
+      }
     }
     EXPECT_TRUE(sameElements(m.pixels(), before)) << c.name;
     EXPECT_TRUE(m.guardsIntact()) << c.name;
