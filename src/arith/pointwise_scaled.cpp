@@ -1,0 +1,306 @@
+// Square, square root, natural logarithm and exponential with an integer scale factor (8u,
+// 16u, 16s), and the logarithm and exponential of 32f pixels.
+//
+// Scaled results are the real function of the sample in double precision, multiplied by
+// 2^-scaleFactor, rounded half to even and saturated. Domain rules: the root and the logarithm
+// of a negative sample store 0 and report the domain warning; the logarithm of 0 is minus
+// infinity and saturates to the type's minimum. 8u rows go through a 256-entry table built from
+// the same double-precision functions; 16-bit rows are evaluated in double-precision vectors.
+// For 32f, Ln and Exp are evaluated in double precision and rounded once to single.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "src/arith/pointwise_scaled.cpp"
+#include "hwy/foreach_target.h"
+#include "hwy/highway.h"
+#include "core/frame.h"
+#include "arith/float_kernels-inl.h"
+#include "hwy/contrib/math/math-inl.h"
+
+#ifndef LUMI_POINTWISE_SCALED_SCALAR_  // scalar definitions, compiled once
+#define LUMI_POINTWISE_SCALED_SCALAR_
+namespace lumi {
+enum ScaledFn : int { kSqr = 0, kSqrt = 1, kLn = 2, kExp = 3 };
+
+// The scaled value of one sample; *domain is set for inputs outside the function's domain.
+template <int F, class T>
+inline T scaledValue(T x, int sf, int* domain) {
+  using L = std::numeric_limits<T>;
+  const double v = static_cast<double>(x);
+  double r;
+  if constexpr (F == kSqr) {
+    r = v * v;
+  } else if constexpr (F == kSqrt) {
+    if (v < 0) {
+      *domain = 1;
+      return 0;
+    }
+    r = std::sqrt(v);
+  } else if constexpr (F == kLn) {
+    if (v < 0) {
+      *domain = 1;
+      return 0;
+    }
+    r = std::log(v);
+  } else {
+    r = std::exp(v);
+  }
+  return static_cast<T>(scaleDouble(r, sf, static_cast<double>(L::min()), static_cast<double>(L::max())));
+}
+
+// 32f: the double-precision function rounded once.
+template <int F>
+inline float floatValue(float x, int* domain) {
+  if (F == kLn && x < 0) *domain = 1;
+  return static_cast<float>(F == kLn ? std::log(static_cast<double>(x)) : std::exp(static_cast<double>(x)));
+}
+}  // namespace lumi
+#endif
+
+HWY_BEFORE_NAMESPACE();
+namespace lumi {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+#if HWY_TARGET != HWY_SCALAR
+// 16-bit rows: each sample widened to double, the function applied, scaled by 2^-sf, rounded
+// half to even, clamped to the type and narrowed.
+template <class T, int F>
+int ScaledRowSimd(const T* s, T* out, int n, const RowPattern<T>* pat, int sf) {
+  using L = std::numeric_limits<T>;
+  const hn::ScalableTag<double> dd;
+  const hn::Rebind<int32_t, decltype(dd)> di;
+  const hn::Rebind<T, decltype(dd)> dt;
+  const auto scale = hn::Set(dd, std::ldexp(1.0, -sf));
+  const auto lo = hn::Set(dd, static_cast<double>(L::min()));
+  const auto hi = hn::Set(dd, static_cast<double>(L::max()));
+  const auto zero = hn::Zero(dd);
+  auto bad = hn::Zero(dd);
+  int tailBad = 0;
+  ForEachVector(
+      dt, static_cast<size_t>(n), pat ? pat->period : 1,
+      [&](size_t i, size_t off) {
+        const auto x = hn::PromoteTo(dd, hn::PromoteTo(di, hn::LoadU(dt, s + i)));
+        hn::Vec<decltype(dd)> r;
+        hn::Mask<decltype(dd)> neg = hn::Lt(x, zero);
+        if constexpr (F == kSqr) {
+          r = hn::Mul(x, x);
+        } else if constexpr (F == kSqrt) {
+          r = hn::Sqrt(hn::Max(x, zero));
+        } else if constexpr (F == kLn) {
+          r = hn::Log(dd, hn::Max(x, hn::Set(dd, 1.0)));
+          r = hn::IfThenElse(hn::Eq(x, zero), hn::Set(dd, -HUGE_VAL), r);
+        } else {
+          r = hn::Exp(dd, hn::Min(x, hn::Set(dd, 706.0)));
+        }
+        r = hn::Round(hn::Mul(r, scale));
+        r = hn::Min(hn::Max(r, lo), hi);
+        if constexpr (F == kSqrt || F == kLn) {
+          r = hn::IfThenZeroElse(neg, r);
+          if (pat && pat->masked) {  // a negative alpha sample is not processed
+            const auto owned = hn::PromoteTo(dd, hn::PromoteTo(di, hn::LoadU(dt, pat->mask + off)));
+            neg = hn::And(neg, hn::Ne(owned, zero));
+          }
+          bad = hn::Or(bad, hn::VecFromMask(dd, neg));
+        }
+        StoreOwned(dt, hn::DemoteTo(dt, hn::DemoteTo(di, r)), out + i, pat, off);
+      },
+      [&](size_t i, size_t off) {
+        if (Owns(pat, off)) out[i] = scaledValue<F>(s[i], sf, &tailBad);
+      });
+  return tailBad | !hn::AllFalse(dd, hn::MaskFromVec(bad));
+}
+
+// 32f Ln and Exp through double precision.
+template <int F>
+int FloatRowSimd(const float* s, float* out, int n, const RowPattern<float>* pat) {
+  const hn::ScalableTag<double> dd;
+  const hn::Rebind<float, decltype(dd)> df;
+  const auto zero = hn::Zero(dd);
+  auto bad = hn::Zero(dd);
+  int tailBad = 0;
+  ForEachVector(
+      df, static_cast<size_t>(n), 1,
+      [&](size_t i, size_t) {
+        const auto x = hn::PromoteTo(dd, hn::LoadU(df, s + i));
+        hn::Vec<decltype(dd)> r;
+        if constexpr (F == kLn) {
+          const auto neg = hn::Lt(x, zero);
+          bad = hn::Or(bad, hn::VecFromMask(dd, neg));
+          // finite positive inputs only; 0, infinity, NaN and negatives are set below
+          r = hn::Log(dd, hn::Min(hn::Max(x, hn::Set(dd, 1e-300)), hn::Set(dd, 1e300)));
+          r = hn::IfThenElse(hn::Eq(x, zero), hn::Set(dd, -HUGE_VAL), r);
+          r = hn::IfThenElse(hn::Eq(x, hn::Set(dd, HUGE_VAL)), x, r);
+          r = hn::IfThenElse(neg, hn::Set(dd, std::numeric_limits<double>::quiet_NaN()), r);
+        } else {
+          r = hn::Exp(dd, hn::Min(hn::Max(x, hn::Set(dd, -800.0)), hn::Set(dd, 100.0)));
+        }
+        r = hn::IfThenElse(hn::IsNaN(x), x, r);
+        hn::StoreU(hn::DemoteTo(df, r), df, out + i);
+      },
+      [&](size_t i, size_t) { out[i] = floatValue<F>(s[i], &tailBad); });
+  return tailBad | !hn::AllFalse(dd, hn::MaskFromVec(bad));
+}
+#else
+template <class T, int F>
+int ScaledRowSimd(const T* s, T* out, int n, const RowPattern<T>* pat, int sf) {
+  int bad = 0;
+  for (int i = 0; i < n; ++i)
+    if (Owns(pat, static_cast<size_t>(i))) out[i] = scaledValue<F>(s[i], sf, &bad);
+  return bad;
+}
+template <int F>
+int FloatRowSimd(const float* s, float* out, int n, const RowPattern<float>*) {
+  int bad = 0;
+  for (int i = 0; i < n; ++i) out[i] = floatValue<F>(s[i], &bad);
+  return bad;
+}
+#endif
+
+}  // namespace HWY_NAMESPACE
+}  // namespace lumi
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+#include "core/simd.h"
+
+namespace lumi {
+namespace {
+
+template <class T>
+using ScaledRow = int (*)(const T*, T*, int, const RowPattern<T>*, int);
+using FloatRow = int (*)(const float*, float*, int, const RowPattern<float>*);
+
+LUMI_SIMD_TABLE(ScaledRow<uint16_t>, kSqr16u, ScaledRowSimd<uint16_t, kSqr>);
+LUMI_SIMD_TABLE(ScaledRow<int16_t>, kSqr16s, ScaledRowSimd<int16_t, kSqr>);
+LUMI_SIMD_TABLE(ScaledRow<uint16_t>, kSqrt16u, ScaledRowSimd<uint16_t, kSqrt>);
+LUMI_SIMD_TABLE(ScaledRow<int16_t>, kSqrt16s, ScaledRowSimd<int16_t, kSqrt>);
+LUMI_SIMD_TABLE(ScaledRow<int16_t>, kLn16s, ScaledRowSimd<int16_t, kLn>);
+LUMI_SIMD_TABLE(ScaledRow<int16_t>, kExp16s, ScaledRowSimd<int16_t, kExp>);
+LUMI_SIMD_TABLE(FloatRow, kLn32f, FloatRowSimd<kLn>);
+LUMI_SIMD_TABLE(FloatRow, kExp32f, FloatRowSimd<kExp>);
+
+template <class T, int F>
+int scaledRowScalar(const T* s, T* out, int n, const RowPattern<T>* pat, int sf) {
+  int bad = 0;
+  for (int i = 0; i < n; ++i)
+    if (!pat || pat->writes(i)) out[i] = scaledValue<F>(s[i], sf, &bad);
+  return bad;
+}
+
+template <int F>
+int floatRowScalar(const float* s, float* out, int n, const RowPattern<float>*) {
+  int bad = 0;
+  for (int i = 0; i < n; ++i) out[i] = floatValue<F>(s[i], &bad);
+  return bad;
+}
+
+template <class T, int F>
+ScaledRow<T> pickScaled() {
+  ScaledRow<T> f = nullptr;
+  if constexpr (std::is_same_v<T, uint16_t>) {
+    f = F == kSqr ? pickSimd(kSqr16u) : F == kSqrt ? pickSimd(kSqrt16u) : nullptr;
+  } else if constexpr (std::is_same_v<T, int16_t>) {
+    f = F == kSqr ? pickSimd(kSqr16s)
+        : F == kSqrt ? pickSimd(kSqrt16s)
+        : F == kLn ? pickSimd(kLn16s)
+                   : pickSimd(kExp16s);
+  }
+  return f ? f : scaledRowScalar<T, F>;
+}
+
+// 8u rows: every possible sample looked up in a table of the scaled values.
+template <int F>
+struct Table8u {
+  uint8_t v[256];
+  explicit Table8u(int sf) {
+    int unused = 0;
+    for (int x = 0; x < 256; ++x) v[x] = scaledValue<F>(static_cast<uint8_t>(x), sf, &unused);
+  }
+};
+
+template <class T, int F, class L>
+LumStatus scaledImpl(const T* s, int sStep, T* d, int dStep, LumiSize roi, int sf) {
+  if (anyNull(s, d)) return lumStatusNullPtrErr;
+  if (badSize(roi)) return lumStatusSizeErr;
+  if (badStep(sStep, dStep)) return lumStatusStepErr;
+  const int n = roi.width * L::kCh;
+  if constexpr (sizeof(T) == 1) {
+    const Table8u<F> table(sf);
+    for (int y = 0; y < roi.height; ++y) {
+      const T* in = rowAt(s, sStep, y);
+      T* out = rowAt(d, dStep, y);
+      for (int i = 0; i < n; i += L::kCh)
+        for (int c = 0; c < L::kUse; ++c) out[i + c] = table.v[in[i + c]];
+    }
+    return lumStatusOk;
+  } else {
+    const bool masked = L::kUse < L::kCh;
+    RowPattern<T> pat(masked ? L::kCh : 1, masked ? L::kUse : 1, nullptr);
+    ScaledRow<T> row = pickScaled<T, F>();
+    FirstStatus status;
+    for (int y = 0; y < roi.height; ++y)
+      if (row(rowAt(s, sStep, y), rowAt(d, dStep, y), n, masked ? &pat : nullptr, sf))
+        status.add(lumStatusDomainWarn);
+    return status.value;
+  }
+}
+
+template <int F, class L>
+LumStatus floatImpl(const float* s, int sStep, float* d, int dStep, LumiSize roi) {
+  if (anyNull(s, d)) return lumStatusNullPtrErr;
+  if (badSize(roi)) return lumStatusSizeErr;
+  if (badStep(sStep, dStep)) return lumStatusStepErr;
+  FloatRow row = pickSimd(F == kLn ? kLn32f : kExp32f);
+  if (!row) row = floatRowScalar<F>;
+  FirstStatus status;
+  for (int y = 0; y < roi.height; ++y)
+    if (row(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width * L::kCh, nullptr))
+      status.add(lumStatusDomainWarn);
+  return status.value;
+}
+
+}  // namespace
+}  // namespace lumi
+
+#define LUMI_SCALED(NAME, F, TY, T, L)                                                          \
+  LUMI_API LumStatus lumi##NAME##_##TY##_##L##RSfs(const T* s, int ss, T* d, int ds,             \
+                                                   LumiSize r, int sf) {                         \
+    return lumi::scaledImpl<T, lumi::F, lumi::L>(s, ss, d, ds, r, sf);                           \
+  }                                                                                              \
+  LUMI_API LumStatus lumi##NAME##_##TY##_##L##IRSfs(T* sd, int sds, LumiSize r, int sf) {        \
+    return lumi::scaledImpl<T, lumi::F, lumi::L>(static_cast<const T*>(sd), sds, sd, sds, r, sf); \
+  }
+#define LUMI_FLOATFN(NAME, F, L)                                                             \
+  LUMI_API LumStatus lumi##NAME##_32f_##L##R(const Lum32f* s, int ss, Lum32f* d, int ds,      \
+                                             LumiSize r) {                                    \
+    return lumi::floatImpl<lumi::F, lumi::L>(s, ss, d, ds, r);                                \
+  }                                                                                           \
+  LUMI_API LumStatus lumi##NAME##_32f_##L##IR(Lum32f* sd, int sds, LumiSize r) {              \
+    return lumi::floatImpl<lumi::F, lumi::L>(sd, sds, sd, sds, r);                            \
+  }
+#define LUMI_SQR_ALL(TY, T)               \
+  LUMI_SCALED(Sqr, kSqr, TY, T, C1)       \
+  LUMI_SCALED(Sqr, kSqr, TY, T, C3)       \
+  LUMI_SCALED(Sqr, kSqr, TY, T, C4)       \
+  LUMI_SCALED(Sqr, kSqr, TY, T, AC4)      \
+  LUMI_SCALED(Sqrt, kSqrt, TY, T, C1)     \
+  LUMI_SCALED(Sqrt, kSqrt, TY, T, C3)     \
+  LUMI_SCALED(Sqrt, kSqrt, TY, T, AC4)
+#define LUMI_LNEXP_ALL(TY, T)         \
+  LUMI_SCALED(Ln, kLn, TY, T, C1)     \
+  LUMI_SCALED(Ln, kLn, TY, T, C3)     \
+  LUMI_SCALED(Exp, kExp, TY, T, C1)   \
+  LUMI_SCALED(Exp, kExp, TY, T, C3)
+
+extern "C" {
+LUMI_SQR_ALL(8u, Lum8u)
+LUMI_SQR_ALL(16u, Lum16u)
+LUMI_SQR_ALL(16s, Lum16s)
+LUMI_LNEXP_ALL(8u, Lum8u)
+LUMI_LNEXP_ALL(16s, Lum16s)
+LUMI_FLOATFN(Ln, kLn, C1)
+LUMI_FLOATFN(Ln, kLn, C3)
+LUMI_FLOATFN(Exp, kExp, C1)
+LUMI_FLOATFN(Exp, kExp, C3)
+}
+
+#endif  // HWY_ONCE
