@@ -114,18 +114,32 @@ inline void copyPixels(const T* s, T* d, std::size_t n) {
     if (s != d) std::memmove(d, s, n * L::kCh * sizeof(T));
   }
 }
+// A short run of pixels (a border column): 16-byte stores of as many whole pixels as fit, the
+// last few pixels one by one. v may lie in the same image, outside the run.
+template <class T, class L>
+inline void fillShort(T* d, std::size_t n, const T* v) {
+  constexpr std::size_t P = L::kCh * sizeof(T), chunkBytes = 16 / P * P;
+  uint8_t chunk[16];
+  for (std::size_t j = 0; j < 16; j += P) std::memcpy(chunk + j, v, 16 - j < P ? 16 - j : P);
+  uint8_t* out = reinterpret_cast<uint8_t*>(d);
+  const std::size_t bytes = n * P;
+  std::size_t off = 0;
+  for (; off + 16 <= bytes; off += chunkBytes) std::memcpy(out + off, chunk, 16);
+  for (; off < bytes; off += P) std::memcpy(out + off, v, P);
+}
+
 // n pixels of layout L set to the channel values v (which may lie in the same image, outside
-// the run). Short runs, such as border columns, are written pixel by pixel.
+// the run).
 template <class T, class L>
 inline void fillPixels(T* d, std::size_t n, const T* v) {
   if constexpr (L::kUse < L::kCh) {
     fillKeepAlpha(d, n, v, sizeof(T));
-  } else if constexpr (L::kCh == 1 && sizeof(T) == 1) {
-    std::memset(d, v[0], n);
   } else {
     const std::size_t bytes = n * L::kCh * sizeof(T);
     if (bytes < 256) {
-      setPixelsScalar<T, L>(v, d, n);
+      fillShort<T, L>(d, n, v);
+    } else if constexpr (L::kCh == 1 && sizeof(T) == 1) {
+      std::memset(d, v[0], n);
     } else {
       Pattern p;
       makePattern(&p, v, L::kCh * sizeof(T));
