@@ -148,18 +148,20 @@ void runCompare(const T* a, int aStep, const T* b, int bStep, bool bConst, Lum8u
     }
     return;
   }
-  for (int y = 0; y < roi.height; ++y) {
-    const T* ar = rowAt(a, aStep, y);
-    const T* br = bConst ? b : rowAt(b, bStep, y);
-    Lum8u* o = rowAt(dst, dstStep, y);
-    for (int x = 0; x < roi.width; ++x) {
-      bool all = true;
-      for (int c = 0; c < L::kUse; ++c)
-        all = all && thr::relationHolds(rel, ar[x * L::kCh + c],
-                                        bConst ? br[c] : br[x * L::kCh + c], eps);
-      o[x] = all ? 0xFF : 0;
+  thr::withConstant<6>(rel, [&](auto r) {
+    for (int y = 0; y < roi.height; ++y) {
+      const T* ar = rowAt(a, aStep, y);
+      const T* br = bConst ? b : rowAt(b, bStep, y);
+      Lum8u* o = rowAt(dst, dstStep, y);
+      for (int x = 0; x < roi.width; ++x) {
+        bool all = true;
+        for (int c = 0; c < L::kUse; ++c)
+          all = all && thr::relationHolds<T>(r.value, ar[x * L::kCh + c],
+                                             bConst ? br[c] : br[x * L::kCh + c], eps);
+        o[x] = all ? 0xFF : 0;
+      }
     }
-  }
+  });
 }
 
 // Pointers, steps, size; an operation outside 0..4 then succeeds without writing.

@@ -96,16 +96,18 @@ void runLogic(const T* a, int aStep, const T* b, int bStep, bool bConst, T* dst,
       roi.height, op, alpha ? keep.v : nullptr);
     return;
   }
-  for (int y = 0; y < roi.height; ++y) {
-    const U* ar = rowAt(ua, aStep, y);
-    const U* br = bConst ? ub : rowAt(ub, bStep, y);
-    U* o = rowAt(ud, dstStep, y);
-    for (int x = 0; x < roi.width; ++x)
-      for (int c = 0; c < L::kUse; ++c) {
-        const int i = x * L::kCh + c;
-        o[i] = thr::logicSample<U>(op, ar[i], bConst ? br[c] : br[i]);
-      }
-  }
+  thr::withConstant<3>(op, [&](auto k) {
+    for (int y = 0; y < roi.height; ++y) {
+      const U* ar = rowAt(ua, aStep, y);
+      const U* br = bConst ? ub : rowAt(ub, bStep, y);
+      U* o = rowAt(ud, dstStep, y);
+      for (int x = 0; x < roi.width; ++x)
+        for (int c = 0; c < L::kUse; ++c) {
+          const int i = x * L::kCh + c;
+          o[i] = thr::logicSample<U>(k.value, ar[i], bConst ? br[c] : br[i]);
+        }
+    }
+  });
 }
 
 // Pointers, steps, then the size.

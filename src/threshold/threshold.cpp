@@ -124,12 +124,14 @@ void runThreshold(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, 
       alpha ? keep.v : nullptr);
     return;
   }
-  thr::eachRow(src, srcStep, dst, dstStep, roi.height, [&](const T* s, T* o) {
-    for (int x = 0; x < roi.width; ++x)
-      for (int c = 0; c < L::kUse; ++c) {
-        const int i = x * L::kCh + c;
-        o[i] = thr::thresholdSample(mode, s[i], t1[c], v1[c], t2[c], v2[c]);
-      }
+  thr::withConstant<5>(mode, [&](auto m) {
+    thr::eachRow(src, srcStep, dst, dstStep, roi.height, [&](const T* s, T* o) {
+      for (int x = 0; x < roi.width; ++x)
+        for (int c = 0; c < L::kUse; ++c) {
+          const int i = x * L::kCh + c;
+          o[i] = thr::thresholdSample<T>(m.value, s[i], t1[c], v1[c], t2[c], v2[c]);
+        }
+    });
   });
 }
 

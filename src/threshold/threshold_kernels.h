@@ -15,6 +15,7 @@
 
 #include <cstring>
 #include <type_traits>
+#include <utility>
 
 #include "core/frame.h"
 
@@ -113,6 +114,17 @@ inline T shiftSample(bool left, T x, int count) {
   using U = std::make_unsigned_t<T>;
   if (left) return static_cast<T>(static_cast<U>(static_cast<U>(x) << count));
   return static_cast<T>(x >> count);  // arithmetic for the signed types
+}
+
+// Calls f(std::integral_constant<int, v>) for a run-time v in [0, N), so that a scalar loop
+// is compiled once per mode with the per-sample switch folded away.
+template <int N, class F, int... I>
+inline void withConstantImpl(int v, F&& f, std::integer_sequence<int, I...>) {
+  ((v == I ? (f(std::integral_constant<int, I>{}), true) : false) || ...);
+}
+template <int N, class F>
+inline void withConstant(int v, F&& f) {
+  withConstantImpl<N>(v, f, std::make_integer_sequence<int, N>{});
 }
 
 // Walks `height` rows of `rowElems` elements of two same-typed images.
