@@ -1,9 +1,82 @@
 // Spatial, central, normalised and Hu moments up to order 3, per channel. A moment state is
 // filled by one pass over the ROI and then queried as often as needed.
+//
+// The pass keeps, for every sample column, four iterated running sums down the rows
+// (S1 += v, S2 += S1, S3 += S2, S4 += S3): additions only, in 32-bit lanes for 8u (exact for
+// blocks of 128 rows) and in double lanes for 32f. At the end of each block the sums are
+// turned into sum y^j v per column and folded into the moments with the column powers x^i.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "src/stats/moments.cpp"
+#include "hwy/foreach_target.h"
+#include "hwy/highway.h"
 #include "core/frame.h"
 
 #include <cmath>
 #include <cstring>
+
+#ifndef LUMI_MOMENTS_SCALAR_ONCE  // this file is read once per SIMD target
+#define LUMI_MOMENTS_SCALAR_ONCE
+namespace lumi {
+namespace moments {
+
+// Iterated running sums of one row of n samples: s[0..n) is S1, s[n..2n) S2 and so on.
+template <class T, class S>
+inline void iterSumScalar(const T* p, int i0, int n, S* s) {
+  for (int i = i0; i < n; ++i) {
+    S a1 = s[i] + static_cast<S>(p[i]);
+    S a2 = s[n + i] + a1;
+    S a3 = s[2 * n + i] + a2;
+    s[i] = a1;
+    s[n + i] = a2;
+    s[2 * n + i] = a3;
+    s[3 * n + i] += a3;
+  }
+}
+
+}  // namespace moments
+}  // namespace lumi
+#endif
+
+HWY_BEFORE_NAMESPACE();
+namespace lumi {
+namespace HWY_NAMESPACE {
+#if HWY_TARGET != HWY_SCALAR  // only the x86 vector targets enter the dispatch tables
+namespace hn = hwy::HWY_NAMESPACE;
+
+// `rows` (1 to 4) consecutive rows at once, so the running sums are loaded and stored once
+// per group of rows.
+template <class T, class S>
+void IterSumRows(const T* HWY_RESTRICT p, int step, int rows, int n, S* HWY_RESTRICT s) {
+  const hn::ScalableTag<S> d;
+  const hn::Rebind<T, decltype(d)> dn;
+  const int N = static_cast<int>(hn::Lanes(d));
+  const T* r[4];
+  for (int k = 0; k < rows; ++k) r[k] = rowAt(p, step, k);
+  int i = 0;
+  for (; i + N <= n; i += N) {
+    auto a1 = hn::LoadU(d, s + i), a2 = hn::LoadU(d, s + n + i);
+    auto a3 = hn::LoadU(d, s + 2 * n + i), a4 = hn::LoadU(d, s + 3 * n + i);
+    for (int k = 0; k < rows; ++k) {
+      a1 = hn::Add(a1, hn::PromoteTo(d, hn::LoadU(dn, r[k] + i)));
+      a2 = hn::Add(a2, a1);
+      a3 = hn::Add(a3, a2);
+      a4 = hn::Add(a4, a3);
+    }
+    hn::StoreU(a1, d, s + i);
+    hn::StoreU(a2, d, s + n + i);
+    hn::StoreU(a3, d, s + 2 * n + i);
+    hn::StoreU(a4, d, s + 3 * n + i);
+  }
+  for (int k = 0; k < rows; ++k) moments::iterSumScalar<T, S>(r[k], i, n, s);
+}
+
+#endif
+}  // namespace HWY_NAMESPACE
+}  // namespace lumi
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+#include "core/simd.h"
 
 
 namespace lumi {
@@ -19,7 +92,7 @@ struct MomentState {
   int32_t hint;
   int32_t channels;
   int32_t reserved;
-  union {
+  union Values {
     double f[48];
     int64_t s[48];
   } m;
@@ -36,38 +109,68 @@ void initState(MomentState* s, int32_t tag, int hint) {
   s->channels = -1;
 }
 
-// Per-row power sums s_k = sum over x of x^k * I(x), k = 0..3, for each channel.
-template <class T, int kCh, class Acc>
-inline void rowPowerSums(const T* r, int width, Acc (*s)[4]) {
-  for (int c = 0; c < kCh; ++c) s[c][0] = s[c][1] = s[c][2] = s[c][3] = 0;
-  for (int x = 0; x < width; ++x) {
-    const Acc x1 = static_cast<Acc>(x), x2 = x1 * x1, x3 = x2 * x1;
-    for (int c = 0; c < kCh; ++c) {
-      const Acc v = static_cast<Acc>(r[x * kCh + c]);
-      s[c][0] += v;
-      s[c][1] += x1 * v;
-      s[c][2] += x2 * v;
-      s[c][3] += x3 * v;
-    }
-  }
+constexpr int kBlockRows = 128;  // 8u: S4 stays below 2^32 (C(131, 4) * 255)
+
+template <class T, class S>
+using IterSumFn = void (*)(const T*, int, int, int, S*);
+template <class T, class S>
+void iterSumScalarRows(const T* p, int step, int rows, int n, S* s) {
+  for (int k = 0; k < rows; ++k) moments::iterSumScalar<T, S>(rowAt(p, step, k), 0, n, s);
+}
+template <class T, class S>
+IterSumFn<T, S> pickIterSum() {
+  using Fn = IterSumFn<T, S>;
+  LUMI_SIMD_TABLE(Fn, table, IterSumRows<T, S>);
+  if (auto f = pickSimd(table)) return f;
+  return &iterSumScalarRows<T, S>;
 }
 
-// Accumulates m(i, j) = sum y^j * s_i(y) over the rows. Acc is int64_t (exact, 8u) or double;
-// M is the state's element type.
-template <class T, int kCh, int kUse, class Acc, class M>
-void accumulateMoments(const T* src, int step, LumiSize roi, M* out) {
-  for (int c = 0; c < kUse; ++c)
-    for (int k = 0; k < 16; ++k) out[16 * c + k] = 0;
-  for (int y = 0; y < roi.height; ++y) {
-    Acc s[kCh][4];
-    rowPowerSums<T, kCh, Acc>(rowAt(src, step, y), roi.width, s);
-    const M y1 = static_cast<M>(y), yp[4] = {1, y1, y1 * y1, y1 * y1 * y1};
-    for (int c = 0; c < kUse; ++c) {
-      M* m = out + 16 * c;
-      for (int j = 0; j <= 3; ++j)
-        for (int i = 0; i + j <= 3; ++i) m[4 * j + i] += yp[j] * static_cast<M>(s[c][i]);
+// Folds one block of k rows ending before row c into the moments m (16 per channel) and
+// clears the running sums. W is the wide column type (int64_t for 8u, double for 32f); M the
+// state's element type.
+template <class S, class W, class M>
+void foldBlock(S* s, int n, int ch, int use, W c, M* m) {
+  M dm[4][16] = {};
+  int x = 0, k = 0;
+  for (int e = 0; e < n; ++e) {
+    const W s1 = static_cast<W>(s[e]), s2 = static_cast<W>(s[n + e]), s3 = static_cast<W>(s[2 * n + e]),
+            s4 = static_cast<W>(s[3 * n + e]);
+    // with u = c - y (1..k): sum u v = S2, sum u^2 v = 2 S3 - S2, sum u^3 v = 6 S4 - 6 S3 + S2
+    const W t0 = s1, t1 = s2, t2 = 2 * s3 - s2, t3 = 6 * s4 - 6 * s3 + s2;
+    if (k < use) {
+      const W p[4] = {t0, c * t0 - t1, c * c * t0 - 2 * c * t1 + t2,
+                      c * c * c * t0 - 3 * c * c * t1 + 3 * c * t2 - t3};
+      const M x1 = static_cast<M>(x), xp[4] = {1, x1, x1 * x1, x1 * x1 * x1};
+      M* d = dm[k];
+      for (int j = 0; j <= 3; ++j) {
+        const M pj = static_cast<M>(p[j]);
+        for (int i = 0; i + j <= 3; ++i) d[4 * j + i] += xp[i] * pj;
+      }
     }
+    if (++k == ch) k = 0, ++x;
   }
+  for (int q = 0; q < use; ++q)
+    for (int t = 0; t < 16; ++t) m[16 * q + t] += dm[q][t];
+  std::memset(s, 0, sizeof(S) * 4 * static_cast<std::size_t>(n));
+}
+
+// Accumulates all moments of a ROI of kCh-channel pixels (the first `use` channels) into m.
+template <class T, class S, class W, class M>
+LumStatus accumulateMoments(const T* src, int step, LumiSize roi, int ch, int use, M* m) {
+  const int n = roi.width * ch;
+  const std::size_t bytes = sizeof(S) * 4 * static_cast<std::size_t>(n);
+  if (bytes > 0x7fffffffu) return lumStatusMemAllocErr;
+  S* s = reinterpret_cast<S*>(lumsMalloc_8u(static_cast<int>(bytes)));
+  if (s == nullptr) return lumStatusMemAllocErr;
+  std::memset(s, 0, bytes);
+  IterSumFn<T, S> f = pickIterSum<T, S>();
+  for (int y0 = 0; y0 < roi.height; y0 += kBlockRows) {
+    const int y1 = y0 + kBlockRows < roi.height ? y0 + kBlockRows : roi.height;
+    for (int y = y0; y < y1; y += 4) f(rowAt(src, step, y), step, y1 - y < 4 ? y1 - y : 4, n, s);
+    foldBlock<S, W, M>(s, n, ch, use, static_cast<W>(y1), m);
+  }
+  lumsFree(s);
+  return lumStatusOk;
 }
 
 template <class T, class L, bool kExact>
@@ -80,14 +183,17 @@ LumStatus momentsImpl(const T* src, int step, LumiSize roi, void* state, int row
   if (rowBytesPerPixel > 0 &&
       static_cast<int64_t>(step) < static_cast<int64_t>(roi.width) * rowBytesPerPixel)
     return lumStatusStepBelowRowErr;
-  std::memset(&s->m, 0, sizeof(s->m));
-  s->channels = L::kUse;
+  MomentState::Values m{};
+  LumStatus st;
   if constexpr (kExact)
-    accumulateMoments<T, L::kCh, L::kUse, int64_t>(src, step, roi, s->m.s);
+    st = accumulateMoments<T, uint32_t, int64_t, int64_t>(src, step, roi, L::kCh, L::kUse, m.s);
   else if constexpr (std::is_integral_v<T>)
-    accumulateMoments<T, L::kCh, L::kUse, int64_t>(src, step, roi, s->m.f);
+    st = accumulateMoments<T, uint32_t, int64_t, double>(src, step, roi, L::kCh, L::kUse, m.f);
   else
-    accumulateMoments<T, L::kCh, L::kUse, double>(src, step, roi, s->m.f);
+    st = accumulateMoments<T, double, double, double>(src, step, roi, L::kCh, L::kUse, m.f);
+  if (st != lumStatusOk) return st;
+  s->m = m;
+  s->channels = L::kUse;
   return lumStatusOk;
 }
 
@@ -285,3 +391,4 @@ LUMI_API LumStatus lumiMoments64s_8u_AC4R(const Lum8u* pSrc, int srcStep, LumiSi
 LUMI_MOMENT_QUERIES(64f, kTag64f)
 LUMI_MOMENT_QUERIES(64s, kTag64s)
 }
+#endif
