@@ -1,8 +1,11 @@
-// Helpers shared by the pattern generators: writing one value to the owned channels of a
-// pixel, filling a row with one value, and the common argument checks.
+// Helpers of the generators: writing one value to the owned channels of a pixel, filling a
+// row with one value, the argument checks of the patterns, and adding one noise value to a
+// sample (shared by the scalar and the vector noise kernels).
 #pragma once
 
 #include "core/frame.h"
+
+#include <emmintrin.h>
 
 #include <algorithm>
 
@@ -32,6 +35,22 @@ inline LumStatus checkPattern(const T* dst, int step, LumiSize roi) {
   if (step < 1) return lumStatusStepErr;
   if (badSize(roi)) return lumStatusSizeErr;
   return lumStatusOk;
+}
+
+// Values beyond 2^30 saturate any integer sample, so noise is clamped to this first.
+constexpr double kNoiseClamp = 1073741824.0;
+
+// Adds noise n to a sample. Integers: n rounded in the current rounding mode (ties to even by
+// default), then saturation. Floats: n rounded to single precision, then added.
+template <class T>
+inline T addNoise(T s, double n) {
+  if constexpr (std::is_floating_point_v<T>) {
+    return s + static_cast<float>(n);
+  } else {
+    n = n < -kNoiseClamp ? -kNoiseClamp : n;
+    n = n > kNoiseClamp ? kNoiseClamp : n;
+    return saturate<T>(static_cast<int>(s) + _mm_cvtsd_si32(_mm_set_sd(n)));
+  }
 }
 
 }  // namespace gen

@@ -7,14 +7,79 @@
 // are width * channels consecutive samples, AC4 rows the three colour samples of each pixel.
 // Integer samples get the noise rounded by the processor's current rounding mode (ties to
 // even by default) and saturated; float samples get it converted to single precision.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "src/generate/noise.cpp"
+#include "hwy/foreach_target.h"
+#include "hwy/highway.h"
+
 #include "core/frame.h"
+#include "generate/generate_kernels.h"
 
-#include <emmintrin.h>
+HWY_BEFORE_NAMESPACE();
+namespace lumi {
+namespace HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
 
+// Adds n noise values to n consecutive samples. Integers round by adding and subtracting
+// 1.5 * 2^52 with the sign of the value: the addition rounds in the current mode exactly as
+// the scalar conversion does (with the sign, toward-zero rounding stays toward zero).
+template <class T>
+void AddNoiseRow(T* HWY_RESTRICT row, const double* HWY_RESTRICT noise, int n) {
+  const hn::ScalableTag<double> dd;
+  const hn::Rebind<T, decltype(dd)> dt;
+  const int lanes = static_cast<int>(hn::Lanes(dd));
+  int i = 0;
+  if constexpr (std::is_floating_point_v<T>) {
+    for (; i + lanes <= n; i += lanes) {
+      const auto v = hn::DemoteTo(dt, hn::LoadU(dd, noise + i));
+      hn::StoreU(hn::Add(hn::LoadU(dt, row + i), v), dt, row + i);
+    }
+  } else {
+    const hn::Rebind<int32_t, decltype(dd)> di;
+    const auto lo = hn::Set(dd, -gen::kNoiseClamp), hi = hn::Set(dd, gen::kNoiseClamp);
+    const auto magic = hn::Set(dd, 6755399441055744.0);  // 1.5 * 2^52
+    for (; i + lanes <= n; i += lanes) {
+      auto x = hn::Min(hn::Max(hn::LoadU(dd, noise + i), lo), hi);
+      const auto m = hn::CopySign(magic, x);
+      x = hn::Sub(hn::Add(x, m), m);
+      const auto sum = hn::Add(hn::PromoteTo(di, hn::LoadU(dt, row + i)), hn::DemoteTo(di, x));
+      hn::StoreU(hn::DemoteTo(dt, sum), dt, row + i);
+    }
+  }
+  for (; i < n; ++i) row[i] = gen::addNoise(row[i], noise[i]);
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace lumi
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
 #include <cmath>
+
+#include "core/simd.h"
 
 namespace lumi {
 namespace {
+
+template <class T>
+using AddNoiseRowFn = void (*)(T*, const double*, int);
+LUMI_SIMD_TABLE(AddNoiseRowFn<Lum8u>, kAddNoise8u, AddNoiseRow<Lum8u>);
+LUMI_SIMD_TABLE(AddNoiseRowFn<Lum16s>, kAddNoise16s, AddNoiseRow<Lum16s>);
+LUMI_SIMD_TABLE(AddNoiseRowFn<Lum32f>, kAddNoise32f, AddNoiseRow<Lum32f>);
+
+template <class T>
+void addNoiseRowScalar(T* row, const double* noise, int n) {
+  for (int i = 0; i < n; ++i) row[i] = gen::addNoise(row[i], noise[i]);
+}
+
+template <class T>
+AddNoiseRowFn<T> pickAddNoise() {
+  AddNoiseRowFn<T> f = nullptr;
+  if constexpr (std::is_same_v<T, Lum8u>) f = pickSimd(kAddNoise8u);
+  if constexpr (std::is_same_v<T, Lum16s>) f = pickSimd(kAddNoise16s);
+  if constexpr (std::is_same_v<T, Lum32f>) f = pickSimd(kAddNoise32f);
+  return f ? f : &addNoiseRowScalar<T>;
+}
 
 class NoiseStream {
  public:
@@ -38,36 +103,69 @@ class NoiseStream {
   uint32_t a_, b_, c_, borrow_ = 1, lcg_ = 1131199209u;
 };
 
-// Adds noise n to an integer sample: rint in the current rounding mode, then saturation.
-// Values beyond 2^30 saturate whatever the sample, so they are clamped before the conversion.
-template <class T>
-inline T addNoise(T s, double n) {
-  if constexpr (std::is_floating_point_v<T>) {
-    return s + static_cast<float>(n);
-  } else {
-    n = n < -1073741824.0 ? -1073741824.0 : n;
-    n = n > 1073741824.0 ? 1073741824.0 : n;
-    return saturate<T>(static_cast<int>(s) + _mm_cvtsd_si32(_mm_set_sd(n)));
-  }
-}
-
-// Visits the samples of the ROI in row-major order: kUse of every kCh elements.
-template <int kCh, int kUse, class T, class F>
-inline void eachSample(T* p, int step, LumiSize roi, F&& f) {
-  for (int y = 0; y < roi.height; ++y) {
-    T* row = rowAt(p, step, y);
-    const std::ptrdiff_t n = static_cast<std::ptrdiff_t>(roi.width) * kCh;
-    for (std::ptrdiff_t i = 0; i < n; i += kCh)
-      for (int c = 0; c < kUse; ++c) row[i + c] = f(row[i + c]);
-  }
-}
-
 template <class T>
 inline LumStatus checkNoise(const T* p, int step, LumiSize roi, const unsigned* seed) {
   if (anyNull(p, seed)) return lumStatusNullPtrErr;
   if (badSize(roi)) return lumStatusSizeErr;
   if (badStep(step)) return lumStatusStepErr;
   return lumStatusOk;
+}
+
+// Hands out the noise values of a call in sample order, computing them in blocks: the serial
+// generator runs in a tight loop and the independent floating-point work of a block (the
+// logarithms of the Gaussian pairs above all) overlaps. A block never draws beyond the values
+// the ROI needs, so the final state word is the one a sample-by-sample walk would leave.
+constexpr int kBlock = 512;  // noise values per block (even, so pairs never straddle blocks)
+
+template <class Fill>
+class NoiseValues {
+ public:
+  NoiseValues(int64_t total, Fill fill) : left_(total), fill_(fill) {}
+  double next() {
+    if (pos_ == end_) refill();
+    return buf_[pos_++];
+  }
+  // Up to `want` consecutive values at *values; returns how many.
+  int take(int want, const double** values) {
+    if (pos_ == end_) refill();
+    const int k = end_ - pos_ < want ? end_ - pos_ : want;
+    *values = buf_ + pos_;
+    pos_ += k;
+    return k;
+  }
+
+ private:
+  void refill() {
+    end_ = left_ < kBlock ? static_cast<int>(left_) : kBlock;
+    left_ -= end_;
+    fill_(buf_, end_);
+    pos_ = 0;
+  }
+  int64_t left_;
+  Fill fill_;
+  int pos_ = 0, end_ = 0;
+  double buf_[kBlock];
+};
+
+// Adds the values to the ROI's samples in row-major order: whole runs of contiguous samples
+// at a time for one-channel rows, the three colour samples of every pixel for AC4.
+template <int kCh, int kUse, class T, class Values>
+void addToRoi(T* p, int step, LumiSize roi, Values& noise) {
+  const AddNoiseRowFn<T> addRow = pickAddNoise<T>();
+  for (int y = 0; y < roi.height; ++y) {
+    T* row = rowAt(p, step, y);
+    if constexpr (kCh == 1) {
+      for (int x = 0; x < roi.width;) {
+        const double* v;
+        const int k = noise.take(roi.width - x, &v);
+        addRow(row + x, v, k);
+        x += k;
+      }
+    } else {
+      for (std::ptrdiff_t i = 0; i < static_cast<std::ptrdiff_t>(roi.width) * kCh; i += kCh)
+        for (int c = 0; c < kUse; ++c) row[i + c] = gen::addNoise(row[i + c], noise.next());
+    }
+  }
 }
 
 template <class T, int kCh, int kUse>
@@ -82,37 +180,63 @@ LumStatus uniform(T* p, int step, LumiSize roi, T low, T high, unsigned* seed) {
     mid = static_cast<double>(int{low} + int{high}) * 0.5;
   }
   NoiseStream rng(*seed);
-  eachSample<kCh, kUse>(p, step, roi,
-                        [&](T s) { return addNoise(s, rng.next() * scale + mid); });
+  auto fill = [&](double* out, int n) {
+    int32_t draws[kBlock];
+    for (int i = 0; i < n; ++i) draws[i] = rng.next();
+    for (int i = 0; i < n; ++i) out[i] = draws[i] * scale + mid;
+  };
+  NoiseValues<decltype(fill)> noise(static_cast<int64_t>(roi.width) * roi.height * kUse, fill);
+  addToRoi<kCh, kUse>(p, step, roi, noise);
   *seed = rng.state();
   return lumStatusOk;
 }
 
+// The two values of each accepted pair: f = sqrt(-2 ln(q) / q), then mean + sd * f * u for
+// both coordinates. Two pairs at a time in SSE2 registers (the divider and the square root
+// unit are no wider for longer vectors); each lane does exactly the scalar operations.
+inline void pairValues(double* out, const double* u1, const double* u2, const double* q,
+                       const double* lnq, int pairs, double m, double sd) {
+  const __m128d minus2 = _mm_set1_pd(-2.0), vm = _mm_set1_pd(m), vsd = _mm_set1_pd(sd);
+  for (int k = 0; k < pairs; k += 2) {  // the arrays hold one spare entry for odd counts
+    const __m128d f = _mm_sqrt_pd(_mm_div_pd(_mm_mul_pd(minus2, _mm_loadu_pd(lnq + k)),
+                                             _mm_loadu_pd(q + k)));
+    const __m128d sf = _mm_mul_pd(vsd, f);
+    const __m128d g1 = _mm_add_pd(vm, _mm_mul_pd(sf, _mm_loadu_pd(u1 + k)));
+    const __m128d g2 = _mm_add_pd(vm, _mm_mul_pd(sf, _mm_loadu_pd(u2 + k)));
+    _mm_storeu_pd(out + 2 * k, _mm_unpacklo_pd(g1, g2));
+    _mm_storeu_pd(out + 2 * k + 2, _mm_unpackhi_pd(g1, g2));
+  }
+}
+
+// Polar method: a pair (u1, u2) of draws scaled to (-1, 1) is kept when 0 < q < 1 with
+// q = u1^2 + u2^2, and gives two consecutive values; the second one may land on the first
+// sample of the next row, and is dropped after the last sample. A block draws its accepted
+// pairs first (a rejected candidate is overwritten by the next), then takes the logarithms.
 template <class T, int kCh, int kUse>
 LumStatus gauss(T* p, int step, LumiSize roi, T mean, T stdDev, unsigned* seed) {
   if (LumStatus st = checkNoise(p, step, roi, seed)) return st;
   const double m = mean, sd = stdDev;
   NoiseStream rng(*seed);
-  // Polar method: each accepted pair feeds two consecutive samples; the second one may be
-  // the first sample of the next row, and is dropped after the last sample.
-  bool pending = false;
-  double second = 0.0;
-  eachSample<kCh, kUse>(p, step, roi, [&](T s) {
-    if (pending) {
-      pending = false;
-      return addNoise(s, second);
+  auto fill = [&](double* out, int n) {
+    constexpr int kPairs = kBlock / 2;
+    double u1[kPairs + 1], u2[kPairs + 1], q[kPairs + 1], lnq[kPairs + 1];
+    const int pairs = (n + 1) / 2;
+    for (int k = 0; k < pairs;) {
+      const double a = rng.next() * 4.656612873077e-10;
+      const double b = rng.next() * 4.656612873077e-10;
+      const double s = a * a + b * b;
+      u1[k] = a;
+      u2[k] = b;
+      q[k] = s;
+      k += (s > 0.0) & (s < 1.0);
     }
-    double u1, u2, q;
-    do {
-      u1 = rng.next() * 4.656612873077e-10;
-      u2 = rng.next() * 4.656612873077e-10;
-      q = u1 * u1 + u2 * u2;
-    } while (q >= 1.0 || q == 0.0);
-    const double f = std::sqrt(-2.0 * std::log(q) / q);
-    second = m + sd * f * u2;
-    pending = true;
-    return addNoise(s, m + sd * f * u1);
-  });
+    for (int k = 0; k < pairs; ++k) lnq[k] = std::log(q[k]);
+    u1[pairs] = u2[pairs] = lnq[pairs] = 0.0;  // the spare lane of an odd count
+    q[pairs] = 1.0;
+    pairValues(out, u1, u2, q, lnq, pairs, m, sd);
+  };
+  NoiseValues<decltype(fill)> noise(static_cast<int64_t>(roi.width) * roi.height * kUse, fill);
+  addToRoi<kCh, kUse>(p, step, roi, noise);
   *seed = rng.state();
   return lumStatusOk;
 }
@@ -156,3 +280,4 @@ LUMI_NOISE(Gauss, gauss, 8u, Lum8u)
 LUMI_NOISE(Gauss, gauss, 16s, Lum16s)
 LUMI_NOISE(Gauss, gauss, 32f, Lum32f)
 }
+#endif  // HWY_ONCE
