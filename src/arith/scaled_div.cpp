@@ -14,38 +14,57 @@ namespace lumi {
 namespace HWY_NAMESPACE {
 namespace scaledv {
 
-// s2 / s1 in 32-bit lanes. Zero divisors are replaced by one before dividing (no floating
-// point exception flags are raised) and their lanes then get the defined value.
-template <class T>
-HWY_NOINLINE int DivRow(const T* s1, const T* s2, T* d, int n, int sf, int ac4) {
+// s2 / s1 in 32-bit lanes. A zero divisor is replaced by 2^-60, which drives the quotient of
+// a nonzero dividend far past the saturation limit and leaves 0 / 0 at zero: exactly the
+// defined results, without raising a floating-point exception flag. Unsigned quotients are
+// never negative and are rounded by adding 1.5 x 2^23 (the addition rounds with the current
+// mode, as the conversion instruction would); signed ones use the conversion itself.
+template <class T, bool kScaled>
+HWY_INLINE int DivLoop(const T* s1, const T* s2, T* d, int n, float scaleValue, int ac4,
+                       int* done) {
   const hn::ScalableTag<float> df;
   const hn::RebindToSigned<decltype(df)> di;
   const hn::Rebind<T, decltype(di)> dh;
   const int N = static_cast<int>(hn::Lanes(df));
-  const float scaleValue = scaled::divScale(sf);
   const auto scale = hn::Set(df, scaleValue);
   const auto limit = hn::Set(df, 65536.0f), negLimit = hn::Set(df, -65536.0f);
-  const auto zero = hn::Zero(di), one = hn::Set(di, 1);
+  const auto tiny = hn::Set(df, 8.673617379884035e-19f);  // 2^-60
+  const auto magic = hn::Set(df, 12582912.0f);             // 1.5 x 2^23
+  const auto magicBits = hn::BitCast(di, magic);
+  const auto zero = hn::Zero(di);
   const auto hi = hn::Set(di, int32_t(std::numeric_limits<T>::max()));
   const auto lo = hn::Set(di, int32_t(std::numeric_limits<T>::min()));
   const auto colour = ColourLanes(dh);
-  const auto counted = ac4 ? hn::VecFromMask(di, ColourLanes(di)) : hn::Set(di, -1);
-  auto seen = zero;
+  // alpha lanes never count as zero divisors
+  const auto alphaBits = ac4 ? hn::IfThenZeroElse(ColourLanes(di), hn::Set(di, 1)) : zero;
+  auto lowest = hn::Set(di, 1);
   int i = 0;
   for (; i + N <= n; i += N) {
     const auto b = hn::PromoteTo(di, hn::LoadU(dh, s1 + i));
     const auto a = hn::PromoteTo(di, hn::LoadU(dh, s2 + i));
-    const auto z = hn::Eq(b, zero);
-    const auto fb = hn::ConvertTo(df, hn::IfThenElse(z, one, b));
-    auto q = hn::Mul(hn::Div(hn::ConvertTo(df, a), fb), scale);
-    q = hn::Min(hn::Max(q, negLimit), limit);
-    const auto byZero = hn::IfThenElse(hn::Gt(a, zero), hi, hn::IfThenElseZero(hn::Lt(a, zero), lo));
-    const auto r = hn::IfThenElse(z, byZero, hn::NearestInt(q));
-    seen = hn::Or(seen, hn::And(hn::VecFromMask(di, z), counted));
+    lowest = hn::Min(lowest, hn::Or(std::is_signed_v<T> ? hn::Abs(b) : b, alphaBits));
+    const auto fb = hn::IfThenElse(hn::RebindMask(df, hn::Eq(b, zero)), tiny, hn::ConvertTo(df, b));
+    auto q = hn::Div(hn::ConvertTo(df, a), fb);
+    if (kScaled) q = hn::Mul(q, scale);
+    hn::Vec<decltype(di)> r;
+    if constexpr (std::is_unsigned_v<T>) {
+      r = hn::Sub(hn::BitCast(di, hn::Add(hn::Min(q, limit), magic)), magicBits);
+    } else {
+      r = hn::NearestInt(hn::Min(hn::Max(q, negLimit), limit));
+    }
     // clamp first: some targets narrow 32-bit lanes to bytes through a signed 16-bit step
     StoreKeep(dh, hn::DemoteTo(dh, hn::Min(hn::Max(r, lo), hi)), d + i, ac4, colour);
   }
-  int flag = hn::AllFalse(di, hn::Ne(seen, zero)) ? 0 : 1;
+  *done = i;
+  return hn::AllFalse(di, hn::Eq(lowest, zero)) ? 0 : 1;
+}
+
+template <class T>
+HWY_NOINLINE int DivRow(const T* s1, const T* s2, T* d, int n, int sf, int ac4) {
+  const float scaleValue = scaled::divScale(sf);
+  int i = 0;
+  int flag = sf == 0 ? DivLoop<T, false>(s1, s2, d, n, scaleValue, ac4, &i)
+                     : DivLoop<T, true>(s1, s2, d, n, scaleValue, ac4, &i);
   for (; i < n; ++i) {
     if (ac4 && (i & 3) == 3) continue;
     flag |= s1[i] == 0;
