@@ -5,20 +5,22 @@
 namespace {
 
 template <class T, class Ours>
-void noiseRow(const char* name, int cvType, int noiseType, bool gauss, double a, double b, Ours ours) {
+void noiseRow(const char* name, int cvType, int noiseType, bool gauss, double a, double b,
+              Ours ours) {
   auto img = bench::images(cvType);
   auto tmp = std::make_shared<cv::Mat>(img->src.size(), noiseType);
   auto seed = std::make_shared<unsigned>(12345u);
-  bench::row("generate", name, 0,
-             [=] {
-               cv::RNG& rng = cv::theRNG();
-               if (gauss)
-                 rng.fill(*tmp, cv::RNG::NORMAL, a, b);
-               else
-                 rng.fill(*tmp, cv::RNG::UNIFORM, a, b);
-               cv::add(img->src, *tmp, img->dst, cv::noArray(), CV_MAT_DEPTH(cvType));
-             },
-             [=] { ours(img->d<T>(), img->dstep(), img->roi(), seed.get()); });
+  bench::row(
+      "generate", name, 0,
+      [=] {
+        cv::RNG& rng = cv::theRNG();
+        if (gauss)
+          rng.fill(*tmp, cv::RNG::NORMAL, a, b);
+        else
+          rng.fill(*tmp, cv::RNG::UNIFORM, a, b);
+        cv::add(img->src, *tmp, img->dst, cv::noArray(), CV_MAT_DEPTH(cvType));
+      },
+      [=] { ours(img->d<T>(), img->dstep(), img->roi(), seed.get()); });
 }
 
 }  // namespace

@@ -19,32 +19,47 @@ struct Layout {
 };
 constexpr Layout kLayouts[4] = {{"C1", 1, 1}, {"C3", 3, 3}, {"C4", 4, 4}, {"AC4", 4, 3}};
 
-template <class T> using PatternFn = LumStatus (*)(T*, int, LumiSize);
-template <class T> using RampFn = LumStatus (*)(T*, int, LumiSize, Lum32f, Lum32f, int);
-template <class T> using NoiseFn = LumStatus (*)(T*, int, LumiSize, T, T, unsigned*);
+template <class T>
+using PatternFn = LumStatus (*)(T*, int, LumiSize);
+template <class T>
+using RampFn = LumStatus (*)(T*, int, LumiSize, Lum32f, Lum32f, int);
+template <class T>
+using NoiseFn = LumStatus (*)(T*, int, LumiSize, T, T, unsigned*);
 
-template <class T> struct Fns;
-#define PATTERN_FNS(code, T)                                                                  \
-  template <> struct Fns<T> {                                                                 \
-    static constexpr PatternFn<T> jaehne[4] = {lumiImageJaehne_##code##_C1R,                  \
-        lumiImageJaehne_##code##_C3R, lumiImageJaehne_##code##_C4R, lumiImageJaehne_##code##_AC4R}; \
+template <class T>
+struct Fns;
+#define PATTERN_FNS(code, T)                                                                      \
+  template <>                                                                                     \
+  struct Fns<T> {                                                                                 \
+    static constexpr PatternFn<T> jaehne[4] = {                                                   \
+        lumiImageJaehne_##code##_C1R, lumiImageJaehne_##code##_C3R, lumiImageJaehne_##code##_C4R, \
+        lumiImageJaehne_##code##_AC4R};                                                           \
     static constexpr RampFn<T> ramp[4] = {lumiImageRamp_##code##_C1R, lumiImageRamp_##code##_C3R, \
-        lumiImageRamp_##code##_C4R, lumiImageRamp_##code##_AC4R};                             \
-  };
-PATTERN_FNS(8u, Lum8u) PATTERN_FNS(8s, Lum8s) PATTERN_FNS(16u, Lum16u)
-PATTERN_FNS(16s, Lum16s) PATTERN_FNS(32s, Lum32s) PATTERN_FNS(32f, Lum32f)
+                                          lumiImageRamp_##code##_C4R,                             \
+                                          lumiImageRamp_##code##_AC4R};                           \
+  }
+PATTERN_FNS(8u, Lum8u);
+PATTERN_FNS(8s, Lum8s);
+PATTERN_FNS(16u, Lum16u);
+PATTERN_FNS(16s, Lum16s);
+PATTERN_FNS(32s, Lum32s);
+PATTERN_FNS(32f, Lum32f);
 
-template <class T> struct NoiseFns;
-#define NOISE_FNS(code, T)                                                                     \
-  template <> struct NoiseFns<T> {                                                             \
-    static constexpr NoiseFn<T> uniform[4] = {lumiAddRandUniform_Direct_##code##_C1IR,         \
-        lumiAddRandUniform_Direct_##code##_C3IR, lumiAddRandUniform_Direct_##code##_C4IR,      \
-        lumiAddRandUniform_Direct_##code##_AC4IR};                                             \
-    static constexpr NoiseFn<T> gauss[4] = {lumiAddRandGauss_Direct_##code##_C1IR,             \
-        lumiAddRandGauss_Direct_##code##_C3IR, lumiAddRandGauss_Direct_##code##_C4IR,          \
-        lumiAddRandGauss_Direct_##code##_AC4IR};                                               \
-  };
-NOISE_FNS(8u, Lum8u) NOISE_FNS(16s, Lum16s) NOISE_FNS(32f, Lum32f)
+template <class T>
+struct NoiseFns;
+#define NOISE_FNS(code, T)                                                                  \
+  template <>                                                                               \
+  struct NoiseFns<T> {                                                                      \
+    static constexpr NoiseFn<T> uniform[4] = {                                              \
+        lumiAddRandUniform_Direct_##code##_C1IR, lumiAddRandUniform_Direct_##code##_C3IR,   \
+        lumiAddRandUniform_Direct_##code##_C4IR, lumiAddRandUniform_Direct_##code##_AC4IR}; \
+    static constexpr NoiseFn<T> gauss[4] = {                                                \
+        lumiAddRandGauss_Direct_##code##_C1IR, lumiAddRandGauss_Direct_##code##_C3IR,       \
+        lumiAddRandGauss_Direct_##code##_C4IR, lumiAddRandGauss_Direct_##code##_AC4IR};     \
+  }
+NOISE_FNS(8u, Lum8u);
+NOISE_FNS(16s, Lum16s);
+NOISE_FNS(32f, Lum32f);
 
 // ---- references --------------------------------------------------------------------------
 template <class T>
@@ -70,19 +85,27 @@ T rampOf(float v) {
     using Lim = std::numeric_limits<T>;
     if (std::isnan(v)) return Lim::min();
     double r = std::is_same_v<T, Lum32s> ? std::round(static_cast<double>(v))
-                                          : std::trunc(v > 0 ? v + 0.5f : v - 0.5f);
+                                         : std::trunc(v > 0 ? v + 0.5f : v - 0.5f);
     return static_cast<T>(std::min<double>(std::max<double>(r, Lim::min()), Lim::max()));
   }
 }
 
 struct RefRng {
   uint32_t a, b, c, borrow = 1, lcg = 1131199209u;
-  explicit RefRng(uint32_t seed) : a(seed), b(seed * 69069u + 1013904243u), c(b * 69069u + 1013904243u) {}
+  explicit RefRng(uint32_t seed)
+      : a(seed), b(seed * 69069u + 1013904243u), c(b * 69069u + 1013904243u) {}
   int32_t draw() {
     lcg = lcg * 69069u + 1013904243u;
     uint32_t t = b - c - borrow;
-    if (t & 0x80000000u) { borrow = 1; t = t - 18; } else { borrow = 0; }
-    c = b; b = a; a = t;
+    if (t & 0x80000000u) {
+      borrow = 1;
+      t = t - 18;
+    } else {
+      borrow = 0;
+    }
+    c = b;
+    b = a;
+    a = t;
     return static_cast<int32_t>(a + lcg);
   }
 };
@@ -149,7 +172,8 @@ T randomParam(Rng& r) {
 }
 
 // ---- patterns ----------------------------------------------------------------------------
-template <class T> class Pattern : public ::testing::Test {};
+template <class T>
+class Pattern : public ::testing::Test {};
 using PatternTypes = ::testing::Types<Lum8u, Lum8s, Lum16u, Lum16s, Lum32s, Lum32f>;
 TYPED_TEST_SUITE(Pattern, PatternTypes);
 
@@ -166,7 +190,8 @@ TYPED_TEST(Pattern, JaehneMatchesTheFormulaAndKeepsAlpha) {
     std::vector<T> want;
     for (int y = 0; y < r.height; ++y)
       for (int x = 0; x < r.width; ++x) want.insert(want.end(), l.use, jaehneAt<T>(x, y, r));
-    EXPECT_TRUE(sameElements(owned(im, l), want, r.width * l.use)) << l.name << " " << r.width << "x" << r.height;
+    EXPECT_TRUE(sameElements(owned(im, l), want, r.width * l.use))
+        << l.name << " " << r.width << "x" << r.height;
     EXPECT_TRUE(sameElements(owned(im, l, true), alpha));
     EXPECT_TRUE(im.guardsIntact());
   }
@@ -175,8 +200,11 @@ TYPED_TEST(Pattern, JaehneMatchesTheFormulaAndKeepsAlpha) {
 TYPED_TEST(Pattern, RampMatchesTheConversionRules) {
   using T = TypeParam;
   Rng rng = makeRng(2);
-  const double range = std::is_same_v<T, Lum32s> ? 3e9 : std::is_same_v<T, Lum32f> ? 1e3
-                                                  : 1.5 * (double(std::numeric_limits<T>::max()) - std::numeric_limits<T>::min());
+  const double range =
+      std::is_same_v<T, Lum32s> ? 3e9
+      : std::is_same_v<T, Lum32f>
+          ? 1e3
+          : 1.5 * (double(std::numeric_limits<T>::max()) - std::numeric_limits<T>::min());
   for (int it = 0; it < 60; ++it) {
     const Layout& l = kLayouts[it % 4];
     const int axis = it / 4 % 3;
@@ -185,7 +213,8 @@ TYPED_TEST(Pattern, RampMatchesTheConversionRules) {
     im.fillRandom(rng);
     auto alpha = owned(im, l, true);
     std::uniform_real_distribution<double> u(-range, range);
-    float off = static_cast<float>(u(rng)), slope = static_cast<float>(u(rng) / (r.width * r.height));
+    float off = static_cast<float>(u(rng)),
+          slope = static_cast<float>(u(rng) / (r.width * r.height));
     if (it % 7 == 0) slope = std::round(slope) + 0.5f;  // exact halves
     if (it % 13 == 0) off = std::numeric_limits<float>::quiet_NaN();
     ASSERT_EQ(Fns<T>::ramp[it % 4](im.ptr(), im.step(), r, off, slope, axis), lumStatusOk);
@@ -216,7 +245,8 @@ TYPED_TEST(Pattern, ChecksPointerThenStepThenSizeAndAxisLast) {
     EXPECT_EQ(ramp(nullptr, 0, {0, 0}, 1, 1, 7), lumStatusNullPtrErr);
     EXPECT_EQ(ramp(im.ptr(), -4, {-1, 3}, 1, 1, 0), lumStatusStepErr);
     EXPECT_EQ(ramp(im.ptr(), im.step(), {0, 3}, 1, 1, 9), lumStatusSizeErr);
-    for (int axis : {3, -1, 1 << 30}) EXPECT_EQ(ramp(im.ptr(), im.step(), im.roi(), 1, 1, axis), lumStatusOk);
+    for (int axis : {3, -1, 1 << 30})
+      EXPECT_EQ(ramp(im.ptr(), im.step(), im.roi(), 1, 1, axis), lumStatusOk);
     EXPECT_TRUE(sameElements(im.pixels(), before));
     EXPECT_TRUE(im.guardsIntact());
   }
@@ -261,7 +291,8 @@ TEST(PatternDeathTest, HorizontalRampReportsAFailedRowBuffer) {
 #endif
 
 // ---- noise -------------------------------------------------------------------------------
-template <class T> class Noise : public ::testing::Test {};
+template <class T>
+class Noise : public ::testing::Test {};
 using NoiseTypes = ::testing::Types<Lum8u, Lum16s, Lum32f>;
 TYPED_TEST_SUITE(Noise, NoiseTypes);
 

@@ -3,11 +3,11 @@
 // sample (shared by the scalar and the vector noise kernels).
 #pragma once
 
-#include "core/frame.h"
-
 #include <emmintrin.h>
 
 #include <algorithm>
+
+#include "core/frame.h"
 
 namespace lumi {
 namespace gen {

@@ -16,9 +16,11 @@ namespace {
 
 template <class T>
 inline T ringValue(double s) {
-  if constexpr (std::is_same_v<T, Lum8u>) return static_cast<T>(static_cast<int>(127.99999 * (s + 1.0)));
+  if constexpr (std::is_same_v<T, Lum8u>)
+    return static_cast<T>(static_cast<int>(127.99999 * (s + 1.0)));
   if constexpr (std::is_same_v<T, Lum8s>) return static_cast<T>(static_cast<int>(127.99999 * s));
-  if constexpr (std::is_same_v<T, Lum16u>) return static_cast<T>(static_cast<int>(32767.99999 * (s + 1.0)));
+  if constexpr (std::is_same_v<T, Lum16u>)
+    return static_cast<T>(static_cast<int>(32767.99999 * (s + 1.0)));
   if constexpr (std::is_same_v<T, Lum16s>) return static_cast<T>(static_cast<int>(32767.99999 * s));
   if constexpr (std::is_same_v<T, Lum32s>) return static_cast<T>(2147483647.99999 * s);
   if constexpr (std::is_same_v<T, Lum32f>) return static_cast<T>(0.49999 * (s + 1.0));
@@ -60,18 +62,18 @@ LumStatus jaehne(T* dst, int step, LumiSize roi) {
 }  // namespace
 }  // namespace lumi
 
-#define LUMI_JAEHNE(code, T)                                                         \
-  LUMI_API LumStatus lumiImageJaehne_##code##_C1R(T* d, int s, LumiSize r) {         \
-    return lumi::jaehne<T, lumi::C1>(d, s, r);                                        \
-  }                                                                                  \
-  LUMI_API LumStatus lumiImageJaehne_##code##_C3R(T* d, int s, LumiSize r) {         \
-    return lumi::jaehne<T, lumi::C3>(d, s, r);                                        \
-  }                                                                                  \
-  LUMI_API LumStatus lumiImageJaehne_##code##_C4R(T* d, int s, LumiSize r) {         \
-    return lumi::jaehne<T, lumi::C4>(d, s, r);                                        \
-  }                                                                                  \
-  LUMI_API LumStatus lumiImageJaehne_##code##_AC4R(T* d, int s, LumiSize r) {        \
-    return lumi::jaehne<T, lumi::AC4>(d, s, r);                                       \
+#define LUMI_JAEHNE(code, T)                                                  \
+  LUMI_API LumStatus lumiImageJaehne_##code##_C1R(T* d, int s, LumiSize r) {  \
+    return lumi::jaehne<T, lumi::C1>(d, s, r);                                \
+  }                                                                           \
+  LUMI_API LumStatus lumiImageJaehne_##code##_C3R(T* d, int s, LumiSize r) {  \
+    return lumi::jaehne<T, lumi::C3>(d, s, r);                                \
+  }                                                                           \
+  LUMI_API LumStatus lumiImageJaehne_##code##_C4R(T* d, int s, LumiSize r) {  \
+    return lumi::jaehne<T, lumi::C4>(d, s, r);                                \
+  }                                                                           \
+  LUMI_API LumStatus lumiImageJaehne_##code##_AC4R(T* d, int s, LumiSize r) { \
+    return lumi::jaehne<T, lumi::AC4>(d, s, r);                               \
   }
 
 extern "C" {

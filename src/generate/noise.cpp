@@ -10,6 +10,7 @@
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/generate/noise.cpp"
 #include "hwy/foreach_target.h"
+// (foreach_target re-includes this file once per SIMD target)
 #include "hwy/highway.h"
 
 #include "core/frame.h"
@@ -179,11 +180,18 @@ LumStatus uniform(T* p, int step, LumiSize roi, T low, T high, unsigned* seed) {
     scale = static_cast<double>(int{high} - int{low}) * 2.3283064365387e-10;
     mid = static_cast<double>(int{low} + int{high}) * 0.5;
   }
+  const __m128d vscale = _mm_set1_pd(scale), vmid = _mm_set1_pd(mid);
   NoiseStream rng(*seed);
   auto fill = [&](double* out, int n) {
     int32_t draws[kBlock];
     for (int i = 0; i < n; ++i) draws[i] = rng.next();
-    for (int i = 0; i < n; ++i) out[i] = draws[i] * scale + mid;
+    int i = 0;
+    for (; i + 2 <= n; i += 2) {  // two lanes of exactly the scalar operations
+      const __m128d d =
+          _mm_cvtepi32_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(draws + i)));
+      _mm_storeu_pd(out + i, _mm_add_pd(_mm_mul_pd(d, vscale), vmid));
+    }
+    for (; i < n; ++i) out[i] = draws[i] * scale + mid;
   };
   NoiseValues<decltype(fill)> noise(static_cast<int64_t>(roi.width) * roi.height * kUse, fill);
   addToRoi<kCh, kUse>(p, step, roi, noise);
@@ -198,8 +206,8 @@ inline void pairValues(double* out, const double* u1, const double* u2, const do
                        const double* lnq, int pairs, double m, double sd) {
   const __m128d minus2 = _mm_set1_pd(-2.0), vm = _mm_set1_pd(m), vsd = _mm_set1_pd(sd);
   for (int k = 0; k < pairs; k += 2) {  // the arrays hold one spare entry for odd counts
-    const __m128d f = _mm_sqrt_pd(_mm_div_pd(_mm_mul_pd(minus2, _mm_loadu_pd(lnq + k)),
-                                             _mm_loadu_pd(q + k)));
+    const __m128d f =
+        _mm_sqrt_pd(_mm_div_pd(_mm_mul_pd(minus2, _mm_loadu_pd(lnq + k)), _mm_loadu_pd(q + k)));
     const __m128d sf = _mm_mul_pd(vsd, f);
     const __m128d g1 = _mm_add_pd(vm, _mm_mul_pd(sf, _mm_loadu_pd(u1 + k)));
     const __m128d g2 = _mm_add_pd(vm, _mm_mul_pd(sf, _mm_loadu_pd(u2 + k)));
@@ -252,24 +260,24 @@ inline LumStatus widenRow(LumiSize* roi, unsigned channels) {
 }  // namespace
 }  // namespace lumi
 
-#define LUMI_NOISE(Op, impl, code, T)                                                          \
-  LUMI_API LumStatus lumiAddRand##Op##_Direct_##code##_C1IR(T* p, int s, LumiSize r, T a, T b, \
-                                                            unsigned int* seed) {             \
-    return lumi::impl<T, 1, 1>(p, s, r, a, b, seed);                                           \
-  }                                                                                            \
-  LUMI_API LumStatus lumiAddRand##Op##_Direct_##code##_C3IR(T* p, int s, LumiSize r, T a, T b, \
-                                                            unsigned int* seed) {             \
-    if (LumStatus st = lumi::widenRow(&r, 3)) return st;                                       \
-    return lumi::impl<T, 1, 1>(p, s, r, a, b, seed);                                           \
-  }                                                                                            \
-  LUMI_API LumStatus lumiAddRand##Op##_Direct_##code##_C4IR(T* p, int s, LumiSize r, T a, T b, \
-                                                            unsigned int* seed) {             \
-    if (LumStatus st = lumi::widenRow(&r, 4)) return st;                                       \
-    return lumi::impl<T, 1, 1>(p, s, r, a, b, seed);                                           \
-  }                                                                                            \
-  LUMI_API LumStatus lumiAddRand##Op##_Direct_##code##_AC4IR(T* p, int s, LumiSize r, T a,     \
-                                                             T b, unsigned int* seed) {       \
-    return lumi::impl<T, 4, 3>(p, s, r, a, b, seed);                                           \
+#define LUMI_NOISE(Op, impl, code, T)                                                           \
+  LUMI_API LumStatus lumiAddRand##Op##_Direct_##code##_C1IR(T* p, int s, LumiSize r, T a, T b,  \
+                                                            unsigned int* seed) {               \
+    return lumi::impl<T, 1, 1>(p, s, r, a, b, seed);                                            \
+  }                                                                                             \
+  LUMI_API LumStatus lumiAddRand##Op##_Direct_##code##_C3IR(T* p, int s, LumiSize r, T a, T b,  \
+                                                            unsigned int* seed) {               \
+    if (LumStatus st = lumi::widenRow(&r, 3)) return st;                                        \
+    return lumi::impl<T, 1, 1>(p, s, r, a, b, seed);                                            \
+  }                                                                                             \
+  LUMI_API LumStatus lumiAddRand##Op##_Direct_##code##_C4IR(T* p, int s, LumiSize r, T a, T b,  \
+                                                            unsigned int* seed) {               \
+    if (LumStatus st = lumi::widenRow(&r, 4)) return st;                                        \
+    return lumi::impl<T, 1, 1>(p, s, r, a, b, seed);                                            \
+  }                                                                                             \
+  LUMI_API LumStatus lumiAddRand##Op##_Direct_##code##_AC4IR(T* p, int s, LumiSize r, T a, T b, \
+                                                             unsigned int* seed) {              \
+    return lumi::impl<T, 4, 3>(p, s, r, a, b, seed);                                            \
   }
 
 extern "C" {

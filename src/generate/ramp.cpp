@@ -87,13 +87,14 @@ LumStatus ramp(T* dst, int step, LumiSize roi, float offset, float slope, int ax
 }  // namespace
 }  // namespace lumi
 
-#define LUMI_RAMP_ONE(code, T, lay)                                                          \
-  LUMI_API LumStatus lumiImageRamp_##code##_##lay##R(T* d, int s, LumiSize r, Lum32f off,     \
-                                                     Lum32f slope, int axis) {               \
-    return lumi::ramp<T, lumi::lay>(d, s, r, off, slope, axis);                               \
+#define LUMI_RAMP_ONE(code, T, lay)                                                       \
+  LUMI_API LumStatus lumiImageRamp_##code##_##lay##R(T* d, int s, LumiSize r, Lum32f off, \
+                                                     Lum32f slope, int axis) {            \
+    return lumi::ramp<T, lumi::lay>(d, s, r, off, slope, axis);                           \
   }
-#define LUMI_RAMP(code, T) \
-  LUMI_RAMP_ONE(code, T, C1) LUMI_RAMP_ONE(code, T, C3) LUMI_RAMP_ONE(code, T, C4) LUMI_RAMP_ONE(code, T, AC4)
+#define LUMI_RAMP(code, T)   \
+  LUMI_RAMP_ONE(code, T, C1) \
+  LUMI_RAMP_ONE(code, T, C3) LUMI_RAMP_ONE(code, T, C4) LUMI_RAMP_ONE(code, T, AC4)
 
 extern "C" {
 LUMI_RAMP(8u, Lum8u)
