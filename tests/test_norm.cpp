@@ -239,6 +239,23 @@ TEST(Norm, LargeRoisStayExact) {
   EXPECT_EQ(v, std::sqrt(static_cast<double>(static_cast<long double>(65535.0L * 65535.0L * w * h))));
   ASSERT_EQ(lumiNorm_L1_16u_C1R(b16.data(), 2, LumiSize{w, h}, &v), 0);
   EXPECT_EQ(v, 65535.0 * w * h);
+  // one very long row: the vector kernels widen their partial sums several times within it
+  const int n = 1100003;
+  std::vector<Lum8u> l8(n, 255);
+  std::vector<Lum16u> l16(n, 65535);
+  std::vector<Lum16s> s16(n, -32768);
+  ASSERT_EQ(lumiNorm_L2_8u_C1R(l8.data(), n, LumiSize{n, 1}, &v), 0);
+  EXPECT_EQ(v, std::sqrt(65025.0 * n));
+  std::vector<Lum8u> z8(n, 0);
+  ASSERT_EQ(lumiNormDiff_L1_8u_C1R(l8.data(), n, z8.data(), n, LumiSize{n, 1}, &v), lumStatusOk);
+  EXPECT_EQ(v, 255.0 * n);
+  ASSERT_EQ(lumiNorm_L1_16u_C1R(l16.data(), 2 * n, LumiSize{n, 1}, &v), 0);
+  EXPECT_EQ(v, 65535.0 * n);
+  ASSERT_EQ(lumiNorm_L1_16s_C1R(s16.data(), 2 * n, LumiSize{n, 1}, &v), 0);
+  EXPECT_EQ(v, 32768.0 * n);
+  Lum64f sum;
+  ASSERT_EQ(lumiSum_16s_C1R(s16.data(), 2 * n, LumiSize{n, 1}, &sum), 0);
+  EXPECT_EQ(sum, -32768.0 * n);
   // the wide-row case: 40000 x 1 and 200 x 200 of 255 both give 51000
   std::vector<Lum8u> row(40000, 255);
   ASSERT_EQ(lumiNorm_L2_8u_C1R(row.data(), 40000, LumiSize{40000, 1}, &v), 0);

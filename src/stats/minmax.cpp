@@ -4,6 +4,7 @@
 #define HWY_TARGET_INCLUDE "src/stats/minmax.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
+#include "stats/load_pix-inl.h"
 #include "core/frame.h"
 #include "stats/stats_kernels.h"
 
@@ -12,17 +13,6 @@ namespace lumi {
 namespace HWY_NAMESPACE {
 #if HWY_TARGET != HWY_SCALAR  // only the x86 vector targets enter the dispatch tables
 namespace hn = hwy::HWY_NAMESPACE;
-
-template <int kCh, class D, class V>
-HWY_INLINE void LoadPix(D d, const hn::TFromD<D>* HWY_RESTRICT p, V* v) {
-  if constexpr (kCh == 1) {
-    v[0] = hn::LoadU(d, p);
-  } else if constexpr (kCh == 3) {
-    hn::LoadInterleaved3(d, p, v[0], v[1], v[2]);
-  } else {
-    hn::LoadInterleaved4(d, p, v[0], v[1], v[2], v[3]);
-  }
-}
 
 // Running minimum and maximum per channel over one row (mn, mx hold the values so far).
 template <class T, int kCh>

@@ -7,6 +7,7 @@
 #define HWY_TARGET_INCLUDE "src/stats/reduce.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
+#include "stats/load_pix-inl.h"
 #include "core/frame.h"
 #include "stats/stats_kernels.h"
 
@@ -18,17 +19,6 @@ namespace hn = hwy::HWY_NAMESPACE;
 using namespace ::lumi::stats;
 
 // Per-channel vectors of kCh interleaved channels (pixels x .. x + Lanes - 1).
-template <int kCh, class D, class V>
-HWY_INLINE void LoadPix(D d, const hn::TFromD<D>* HWY_RESTRICT p, V* v) {
-  if constexpr (kCh == 1) {
-    v[0] = hn::LoadU(d, p);
-  } else if constexpr (kCh == 3) {
-    hn::LoadInterleaved3(d, p, v[0], v[1], v[2]);
-  } else {
-    hn::LoadInterleaved4(d, p, v[0], v[1], v[2], v[3]);
-  }
-}
-
 // Unsigned magnitude (or, for a signed plain sum, the sample with its sign bit flipped, i.e.
 // biased by 32768) as a vector of the unsigned type of the same width.
 template <int kOp, bool kDiff, class D, class V>
