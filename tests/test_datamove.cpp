@@ -334,9 +334,44 @@ TEST(DataMoveSteps, NegativeAndZeroStepCopiesWalkTheRowsGiven) {
   ASSERT_EQ(lumiCopy_8u_C3R(src.row(r.height - 1), -src.step(), dst.ptr(), dst.step(), r), lumStatusOk);
   for (int y = 0; y < r.height; ++y)
     EXPECT_EQ(0, std::memcmp(dst.row(y), src.row(r.height - 1 - y), r.width * 3)) << "row " << y;
+  const LumiSize r1{r.width * 3, r.height};  // the same bytes as one-channel rows, both flipped
+  ASSERT_EQ(lumiCopy_8u_C1R(src.ptr(), src.step(), dst.row(r.height - 1), -dst.step(), r1), lumStatusOk);
+  for (int y = 0; y < r.height; ++y)
+    EXPECT_EQ(0, std::memcmp(dst.row(r.height - 1 - y), src.row(y), r.width * 3)) << "row " << y;
   ASSERT_EQ(lumiCopy_8u_C3R(src.ptr(), 0, dst.ptr(), dst.step(), r), lumStatusOk);
   for (int y = 0; y < r.height; ++y) EXPECT_EQ(0, std::memcmp(dst.row(y), src.row(0), r.width * 3));
   EXPECT_TRUE(dst.guardsIntact());
+}
+
+// Float data moves as bit patterns: signalling NaNs and negative zero come through unchanged.
+TEST(DataMoveBits, FloatPatternsSurviveEveryPath) {
+  const uint32_t patterns[] = {0x7f800001u, 0xffa00000u, 0x80000000u, 0x7fc00001u, 0x00000001u};
+  const LumiSize r{70, 2};
+  GuardedImage<Lum32f> src(r.width, r.height, 3), dst(r.width, r.height, 3), grey(r.width, r.height, 1);
+  for (int y = 0, k = 0; y < r.height; ++y)  // stored as bits: no float value is ever loaded
+    for (int i = 0; i < r.width * 3; ++i, ++k) std::memcpy(src.row(y) + i, &patterns[k % 5], 4);
+  const std::vector<Lum32f> want = src.pixels();
+  const auto sameBits = [&](const std::vector<Lum32f>& got) {
+    return std::memcmp(got.data(), want.data(), want.size() * 4) == 0;
+  };
+  const int order[3] = {0, 1, 2};
+  ASSERT_EQ(lumiCopy_32f_C3R(src.ptr(), src.step(), dst.ptr(), dst.step(), r), lumStatusOk);
+  EXPECT_TRUE(sameBits(dst.pixels()));
+  dst.fill([](int, int, int) { return 0.0f; });
+  ASSERT_EQ(lumiSwapChannels_32f_C3R(src.ptr(), src.step(), dst.ptr(), dst.step(), r, order), lumStatusOk);
+  EXPECT_TRUE(sameBits(dst.pixels()));
+  for (int c = 0; c < 3; ++c) {
+    ASSERT_EQ(lumiCopy_32f_C3C1R(src.ptr() + c, src.step(), grey.ptr(), grey.step(), r), lumStatusOk);
+    ASSERT_EQ(lumiCopy_32f_C1C3R(grey.ptr(), grey.step(), dst.ptr() + (2 - c), dst.step(), r), lumStatusOk);
+  }
+  for (int y = 0; y < r.height; ++y)
+    for (int x = 0; x < r.width; ++x)
+      for (int c = 0; c < 3; ++c)
+        EXPECT_EQ(0, std::memcmp(&dst.at(x, y, c), &src.at(x, y, 2 - c), 4)) << x << "," << y << "," << c;
+  float nan;
+  std::memcpy(&nan, &patterns[0], 4);
+  ASSERT_EQ(lumiSet_32f_C1R(nan, grey.ptr(), grey.step(), r), lumStatusOk);
+  EXPECT_EQ(0, std::memcmp(&grey.at(r.width - 1, 1), &patterns[0], 4));
 }
 
 // Every failing call must leave the destination exactly as it was.
