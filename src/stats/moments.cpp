@@ -157,9 +157,10 @@ void foldBlock(S* s, int n, int ch, int use, W c, M* m) {
 // Accumulates all moments of a ROI of kCh-channel pixels (the first `use` channels) into m.
 template <class T, class S, class W, class M>
 LumStatus accumulateMoments(const T* src, int step, LumiSize roi, int ch, int use, M* m) {
-  const int n = roi.width * ch;
+  const int64_t elems = static_cast<int64_t>(roi.width) * ch;
+  if (elems * 4 * static_cast<int64_t>(sizeof(S)) > 0x7fffffff) return lumStatusMemAllocErr;
+  const int n = static_cast<int>(elems);
   const std::size_t bytes = sizeof(S) * 4 * static_cast<std::size_t>(n);
-  if (bytes > 0x7fffffffu) return lumStatusMemAllocErr;
   S* s = reinterpret_cast<S*>(lumsMalloc_8u(static_cast<int>(bytes)));
   if (s == nullptr) return lumStatusMemAllocErr;
   std::memset(s, 0, bytes);
