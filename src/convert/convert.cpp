@@ -19,6 +19,9 @@ namespace lumi {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
+#if HWY_TARGET == HWY_SCALAR || HWY_TARGET == HWY_EMU128
+RowFn GetKernel(int) { return nullptr; }  // the portable baseline is never dispatched to
+#else
 // Each operation converts one vector: it names its source and destination element types and
 // the working lane type W whose full vector sets the number of elements done per step.
 
@@ -76,23 +79,35 @@ struct Narrow {  // saturating integer narrowing
   }
 };
 
-// Clamps to [lo, hi] (NaN gives lo, as maxps does) and converts by the current rounding mode.
-template <class DF, class D>
-HWY_INLINE auto RoundSaturate(DF df, D dd, hn::Vec<DF> v, float lo, float hi) {
+// Clamps to [lo, hi] (NaN gives lo, as maxps does) and rounds, leaving the integer in the
+// low bits of each 32-bit lane (two's complement in the low 16 bits), which the packing below
+// keeps. Adding 2^23 to a value in [0, 2^22) rounds it to an integer exactly as a conversion
+// instruction does under the current mode, and leaves the integer in the low mantissa bits.
+// Signed ranges are rounded explicitly, to nearest even or toward zero as the conversion's
+// selector asked (the mode the caller of the kernel has set), and 1.5 * 2^23 added exactly.
+template <bool kSigned, class DF>
+HWY_INLINE hn::Vec<hn::RebindToUnsigned<DF>> RoundToLowBits(DF df, hn::Vec<DF> v, float lo,
+                                                            float hi, bool truncate) {
+  const hn::RebindToUnsigned<DF> du;
   v = hn::Min(hn::Max(v, hn::Set(df, lo)), hn::Set(df, hi));
-  return hn::DemoteTo(dd, hn::NearestInt(v));
+  if constexpr (kSigned) {
+    v = truncate ? hn::Trunc(v) : hn::Round(v);
+    return hn::BitCast(du, hn::Add(v, hn::Set(df, 12582912.0f)));
+  } else {
+    return hn::BitCast(du, hn::Add(v, hn::Set(df, 8388608.0f)));
+  }
 }
 
 template <class D>
 struct FloatToInt {
   using TS = float;
   using TD = D;
-  using W = float;
-  explicit FloatToInt(const RowParams&) {}
-  template <class DW, class V>
-  HWY_INLINE auto operator()(DW df, V v) const {
-    return RoundSaturate(df, hn::Rebind<D, DW>(), v, float(std::numeric_limits<D>::min()),
-                         float(std::numeric_limits<D>::max()));
+  bool truncate;
+  explicit FloatToInt(const RowParams& p) : truncate(p.truncate) {}
+  template <class DF, class V>
+  HWY_INLINE auto operator()(DF df, V v) const {
+    return RoundToLowBits<std::is_signed_v<D>>(df, v, float(std::numeric_limits<D>::min()),
+                                               float(std::numeric_limits<D>::max()), truncate);
   }
 };
 
@@ -148,16 +163,61 @@ template <class S>
 struct ScaleTo8u {  // (v + off) * a - b, rounded by the current mode, saturated to 0..255
   using TS = S;
   using TD = uint8_t;
-  using W = float;
   float off, a, b;
   explicit ScaleTo8u(const RowParams& p) : off(p.off), a(p.a), b(p.b) {}
-  template <class DW, class V>
-  HWY_INLINE auto operator()(DW df, V v) const {
+  template <class DF, class V>
+  HWY_INLINE auto operator()(DF df, V v) const {
     auto t = hn::Mul(hn::Add(ToFloat(df, v), hn::Set(df, off)), hn::Set(df, a));
-    return RoundSaturate(df, hn::Rebind<uint8_t, DW>(), hn::Sub(t, hn::Set(df, b)), 0.0f,
-                         255.0f);
+    return RoundToLowBits<false>(df, hn::Sub(t, hn::Set(df, b)), 0.0f, 255.0f, false);
   }
 };
+
+// Float work narrowed to 8 or 16 bits: Op leaves each result in the low bits of a 32-bit lane
+// and 4 / sizeof(TD) such vectors pack, in order, into one full destination vector.
+template <class Op, class TS, class TD>
+HWY_INLINE void PackedBlock(const Op& op, const TS* s, TD* d) {
+  const hn::ScalableTag<float> df;
+  const hn::Rebind<TS, decltype(df)> ds;
+  const hn::ScalableTag<uint16_t> du16;
+  const hn::ScalableTag<TD> dd;
+  const std::size_t N = hn::Lanes(df);
+  auto lo = hn::ConcatEven(du16, hn::BitCast(du16, op(df, hn::LoadU(ds, s + N))),
+                           hn::BitCast(du16, op(df, hn::LoadU(ds, s))));
+  if constexpr (sizeof(TD) == 2) {
+    hn::StoreU(hn::BitCast(dd, lo), dd, d);
+  } else {
+    const hn::ScalableTag<uint8_t> du8;
+    auto hi = hn::ConcatEven(du16, hn::BitCast(du16, op(df, hn::LoadU(ds, s + 3 * N))),
+                             hn::BitCast(du16, op(df, hn::LoadU(ds, s + 2 * N))));
+    hn::StoreU(hn::BitCast(dd, hn::ConcatEven(du8, hn::BitCast(du8, hi), hn::BitCast(du8, lo))),
+               dd, d);
+  }
+}
+
+template <class Op>
+void PackedRowLoop(const void* srcv, void* dstv, std::ptrdiff_t n, const RowParams& p) {
+  using TS = typename Op::TS;
+  using TD = typename Op::TD;
+  const Op op(p);
+  const TS* s = static_cast<const TS*>(srcv);
+  TD* d = static_cast<TD*>(dstv);
+  const std::ptrdiff_t B = static_cast<std::ptrdiff_t>(hn::Lanes(hn::ScalableTag<TD>()));
+  std::ptrdiff_t i = 0;
+  for (; i + 2 * B <= n; i += 2 * B) {
+    PackedBlock(op, s + i, d + i);
+    PackedBlock(op, s + i + B, d + i + B);
+  }
+  for (; i + B <= n; i += B) PackedBlock(op, s + i, d + i);
+  if (i < n) {
+    constexpr std::size_t kMax = HWY_MAX_BYTES / sizeof(TD);
+    HWY_ALIGN TS sb[kMax] = {};
+    HWY_ALIGN TD db[kMax];
+    const std::size_t m = static_cast<std::size_t>(n - i);
+    std::memcpy(sb, s + i, m * sizeof(TS));
+    PackedBlock(op, sb, db);
+    std::memcpy(d + i, db, m * sizeof(TD));
+  }
+}
 
 // One row of n elements through Op, four vectors per step; the last partial vector goes
 // through a zero-padded buffer.
@@ -210,21 +270,22 @@ RowFn GetKernel(int k) {
     case Kernel::k16s8u: return &RowLoop<Narrow<int16_t, uint8_t>>;
     case Kernel::k32s8u: return &RowLoop<Narrow<int32_t, uint8_t>>;
     case Kernel::k32s8s: return &RowLoop<Narrow<int32_t, int8_t>>;
-    case Kernel::k32f8u: return &RowLoop<FloatToInt<uint8_t>>;
-    case Kernel::k32f8s: return &RowLoop<FloatToInt<int8_t>>;
-    case Kernel::k32f16u: return &RowLoop<FloatToInt<uint16_t>>;
-    case Kernel::k32f16s: return &RowLoop<FloatToInt<int16_t>>;
+    case Kernel::k32f8u: return &PackedRowLoop<FloatToInt<uint8_t>>;
+    case Kernel::k32f8s: return &PackedRowLoop<FloatToInt<int8_t>>;
+    case Kernel::k32f16u: return &PackedRowLoop<FloatToInt<uint16_t>>;
+    case Kernel::k32f16s: return &PackedRowLoop<FloatToInt<int16_t>>;
     case Kernel::kScale8u16u: return &RowLoop<Scale8u16u>;
     case Kernel::kScale8u16s: return &RowLoop<Scale8u16s>;
     case Kernel::kScale8u32s: return &RowLoop<Scale8u32s>;
     case Kernel::kScale8u32f: return &RowLoop<Scale8u32f>;
-    case Kernel::kScale16u8u: return &RowLoop<ScaleTo8u<uint16_t>>;
-    case Kernel::kScale16s8u: return &RowLoop<ScaleTo8u<int16_t>>;
-    case Kernel::kScale32s8u: return &RowLoop<ScaleTo8u<int32_t>>;
-    case Kernel::kScale32f8u: return &RowLoop<ScaleTo8u<float>>;
+    case Kernel::kScale16u8u: return &PackedRowLoop<ScaleTo8u<uint16_t>>;
+    case Kernel::kScale16s8u: return &PackedRowLoop<ScaleTo8u<int16_t>>;
+    case Kernel::kScale32s8u: return &PackedRowLoop<ScaleTo8u<int32_t>>;
+    case Kernel::kScale32f8u: return &PackedRowLoop<ScaleTo8u<float>>;
     default: return nullptr;
   }
 }
+#endif
 
 }  // namespace HWY_NAMESPACE
 }  // namespace lumi
@@ -358,7 +419,9 @@ LumStatus convertFloatImpl(const float* src, int srcStep, TD* dst, int dstStep, 
   if (LumStatus st = checkImages(src, srcStep, dst, dstStep, roi)) return st;
   RowFn fn = rowKernel(k);
   ConversionRounding rounding(roundMode);
-  convertRows<L>(src, srcStep, dst, dstStep, roi, fn, RowParams{});
+  RowParams p;
+  p.truncate = roundMode != lumRndNear;  // the mode just set, for kernels that round explicitly
+  convertRows<L>(src, srcStep, dst, dstStep, roi, fn, p);
   return lumStatusOk;
 }
 

@@ -11,9 +11,12 @@
 namespace lumi {
 
 // Constants of the affine kernels: up-scaling to 32f computes v * a + b; the scalings down to
-// 8u compute (v + off) * a - b, all in single precision, in that order.
+// 8u compute (v + off) * a - b, all in single precision, in that order. Float-to-integer
+// kernels may round explicitly rather than by the current mode: `truncate` names the mode the
+// caller has set (toward zero, else to nearest even).
 struct RowParams {
   float off = 0.0f, a = 1.0f, b = 0.0f;
+  bool truncate = false;
 };
 
 // One row of n elements (channels counted individually).
