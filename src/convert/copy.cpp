@@ -10,6 +10,7 @@ HWY_BEFORE_NAMESPACE();
 namespace lumi {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
+namespace {  // kernels of this file only
 
 // One element every kSrc of s to one every kDst of d, the other destination channels kept.
 // Either pointer may point at a channel other than the first, so a vector of pixels read
@@ -83,6 +84,7 @@ void MaskedCopy(const T* s, T* d, const uint8_t* m, std::size_t n) {
   dm::maskedCopyScalar<T, L>(s + L::kCh * i, d + L::kCh * i, m + i, n - i);
 }
 
+}  // namespace
 }  // namespace HWY_NAMESPACE
 }  // namespace lumi
 HWY_AFTER_NAMESPACE();

@@ -10,10 +10,11 @@ HWY_BEFORE_NAMESPACE();
 namespace lumi {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
+namespace {  // kernels of this file only
 
 // Three vectors cover a whole number of pixels of any layout, so the pattern restarts at every
 // third vector; the tail is the head of the same pattern.
-void FillPattern(const uint8_t* pat, uint8_t* d, std::size_t bytes) {
+[[maybe_unused]] void FillPattern(const uint8_t* pat, uint8_t* d, std::size_t bytes) {
   const hn::ScalableTag<uint8_t> dt;
   const std::size_t N = hn::Lanes(dt);
   const auto v0 = hn::LoadU(dt, pat), v1 = hn::LoadU(dt, pat + N), v2 = hn::LoadU(dt, pat + 2 * N);
@@ -93,6 +94,7 @@ void MaskedSet(const T* v, T* d, const uint8_t* m, std::size_t n) {
   dm::maskedSetScalar<T, L>(v, d + L::kCh * i, m + i, n - i);
 }
 
+}  // namespace
 }  // namespace HWY_NAMESPACE
 }  // namespace lumi
 HWY_AFTER_NAMESPACE();

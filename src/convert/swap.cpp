@@ -11,6 +11,7 @@ HWY_BEFORE_NAMESPACE();
 namespace lumi {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
+namespace {  // kernels of this file only
 
 template <class V>
 HWY_INLINE V pickChannel(int k, V a, V b, V c) {
@@ -50,7 +51,7 @@ void SwapAC4(const T* s, T* d, std::size_t n, const int* order) {
   dm::swapScalar<T, 4>(s + 4 * i, d + 4 * i, n - i, order);
 }
 
-void DupC1C3(const uint8_t* s, uint8_t* d, std::size_t n) {
+[[maybe_unused]] void DupC1C3(const uint8_t* s, uint8_t* d, std::size_t n) {
   const hn::ScalableTag<uint8_t> dt;
   const std::size_t N = hn::Lanes(dt);
   std::size_t i = 0;
@@ -61,6 +62,7 @@ void DupC1C3(const uint8_t* s, uint8_t* d, std::size_t n) {
   dm::dupScalar(s + i, d + 3 * i, n - i);
 }
 
+}  // namespace
 }  // namespace HWY_NAMESPACE
 }  // namespace lumi
 HWY_AFTER_NAMESPACE();
