@@ -24,6 +24,7 @@ HWY_INLINE int DivLoop(const T* s1, const T* s2, T* d, int n, float scaleValue, 
                        int* done) {
   const hn::ScalableTag<float> df;
   const hn::RebindToSigned<decltype(df)> di;
+  const hn::RebindToUnsigned<decltype(di)> du;
   const hn::Rebind<T, decltype(di)> dh;
   const int N = static_cast<int>(hn::Lanes(df));
   const auto scale = hn::Set(df, scaleValue);
@@ -42,7 +43,8 @@ HWY_INLINE int DivLoop(const T* s1, const T* s2, T* d, int n, float scaleValue, 
   for (; i + N <= n; i += N) {
     const auto b = hn::PromoteTo(di, hn::LoadU(dh, s1 + i));
     const auto a = hn::PromoteTo(di, hn::LoadU(dh, s2 + i));
-    lowest = hn::Min(lowest, hn::Or(std::is_signed_v<T> ? hn::Abs(b) : b, alphaBits));
+    const auto bAbs = std::is_signed_v<T> ? hn::Abs(b) : b;
+    lowest = hn::Min(lowest, ac4 ? hn::Or(bAbs, alphaBits) : bAbs);
     const auto fb = hn::IfThenElse(hn::RebindMask(df, hn::Eq(b, zero)), tiny, hn::ConvertTo(df, b));
     auto q = hn::Div(hn::ConvertTo(df, a), fb);
     if (kScaled) q = hn::Mul(q, scale);
@@ -52,8 +54,11 @@ HWY_INLINE int DivLoop(const T* s1, const T* s2, T* d, int n, float scaleValue, 
     } else {
       r = hn::NearestInt(hn::Min(hn::Max(q, negLimit), limit));
     }
-    // clamp first: some targets narrow 32-bit lanes to bytes through a signed 16-bit step
-    StoreKeep(dh, hn::DemoteTo(dh, hn::Min(hn::Max(r, lo), hi)), d + i, ac4, colour);
+    r = std::is_signed_v<T> ? hn::Min(hn::Max(r, lo), hi) : hn::Min(r, hi);
+    if constexpr (sizeof(T) == 1)  // in range already: the cheapest narrowing will do
+      StoreKeep(dh, hn::TruncateTo(dh, hn::BitCast(du, r)), d + i, ac4, colour);
+    else
+      StoreKeep(dh, hn::DemoteTo(dh, r), d + i, ac4, colour);
   }
   *done = i;
   return hn::AllFalse(di, hn::Eq(lowest, zero)) ? 0 : 1;
