@@ -365,9 +365,9 @@ TEST(Convert, AgreesWithOpenCVRounding) {
   cv::Mat f(37, 101, CV_32F), a, b(37, 101, CV_8U), c, d(37, 101, CV_16S);
   cv::randu(f, -400.0, 700.0);
   for (int i = 0; i < f.rows; ++i) f.at<float>(i, i) = float(i) - 0.5f;
-  f.convertTo(a, CV_8U);
-  f.convertTo(c, CV_16S, 100.0);
   cv::Mat f100 = f * 100.0;
+  f.convertTo(a, CV_8U);
+  f100.convertTo(c, CV_16S);
   LumiSize r{101, 37};
   ASSERT_EQ(lumiConvert_32f8u_C1R(f.ptr<float>(), int(f.step), b.ptr(), int(b.step), r, lumRndNear), 0);
   ASSERT_EQ(lumiConvert_32f16s_C1R(f100.ptr<float>(), int(f100.step), d.ptr<Lum16s>(), int(d.step), r, lumRndNear), 0);
