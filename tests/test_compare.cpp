@@ -230,15 +230,6 @@ TEST(Compare, ValidationOrder) {
   compareValidation<Lum32f>();
 }
 
-TEST(Compare, NegativeZeroToleranceAccepted) {
-  const float a[3] = {1.0f, -0.0f, 2.0f}, b[3] = {1.0f, 0.0f, 2.5f};
-  Lum8u m[3] = {7, 7, 7};
-  ASSERT_EQ(lumStatusOk, lumiCompareEqualEps_32f_C1R(a, 12, b, 12, m, 3, LumiSize{3, 1}, -0.0f));
-  EXPECT_EQ(255, m[0]);
-  EXPECT_EQ(255, m[1]);
-  EXPECT_EQ(0, m[2]);
-}
-
 // ---- logic ---------------------------------------------------------------------------------
 
 enum LogicKind { kAnd, kOr, kXor, kNot };

@@ -285,33 +285,4 @@ TEST(Threshold, TwoSidedEqualThresholdsAndNaN) {
   EXPECT_EQ(7, img[2]);
 }
 
-TEST(Threshold, NaNPerMode) {
-  const float nan = std::numeric_limits<float>::quiet_NaN();
-  const LumiSize roi{1, 1};
-  float x, d;
-  x = nan;
-  ASSERT_EQ(0, lumiThreshold_32f_C1R(&x, 4, &d, 4, roi, 3.0f, lumCmpGreater));
-  EXPECT_EQ(3.0f, d);
-  ASSERT_EQ(0, lumiThreshold_32f_C1R(&x, 4, &d, 4, roi, 3.0f, lumCmpLess));
-  EXPECT_EQ(3.0f, d);
-  ASSERT_EQ(0, lumiThreshold_GTVal_32f_C1R(&x, 4, &d, 4, roi, 3.0f, 7.0f));
-  EXPECT_TRUE(std::isnan(d));
-  ASSERT_EQ(0, lumiThreshold_LTVal_32f_C1R(&x, 4, &d, 4, roi, 3.0f, 7.0f));
-  EXPECT_EQ(7.0f, d);
-  const float t4[4] = {1, 1, 1, 1}, v4[4] = {5, 6, 7, 8};
-  float px[4] = {nan, nan, nan, nan};
-  ASSERT_EQ(0, lumiThreshold_LTVal_32f_C4IR(px, 16, roi, t4, v4));
-  EXPECT_EQ(8.0f, px[3]);
-}
-
-TEST(Threshold, IdentityBounds8u) {
-  Rng rng = makeRng(11);
-  GuardedImage<Lum8u> img(77, 3, 1);
-  img.fillRandom(rng);
-  const auto before = img.pixels();
-  ASSERT_EQ(0, lumiThreshold_GT_8u_C1IR(img.ptr(), img.step(), img.roi(), 255));
-  ASSERT_EQ(0, lumiThreshold_LT_8u_C1IR(img.ptr(), img.step(), img.roi(), 0));
-  EXPECT_TRUE(sameElements(img.pixels(), before));
-}
-
 }  // namespace
