@@ -87,7 +87,7 @@ std::vector<T> randomValues(Rng& r, int n) {
 
 // A mask with about half its bytes zero and the others anywhere in 1..255.
 GuardedImage<Lum8u> randomMask(Rng& r, LumiSize roi, int rep) {
-  GuardedImage<Lum8u> m(roi.width, roi.height, 1, casePad(rep + 1), -1, 77 + rep);
+  GuardedImage<Lum8u> m(roi.width, roi.height, 1, casePad(rep), -1, 77 + rep);
   m.fill([&](int, int, int) { return randInt(r, 0, 1) ? Lum8u(randInt(r, 1, 255)) : Lum8u(0); });
   return m;
 }
