@@ -50,7 +50,10 @@ HWY_INLINE void thresholdRowsMode(const T* src, int srcStep, T* dst, int dstStep
         },
         [&](int i, int off) {
           if (thr::keepLane(keep, sizeof(T), off)) return;
-          o[i] = thr::thresholdSample<T>(kMode, s[i], t1[off], v1[off], t2[off], v2[off]);
+          constexpr bool kValue = kMode != thr::kClampGT && kMode != thr::kClampLT;
+          constexpr bool kTwo = kMode == thr::kValLTGT;
+          o[i] = thr::thresholdSample<T>(kMode, s[i], t1[off], kValue ? v1[off] : T(),
+                                         kTwo ? t2[off] : T(), kTwo ? v2[off] : T());
         });
   }
 }
@@ -115,9 +118,11 @@ void runThreshold(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, 
   if (auto f = thresholdSimd<T>()) {
     thr::Pattern<T> pt1, pv1, pt2, pv2, keep;
     thr::fillPattern(pt1, t1, L::kCh, L::kUse);
-    thr::fillPattern(pv1, v1, L::kCh, L::kUse);
-    thr::fillPattern(pt2, t2, L::kCh, L::kUse);
-    thr::fillPattern(pv2, v2, L::kCh, L::kUse);
+    if (mode != thr::kClampGT && mode != thr::kClampLT) thr::fillPattern(pv1, v1, L::kCh, L::kUse);
+    if (mode == thr::kValLTGT) {
+      thr::fillPattern(pt2, t2, L::kCh, L::kUse);
+      thr::fillPattern(pv2, v2, L::kCh, L::kUse);
+    }
     const bool alpha = L::kUse < L::kCh;
     if (alpha) thr::fillKeep(keep, L::kCh, L::kUse);
     f(src, srcStep, dst, dstStep, n, roi.height, mode, pt1.v, pv1.v, pt2.v, pv2.v,
