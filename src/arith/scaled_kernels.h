@@ -239,11 +239,12 @@ LumStatus constOp(const T* src, int sst, const T* vals, T* d, int dst, LumiSize 
   if (op == kMul && allZero) return zeroFill<T, L>(d, dst, roi);
   if (op != kDiv && sf > upperLimit<T>(op)) return zeroFill<T, L>(d, dst, roi);
 
-  T crow[kChunk];
-  for (int i = 0; i < kChunk; ++i)
-    crow[i] = (ac4Of<L>() && i % 4 == 3) ? T(1) : vals[i % L::kCh];
   const RowFn<T> fn = chooseRow<op, T>(simd);
   const int n = roi.width * L::kCh;
+  T crow[kChunk];  // as much of the pattern as one chunk of the row needs
+  const T alpha = 1;
+  for (int i = 0, c = 0; i < n && i < kChunk; ++i, c = c + 1 == L::kCh ? 0 : c + 1)
+    crow[i] = ac4Of<L>() && c == 3 ? alpha : vals[c];
   constexpr bool constFirst = op == kSub || op == kDiv;
   forRows(roi.height, mayFork && forkBySum(roi), [&](int y0, int y1) {
     for (int y = y0; y < y1; ++y) {
