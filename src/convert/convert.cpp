@@ -81,21 +81,17 @@ struct Narrow {  // saturating integer narrowing
 
 // Clamps to [lo, hi] (NaN gives lo, as maxps does) and rounds, leaving the integer in the
 // low bits of each 32-bit lane (two's complement in the low 16 bits), which the packing below
-// keeps. Adding 2^23 to a value in [0, 2^22) rounds it to an integer exactly as a conversion
-// instruction does under the current mode, and leaves the integer in the low mantissa bits.
-// Signed ranges are rounded explicitly, to nearest even or toward zero as the conversion's
-// selector asked (the mode the caller of the kernel has set), and 1.5 * 2^23 added exactly.
+// keeps. Adding M = 1.5 * 2^23 to a value of magnitude below 2^22 rounds it to an integer by
+// the current mode, exactly as a conversion instruction would, and leaves M + r in the sum.
+// The one exception is toward zero for negative values (the sum is positive, so they would
+// round down): signed ranges under that mode truncate first, which the caller says by
+// `truncate` (set exactly when the mode is toward zero), and the sum is then exact.
 template <bool kSigned, class DF>
 HWY_INLINE hn::Vec<hn::RebindToUnsigned<DF>> RoundToLowBits(DF df, hn::Vec<DF> v, float lo,
                                                             float hi, bool truncate) {
-  const hn::RebindToUnsigned<DF> du;
   v = hn::Min(hn::Max(v, hn::Set(df, lo)), hn::Set(df, hi));
-  if constexpr (kSigned) {
-    v = truncate ? hn::Trunc(v) : hn::Round(v);
-    return hn::BitCast(du, hn::Add(v, hn::Set(df, 12582912.0f)));
-  } else {
-    return hn::BitCast(du, hn::Add(v, hn::Set(df, 8388608.0f)));
-  }
+  if (kSigned && truncate) v = hn::Trunc(v);
+  return hn::BitCast(hn::RebindToUnsigned<DF>(), hn::Add(v, hn::Set(df, 12582912.0f)));
 }
 
 template <class D>
