@@ -120,7 +120,8 @@ LumStatus binary32fc(int op, const Lum32fc* s1, int s1Step, const Lum32fc* s2, i
   RowPattern<float> pat(masked ? 2 * L::kCh : 2, masked ? 2 * L::kUse : 2, nullptr);
   const RowPattern<float>* p = masked ? &pat : nullptr;
   const int n = roi.width * L::kCh * 2;
-  F32BinaryRow addSub = op < 2 ? pickF32Binary(op) : nullptr;
+  const bool stream = op < 2 && !masked && bypassCache(12.0 * n * roi.height);
+  F32BinaryRow addSub = op < 2 ? pickF32Binary(op, stream) : nullptr;
   ComplexMulRow mul = pickComplexMul();
   LastStatus status;
   for (int y = 0; y < roi.height; ++y) {
@@ -135,6 +136,7 @@ LumStatus binary32fc(int op, const Lum32fc* s1, int s1Step, const Lum32fc* s2, i
       status.add(lumStatusDivByZeroWarn);
     }
   }
+  if (stream) endStreaming();
   return status.value;
 }
 
@@ -164,16 +166,19 @@ LumStatus const32fc(int op, const Lum32fc* s, int sStep, const Lum32fc* value, L
   }
   RowPattern<float> pat(2 * L::kCh, 2 * L::kUse, c);
   const int n = roi.width * L::kCh * 2;
+  const bool stream = op < 2 && L::kUse == L::kCh && bypassCache(8.0 * n * roi.height);
+  F32ConstRow addSub = op < 2 ? pickF32Const(op, stream) : nullptr;
   for (int y = 0; y < roi.height; ++y) {
     const float* x = reinterpret_cast<const float*>(rowAt(s, sStep, y));
     float* o = reinterpret_cast<float*>(rowAt(d, dStep, y));
     if (op < 2)
-      pickF32Const(op)(x, o, n, &pat);
+      addSub(x, o, n, &pat);
     else if (op == 2)
       pickComplexMul()(x, nullptr, o, n, &pat);
     else
       complexDivRow(x, nullptr, o, n, &pat);
   }
+  if (stream) endStreaming();
   return lumStatusOk;
 }
 

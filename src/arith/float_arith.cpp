@@ -61,11 +61,48 @@ void ConstRowSimd(const float* x, float* out, int n, const RowPattern<float>* pa
       });
 }
 
+// Unmasked rows whose destination is written with cache-bypassing stores from its first
+// vector-aligned element on; the results are those of the kernels above.
+template <int OP>
+int BinaryRowStream(const float* x, const float* y, float* out, int n, const RowPattern<float>*) {
+  const hn::ScalableTag<float> d;
+  const size_t N = hn::Lanes(d), count = static_cast<size_t>(n);
+  auto zeros = hn::Zero(d);
+  int zero = 0;
+  size_t i = 0;
+  auto one = [&](size_t k) {
+    if (OP == 3 && y[k] == 0.0f) zero = 1;
+    out[k] = fop<OP>(x[k], y[k]);
+  };
+  for (; i < count && reinterpret_cast<uintptr_t>(out + i) % (N * sizeof(float)) != 0; ++i) one(i);
+  for (; i + N <= count; i += N) {
+    const auto yv = hn::LoadU(d, y + i);
+    if constexpr (OP == 3) zeros = hn::Or(zeros, hn::VecFromMask(d, hn::Eq(yv, hn::Zero(d))));
+    hn::Stream(VOp<OP>(hn::LoadU(d, x + i), yv), d, out + i);
+  }
+  for (; i < count; ++i) one(i);
+  return zero | !hn::AllFalse(d, hn::MaskFromVec(zeros));
+}
+
+template <int OP>
+void ConstRowStream(const float* x, float* out, int n, const RowPattern<float>* pat) {
+  const hn::ScalableTag<float> d;
+  const size_t N = hn::Lanes(d), count = static_cast<size_t>(n), per = static_cast<size_t>(pat->period);
+  size_t i = 0;
+  for (; i < count && reinterpret_cast<uintptr_t>(out + i) % (N * sizeof(float)) != 0; ++i)
+    out[i] = fop<OP>(x[i], pat->value[i % per]);
+  for (; i + N <= count; i += N)
+    hn::Stream(VOp<OP>(hn::LoadU(d, x + i), hn::LoadU(d, pat->value + i % per)), d, out + i);
+  for (; i < count; ++i) out[i] = fop<OP>(x[i], pat->value[i % per]);
+}
+
 }  // namespace HWY_NAMESPACE
 }  // namespace lumi
 HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
+#include <xmmintrin.h>
+
 #include "core/simd.h"
 
 namespace lumi {
@@ -77,6 +114,13 @@ LUMI_SIMD_TABLE(F32BinaryRow, kDivRow, BinaryRowSimd<3>);
 LUMI_SIMD_TABLE(F32ConstRow, kAddCRow, ConstRowSimd<0>);
 LUMI_SIMD_TABLE(F32ConstRow, kSubCRow, ConstRowSimd<1>);
 LUMI_SIMD_TABLE(F32ConstRow, kMulCRow, ConstRowSimd<2>);
+LUMI_SIMD_TABLE(F32BinaryRow, kAddRowNT, BinaryRowStream<0>);
+LUMI_SIMD_TABLE(F32BinaryRow, kSubRowNT, BinaryRowStream<1>);
+LUMI_SIMD_TABLE(F32BinaryRow, kMulRowNT, BinaryRowStream<2>);
+LUMI_SIMD_TABLE(F32BinaryRow, kDivRowNT, BinaryRowStream<3>);
+LUMI_SIMD_TABLE(F32ConstRow, kAddCRowNT, ConstRowStream<0>);
+LUMI_SIMD_TABLE(F32ConstRow, kSubCRowNT, ConstRowStream<1>);
+LUMI_SIMD_TABLE(F32ConstRow, kMulCRowNT, ConstRowStream<2>);
 
 namespace {
 
@@ -108,13 +152,15 @@ LumStatus binary32f(int op, const float* s1, int s1Step, const float* s2, int s2
   if (op == 3 && badStep(s1Step, s2Step, dStep)) return lumStatusStepErr;
   const bool masked = L::kUse < L::kCh;
   RowPattern<float> pat(masked ? L::kCh : 1, masked ? L::kUse : 1, nullptr);
-  F32BinaryRow row = pickF32Binary(op);
   const int n = roi.width * L::kCh;
+  const bool stream = !masked && bypassCache(12.0 * n * roi.height);
+  F32BinaryRow row = pickF32Binary(op, stream);
   FirstStatus status;
   for (int y = 0; y < roi.height; ++y)
     if (row(rowAt(s2, s2Step, y), rowAt(s1, s1Step, y), rowAt(d, dStep, y), n,
             masked ? &pat : nullptr))
       status.add(lumStatusDivByZeroWarn);
+  if (stream) endStreaming();
   return status.value;
 }
 
@@ -134,37 +180,47 @@ LumStatus const32f(int op, const float* s, int sStep, const float* value, float*
     op = 2;
   }
   RowPattern<float> pat(L::kCh, L::kUse, c);
-  F32ConstRow row = pickF32Const(op);
   const int n = roi.width * L::kCh;
+  const bool stream = L::kUse == L::kCh && bypassCache(8.0 * n * roi.height);
+  F32ConstRow row = pickF32Const(op, stream);
   for (int y = 0; y < roi.height; ++y) row(rowAt(s, sStep, y), rowAt(d, dStep, y), n, &pat);
+  if (stream) endStreaming();
   return lumStatusOk;
 }
 
 }  // namespace
 
-F32BinaryRow pickF32Binary(int op) {
+F32BinaryRow pickF32Binary(int op, bool stream) {
   static F32BinaryRow const scalar[4] = {binaryRowScalar<0>, binaryRowScalar<1>,
                                          binaryRowScalar<2>, binaryRowScalar<3>};
   F32BinaryRow simd = nullptr;
   switch (op) {
-    case 0: simd = pickSimd(kAddRow); break;
-    case 1: simd = pickSimd(kSubRow); break;
-    case 2: simd = pickSimd(kMulRow); break;
-    default: simd = pickSimd(kDivRow); break;
+    case 0: simd = pickSimd(stream ? kAddRowNT : kAddRow); break;
+    case 1: simd = pickSimd(stream ? kSubRowNT : kSubRow); break;
+    case 2: simd = pickSimd(stream ? kMulRowNT : kMulRow); break;
+    default: simd = pickSimd(stream ? kDivRowNT : kDivRow); break;
   }
   return simd ? simd : scalar[op & 3];
 }
 
-F32ConstRow pickF32Const(int op) {
+F32ConstRow pickF32Const(int op, bool stream) {
   static F32ConstRow const scalar[3] = {constRowScalar<0>, constRowScalar<1>, constRowScalar<2>};
   F32ConstRow simd = nullptr;
   switch (op) {
-    case 0: simd = pickSimd(kAddCRow); break;
-    case 1: simd = pickSimd(kSubCRow); break;
-    default: simd = pickSimd(kMulCRow); break;
+    case 0: simd = pickSimd(stream ? kAddCRowNT : kAddCRow); break;
+    case 1: simd = pickSimd(stream ? kSubCRowNT : kSubCRow); break;
+    default: simd = pickSimd(stream ? kMulCRowNT : kMulCRow); break;
   }
   return simd ? simd : scalar[op > 2 ? 2 : op];
 }
+
+bool bypassCache(double bytes) {
+  if (bytes < 1048576.0) return false;
+  int cache = 0;
+  return lumGetMaxCacheSizeB(&cache) == 0 && cache > 0 && bytes > cache / 4.0;
+}
+
+void endStreaming() { _mm_sfence(); }
 
 }  // namespace lumi
 

@@ -118,7 +118,15 @@ inline float fop(float x, float y) {
 using F32BinaryRow = int (*)(const float* x, const float* y, float* out, int n,
                              const RowPattern<float>* pat);
 using F32ConstRow = void (*)(const float* x, float* out, int n, const RowPattern<float>* pat);
-F32BinaryRow pickF32Binary(int op);
-F32ConstRow pickF32Const(int op);
+// stream: the unmasked variant whose destination bypasses the cache (end the call with
+// endStreaming()).
+F32BinaryRow pickF32Binary(int op, bool stream = false);
+F32ConstRow pickF32Const(int op, bool stream = false);
+
+// Destinations that will not stay in cache are written with cache-bypassing stores: when the
+// bytes a call reads and writes exceed a quarter of the largest cache, the destination lines
+// would be evicted before any reuse, and reading them for ownership first only adds traffic.
+bool bypassCache(double bytes);
+void endStreaming();
 
 }  // namespace lumi
