@@ -149,21 +149,17 @@ enum Order { kIncreasing, kWithTies, kUnordered };
 // below it, where the lookups have no defined behaviour.
 template <class P>
 std::vector<P> makeLevels(Rng& r, int n, Order order, double a, double b) {
-  std::vector<P> lev(n);
-  auto pick = [&] {
-    double v = std::uniform_real_distribution<double>(a, b)(r);
-    return std::is_integral_v<P> ? static_cast<P>(std::floor(v)) : static_cast<P>(v);
-  };
-  for (;;) {
-    for (auto& v : lev) v = pick();
-    if (order == kWithTies)
-      for (int i = 1; i < n; ++i)
-        if (randInt(r, 0, 3) == 0) lev[i] = lev[i - 1];
-    if (order != kUnordered) std::sort(lev.begin(), lev.end());
-    bool ok = true;
-    for (int i = 0; order == kIncreasing && i + 1 < n; ++i) ok = ok && lev[i] < lev[i + 1];
-    if (ok) return lev;
+  std::vector<P> lev;
+  while (static_cast<int>(lev.size()) < n) {
+    double x = std::uniform_real_distribution<double>(a, b)(r);
+    P v = std::is_integral_v<P> ? static_cast<P>(std::floor(x)) : static_cast<P>(x);
+    if (order != kIncreasing || std::find(lev.begin(), lev.end(), v) == lev.end()) lev.push_back(v);
   }
+  if (order == kWithTies)
+    for (int i = 1; i < n; ++i)
+      if (randInt(r, 0, 3) == 0) lev[i] = lev[i - 1];
+  if (order != kUnordered) std::sort(lev.begin(), lev.end());
+  return lev;
 }
 
 template <class T>
