@@ -3,6 +3,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include <climits>
 #include <functional>
 #include <limits>
 #include <string>
@@ -23,7 +24,7 @@ int64_t clampTo(int64_t v) {
 
 // r x 2^-sf, ties to even, by floor division and the remainder.
 int64_t scaleRef(int64_t r, int sf) {
-  if (sf <= 0) return r * (int64_t(1) << std::min(-sf, 20));  // 2^20 saturates anything
+  if (sf <= 0) return r * (int64_t(1) << (sf < -20 ? 20 : -sf));  // 2^20 saturates anything
   if (sf > 40) return 0;
   const int64_t p = int64_t(1) << sf;
   int64_t q = r >= 0 ? r / p : -((-r + p - 1) / p);
@@ -218,7 +219,7 @@ void compareAll(uint32_t salt) {
   Rng rng = makeRng(salt);
   std::vector<std::pair<int, LumiSize>> cases;
   for (int sf = -19; sf <= 34; ++sf) cases.push_back({sf, LumiSize{0, 0}});
-  for (int sf : {-40, -31, -25, 38, 40}) cases.push_back({sf, LumiSize{0, 0}});
+  for (int sf : {INT_MIN, -40, -31, -25, 38, 40, INT_MAX}) cases.push_back({sf, LumiSize{0, 0}});
   for (int k = 0; k < 4; ++k) cases.push_back({randInt(rng, -18, 33), LumiSize{1100 + k, 2}});
   for (const Member<T>& m : members<T>()) {
     for (auto [sf, size] : cases) {

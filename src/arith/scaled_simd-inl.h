@@ -103,7 +103,7 @@ HWY_INLINE void WideRow(const T* s1, const T* s2, T* d, int n, int sf, int ac4) 
     maskBits = static_cast<W>((uint64_t(1) << sf) - 1);
     half = static_cast<W>(uint64_t(1) << (sf - 1));
   } else if (kMode == 2) {
-    shift = -sf < WideOf<T>::kMaxShift ? -sf : WideOf<T>::kMaxShift;
+    shift = sf < -WideOf<T>::kMaxShift ? WideOf<T>::kMaxShift : -sf;
   }
   const auto vmask = hn::Set(dw, maskBits), vhalf = hn::Set(dw, half), one = hn::Set(dw, W(1));
   const auto hi = hn::Set(dw, W(std::numeric_limits<T>::max()));
