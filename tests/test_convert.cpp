@@ -83,8 +83,11 @@ void compareRandom(const std::string& name, int ch, bool ac4, Call call, Ref ref
     dst.fillRandom(rng);
     std::vector<TS> in = src.pixels();
     std::vector<TD> want = dst.pixels();
-    for (std::size_t i = 0; i < want.size(); ++i)
-      if (!(ac4 && i % 4 == 3)) want[i] = ref(in[i]);
+    {
+      CallerMode nearest(kNear);  // the references' single-precision steps round to nearest
+      for (std::size_t i = 0; i < want.size(); ++i)
+        if (!(ac4 && i % 4 == 3)) want[i] = ref(in[i]);
+    }
     ASSERT_EQ(call(src.ptr(), src.step(), dst.ptr(), dst.step(), r), lumStatusOk) << name;
     ASSERT_TRUE(dst.guardsIntact()) << name;
     ASSERT_TRUE(sameElements(dst.pixels(), want, r.width * ch)) << name << " " << r.width << "x"
@@ -200,13 +203,14 @@ TEST(Convert, ValidationOrderAndNothingWrittenOnError) {
   }
 }
 
-// Float to integer under every caller mode: the selector alone decides the rounding, and the
+// Float to integer under every caller mode (and the scaling from 32f, which always rounds to
+// nearest, its factors included): the selector alone decides the rounding, and the
 // caller's register comes back exactly (all flags preset, so none can newly appear; with flags
 // clear and a differing mode the whole saved register is written back).
 TEST(Convert, RoundingModeIsTheSelectorsAndTheCallersRegisterIsRestored) {
   Rng rng = makeRng(2);
   for (auto& m : members()) {
-    if (m.name.rfind("Convert_32f", 0) != 0) continue;
+    if (m.name.rfind("Convert_32f", 0) != 0 && m.name.rfind("Scale_32f", 0) != 0) continue;
     SCOPED_TRACE(m.name);
     for (unsigned mode : kModes)
       for (unsigned flags : {0x3fu, 0u}) {
@@ -281,6 +285,14 @@ TEST(Scale, RangeEnds) {
   Lum8u b[4];
   ASSERT_EQ(lumiScale_32f8u_C1R(f, 16, b, 4, LumiSize{4, 1}, 0.0f, 1.0f), 0);
   EXPECT_TRUE(sameElements(std::vector<Lum8u>(b, b + 4), {0, 0, 128, 255}));  // 127.5 -> 128
+  // The factors round to nearest whatever the caller's mode: with 255 / 203.75 rounded toward
+  // zero these inputs would land below a half.
+  const float onEdge[4] = {0x1.99191cp-2f, 0x1.32d2d2p+0f, 0x1.ff5f62p+0f, 0x1.65f5f6p+1f};
+  for (unsigned mode : kModes) {
+    CallerMode caller(mode);
+    ASSERT_EQ(lumiScale_32f8u_C1R(onEdge, 16, b, 4, LumiSize{4, 1}, 0.0f, 203.75f), 0);
+    EXPECT_TRUE(sameElements(std::vector<Lum8u>(b, b + 4), {1, 2, 3, 4})) << "mode " << mode;
+  }
 }
 
 // ---- bit-packed images ----------------------------------------------------------------------
