@@ -19,6 +19,8 @@
 namespace lumi {
 namespace moments {
 
+constexpr int kGroupRows = 8;  // rows folded into the running sums per load and store
+
 // Iterated running sums of one row of n samples: s[0..n) is S1, s[n..2n) S2 and so on.
 template <class T, class S>
 inline void iterSumScalar(const T* p, int i0, int n, S* s) {
@@ -43,14 +45,14 @@ namespace HWY_NAMESPACE {
 #if HWY_TARGET != HWY_SCALAR  // only the x86 vector targets enter the dispatch tables
 namespace hn = hwy::HWY_NAMESPACE;
 
-// `rows` (1 to 4) consecutive rows at once, so the running sums are loaded and stored once
+// `rows` (1 to kGroupRows) consecutive rows at once, so the running sums are loaded and stored once
 // per group of rows.
 template <class T, class S>
 void IterSumRows(const T* HWY_RESTRICT p, int step, int rows, int n, S* HWY_RESTRICT s) {
   const hn::ScalableTag<S> d;
   const hn::Rebind<T, decltype(d)> dn;
   const int N = static_cast<int>(hn::Lanes(d));
-  const T* r[4];
+  const T* r[moments::kGroupRows];
   for (int k = 0; k < rows; ++k) r[k] = rowAt(p, step, k);
   int i = 0;
   for (; i + N <= n; i += N) {
@@ -167,7 +169,8 @@ LumStatus accumulateMoments(const T* src, int step, LumiSize roi, int ch, int us
   IterSumFn<T, S> f = pickIterSum<T, S>();
   for (int y0 = 0; y0 < roi.height; y0 += kBlockRows) {
     const int y1 = y0 + kBlockRows < roi.height ? y0 + kBlockRows : roi.height;
-    for (int y = y0; y < y1; y += 4) f(rowAt(src, step, y), step, y1 - y < 4 ? y1 - y : 4, n, s);
+    for (int y = y0; y < y1; y += moments::kGroupRows)
+      f(rowAt(src, step, y), step, y1 - y < moments::kGroupRows ? y1 - y : moments::kGroupRows, n, s);
     foldBlock<S, W, M>(s, n, ch, use, static_cast<W>(y1), m);
   }
   lumsFree(s);
