@@ -39,13 +39,6 @@ struct RowPattern {
   }
 };
 
-// Elements per pixel and elements written per pixel of a layout whose channels hold `parts`
-// scalars each (2 for complex pixels).
-template <class L>
-constexpr int perPixel(int parts = 1) { return L::kCh * parts; }
-template <class L>
-constexpr int usedPerPixel(int parts = 1) { return L::kUse * parts; }
-
 // Rows of the 32f Abs, Sqr and Sqrt members advance by the step with its two low bits
 // cleared; the 16s Abs members clear the lowest bit.
 inline int stepDown(int step, int bytes) { return step & ~(bytes - 1); }
