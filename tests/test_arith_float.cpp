@@ -375,6 +375,31 @@ TEST(Complex32, ProductIsRoundedOnce) {
   EXPECT_EQ(out.im, 0.0f);
 }
 
+// A warning from any row survives the rows after it, in the first-status (32f) and the
+// last-status (complex) division members alike.
+TEST(Complex32, DivisionWarningOfAnEarlyRowIsKept) {
+  GuardedImage<float> a(6, 4, 1), b(6, 4, 1), d(6, 4, 1);
+  a.fill([](int, int y, int) { return y == 0 ? 0.0f : 2.0f; });
+  b.fill([](int x, int, int) { return static_cast<float>(x); });
+  EXPECT_EQ(lumiDiv_32f_C1R(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), d.roi()),
+            lumStatusDivByZeroWarn);
+  EXPECT_EQ(d.at(5, 3), 2.5f);
+  GuardedImage<Lum32fc> p(3, 5, 1), q(3, 5, 1);
+  p.fill([](int x, int y, int) { return y == 1 && x == 2 ? Lum32fc{0, 0} : Lum32fc{1, 1}; });
+  q.fill([](int, int, int) { return Lum32fc{2, 0}; });
+  EXPECT_EQ(lumiDiv_32fc_C1IR(p.ptr(), p.step(), q.ptr(), q.step(), q.roi()), lumStatusDivByZeroWarn);
+  EXPECT_EQ(q.at(0, 4).re, 1.0f);
+  EXPECT_EQ(q.at(0, 4).im, -1.0f);
+  GuardedImage<Lum16sc> u(3, 5, 3), v(3, 5, 3), w(3, 5, 3);
+  u.fill([](int x, int y, int c) { return y == 0 && x == 0 && c == 2 ? Lum16sc{0, 0} : Lum16sc{1, 0}; });
+  v.fill([](int, int, int) { return Lum16sc{-7, 9}; });
+  EXPECT_EQ(lumiDiv_16sc_C3RSfs(u.ptr(), u.step(), v.ptr(), v.step(), w.ptr(), w.step(), w.roi(), 0),
+            lumStatusDivByZeroWarn);
+  EXPECT_TRUE(w.at(0, 0, 2).re == -32768 && w.at(0, 0, 2).im == 32767);
+  EXPECT_TRUE(w.at(2, 4, 1).re == -7 && w.at(2, 4, 1).im == 9);
+  EXPECT_TRUE(d.guardsIntact() && q.guardsIntact() && w.guardsIntact());
+}
+
 // ---- 16sc, 32sc with scale factors -----------------------------------------------------------
 // Reference in long double: 64-bit products and their sums are exact there.
 template <class P>
