@@ -398,6 +398,14 @@ TEST(Lut, CubicFewLevelsIsLinear) {
   ASSERT_EQ(lumiLUT_Cubic_8u_C1R(src.ptr(), src.step(), dst.ptr(), dst.step(), src.roi(), val, lev, 5), 0);
   for (int x = 0; x < 4; ++x) EXPECT_EQ(dst.at(x, 0), val[x]);
   EXPECT_EQ(dst.at(4, 0), 100);  // the last level is copied
+  // a repeated level leaves no cubic through the four points: that interval is linear
+  Lum32s tied[] = {0, 0, 40, 80, 120}, tiedVal[] = {9, 30, 250, 4, 77};
+  GuardedImage<Lum8u> all(256, 1, 1), cub(256, 1, 1), lin(256, 1, 1);
+  all.fill([](int x, int, int) { return static_cast<Lum8u>(x); });
+  ASSERT_EQ(lumiLUT_Cubic_8u_C1R(all.ptr(), all.step(), cub.ptr(), cub.step(), all.roi(), tiedVal, tied, 5), 0);
+  ASSERT_EQ(lumiLUT_Linear_8u_C1R(all.ptr(), all.step(), lin.ptr(), lin.step(), all.roi(), tiedVal, tied, 5), 0);
+  for (int x = 0; x < 40; ++x) ASSERT_EQ(cub.at(x, 0), lin.at(x, 0)) << x;
+  for (int x = 120; x < 256; ++x) ASSERT_EQ(cub.at(x, 0), x);
 }
 
 TEST(Lut, FloatNaNAndIntervals) {
