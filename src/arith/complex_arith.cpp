@@ -45,11 +45,11 @@ void ComplexMulRowSimd(const float* x, const float* y, float* out, int n,
   const hn::ScalableTag<double> dd;
   const hn::Rebind<float, decltype(dd)> df;
   ForEachVector(
-      df, static_cast<size_t>(n), pat ? pat->period : 1,
-      [&](size_t i, size_t off) {
+      df, static_cast<size_t>(n), pat,
+      [&](size_t i, size_t off, auto masked) {
         const auto xv = hn::PromoteTo(dd, hn::LoadU(df, x + i));
         const auto yv = hn::PromoteTo(dd, hn::LoadU(df, y ? y + i : pat->value + off));
-        StoreOwned(df, hn::DemoteTo(df, ComplexProduct(dd, xv, yv)), out + i, pat, off);
+        StoreOwned(df, hn::DemoteTo(df, ComplexProduct(dd, xv, yv)), out + i, pat, off, masked);
       },
       [&](size_t i, size_t off) {  // the tail starts on a whole complex value
         if ((i & 1) == 0 && Owns(pat, off))

@@ -28,15 +28,15 @@ int BinaryRowSimd(const float* x, const float* y, float* out, int n, const RowPa
   auto zeros = hn::Zero(d);
   int tailZero = 0;
   ForEachVector(
-      d, static_cast<size_t>(n), pat ? pat->period : 1,
-      [&](size_t i, size_t off) {
+      d, static_cast<size_t>(n), pat,
+      [&](size_t i, size_t off, auto masked) {
         const auto yv = hn::LoadU(d, y + i);
         if constexpr (OP == 3) {
           auto z = hn::VecFromMask(d, hn::Eq(yv, hn::Zero(d)));
-          if (pat && pat->masked) z = hn::And(z, hn::LoadU(d, pat->mask + off));
+          if constexpr (decltype(masked)::value) z = hn::And(z, hn::LoadU(d, pat->mask + off));
           zeros = hn::Or(zeros, z);
         }
-        StoreOwned(d, VOp<OP>(hn::LoadU(d, x + i), yv), out + i, pat, off);
+        StoreOwned(d, VOp<OP>(hn::LoadU(d, x + i), yv), out + i, pat, off, masked);
       },
       [&](size_t i, size_t off) {
         if (!Owns(pat, off)) return;
@@ -51,10 +51,10 @@ template <int OP>
 void ConstRowSimd(const float* x, float* out, int n, const RowPattern<float>* pat) {
   const hn::ScalableTag<float> d;
   ForEachVector(
-      d, static_cast<size_t>(n), pat->period,
-      [&](size_t i, size_t off) {
+      d, static_cast<size_t>(n), pat,
+      [&](size_t i, size_t off, auto masked) {
         StoreOwned(d, VOp<OP>(hn::LoadU(d, x + i), hn::LoadU(d, pat->value + off)), out + i,
-                   pat, off);
+                   pat, off, masked);
       },
       [&](size_t i, size_t off) {
         if (Owns(pat, off)) out[i] = fop<OP>(x[i], pat->value[off]);

@@ -10,6 +10,8 @@
 #include "hwy/highway.h"
 #include "arith/float_kernels.h"
 
+#include <type_traits>
+
 HWY_BEFORE_NAMESPACE();
 namespace lumi {
 namespace HWY_NAMESPACE {
@@ -21,26 +23,44 @@ HWY_INLINE bool Owns(const RowPattern<T>* pat, size_t off) {
   return !pat || !pat->masked || static_cast<int>(off % pat->period) < pat->use;
 }
 
-// Stores v at p, leaving the elements the pattern does not own untouched.
-template <class D, class T>
+// Stores v at p; a masked row leaves the elements the pattern does not own untouched.
+template <class D, class T, class Masked>
 HWY_INLINE void StoreOwned(D d, hn::Vec<D> v, T* HWY_RESTRICT p, const RowPattern<T>* pat,
-                           size_t off) {
-  if (pat && pat->masked)
+                           size_t off, Masked) {
+  if constexpr (Masked::value)
     hn::BlendedStore(v, hn::MaskFromVec(hn::LoadU(d, pat->mask + off)), d, p);
   else
     hn::StoreU(v, d, p);
 }
 
-// Walks n elements: whole vectors of d through vec(i, off), the rest one element at a time
-// through one(i, off), where off is the element's position in the pattern arrays.
-template <class D, class V, class S>
-HWY_INLINE void ForEachVector(D d, size_t n, int period, V&& vec, S&& one) {
+// Walks n elements: whole vectors of d through vec(i, off, masked), the rest one element at a
+// time through one(i, off), where off is the element's position in the pattern arrays and
+// masked is std::true_type when the row has elements it must not write. Rows without a
+// pattern run as a plain loop, two vectors at a time.
+template <class D, class T, class V, class S>
+HWY_INLINE void ForEachVector(D d, size_t n, const RowPattern<T>* pat, V&& vec, S&& one) {
   const size_t N = hn::Lanes(d);
   size_t i = 0, k = 0;
-  for (; i + N <= n; i += N) {
-    vec(i, k * N);
-    if (++k == static_cast<size_t>(period)) k = 0;
+  if (!pat) {
+    for (; i + 2 * N <= n; i += 2 * N) {
+      vec(i, 0, std::false_type());
+      vec(i + N, 0, std::false_type());
+    }
+    for (; i + N <= n; i += N) vec(i, 0, std::false_type());
+    for (; i < n; ++i) one(i, 0);
+    return;
   }
+  const size_t period = static_cast<size_t>(pat->period);
+  auto walk = [&](auto masked) {
+    for (; i + N <= n; i += N) {
+      vec(i, k * N, masked);
+      if (++k == period) k = 0;
+    }
+  };
+  if (pat->masked)
+    walk(std::true_type());
+  else
+    walk(std::false_type());
   for (size_t j = 0; i + j < n; ++j) one(i + j, k * N + j);
 }
 

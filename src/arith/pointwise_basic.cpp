@@ -35,8 +35,8 @@ int UnaryRowSimd(const T* s, T* out, int n, const RowPattern<T>* pat) {
   auto neg = hn::Zero(d);
   int tailNeg = 0;
   ForEachVector(
-      d, static_cast<size_t>(n), pat ? pat->period : 1,
-      [&](size_t i, size_t off) {
+      d, static_cast<size_t>(n), pat,
+      [&](size_t i, size_t off, auto masked) {
         const auto x = hn::LoadU(d, s + i);
         hn::Vec<decltype(d)> r;
         if constexpr (OP == 0) {
@@ -47,11 +47,11 @@ int UnaryRowSimd(const T* s, T* out, int n, const RowPattern<T>* pat) {
           r = hn::Mul(x, x);
         } else {
           auto m = hn::VecFromMask(d, hn::Lt(x, hn::Zero(d)));
-          if (pat && pat->masked) m = hn::And(m, hn::LoadU(d, pat->mask + off));
+          if constexpr (decltype(masked)::value) m = hn::And(m, hn::LoadU(d, pat->mask + off));
           neg = hn::Or(neg, m);
           r = hn::Sqrt(x);
         }
-        StoreOwned(d, r, out + i, pat, off);
+        StoreOwned(d, r, out + i, pat, off, masked);
       },
       [&](size_t i, size_t off) {
         if (!Owns(pat, off)) return;

@@ -37,13 +37,13 @@ void MulScaleRowSimd(const T* a, const T* b, T* out, int n, const RowPattern<T>*
   const hn::Rebind<hwy::MakeSigned<W>, decltype(dw)> ds;
   const auto one = hn::Set(dw, W{1});
   ForEachVector(
-      dt, static_cast<size_t>(n), pat ? pat->period : 1,
-      [&](size_t i, size_t off) {
+      dt, static_cast<size_t>(n), pat,
+      [&](size_t i, size_t off, auto masked) {
         const auto x = hn::PromoteTo(dw, hn::LoadU(dt, a + i));
         const auto y = hn::PromoteTo(dw, hn::LoadU(dt, b ? b + i : pat->value + off));
         const auto p = hn::Mul(x, y);
         const auto r = hn::ShiftRight<k>(hn::Add(hn::Add(p, hn::ShiftRight<k>(p)), one));
-        StoreOwned(dt, hn::DemoteTo(dt, hn::BitCast(ds, r)), out + i, pat, off);
+        StoreOwned(dt, hn::DemoteTo(dt, hn::BitCast(ds, r)), out + i, pat, off, masked);
       },
       [&](size_t i, size_t off) {
         if (Owns(pat, off)) out[i] = mulScale<T>(a[i], b ? b[i] : pat->value[off]);

@@ -81,8 +81,8 @@ int ScaledRowSimd(const T* s, T* out, int n, const RowPattern<T>* pat, int sf) {
   auto bad = hn::Zero(dd);
   int tailBad = 0;
   ForEachVector(
-      dt, static_cast<size_t>(n), pat ? pat->period : 1,
-      [&](size_t i, size_t off) {
+      dt, static_cast<size_t>(n), pat,
+      [&](size_t i, size_t off, auto masked) {
         const auto x = hn::PromoteTo(dd, hn::PromoteTo(di, hn::LoadU(dt, s + i)));
         hn::Vec<decltype(dd)> r;
         hn::Mask<decltype(dd)> neg = hn::Lt(x, zero);
@@ -100,13 +100,13 @@ int ScaledRowSimd(const T* s, T* out, int n, const RowPattern<T>* pat, int sf) {
         r = hn::Min(hn::Max(r, lo), hi);
         if constexpr (F == kSqrt || F == kLn) {
           r = hn::IfThenZeroElse(neg, r);
-          if (pat && pat->masked) {  // a negative alpha sample is not processed
+          if constexpr (decltype(masked)::value) {  // a negative alpha sample is not processed
             const auto owned = hn::PromoteTo(dd, hn::PromoteTo(di, hn::LoadU(dt, pat->mask + off)));
             neg = hn::And(neg, hn::Ne(owned, zero));
           }
           bad = hn::Or(bad, hn::VecFromMask(dd, neg));
         }
-        StoreOwned(dt, hn::DemoteTo(dt, hn::DemoteTo(di, r)), out + i, pat, off);
+        StoreOwned(dt, hn::DemoteTo(dt, hn::DemoteTo(di, r)), out + i, pat, off, masked);
       },
       [&](size_t i, size_t off) {
         if (Owns(pat, off)) out[i] = scaledValue<F>(s[i], sf, &tailBad);
@@ -123,10 +123,23 @@ int FloatRowSimd(const float* s, float* out, int n, const RowPattern<float>* pat
   auto bad = hn::Zero(d);
   int tailBad = 0;
   ForEachVector(
-      d, static_cast<size_t>(n), 1,
-      [&](size_t i, size_t) {
+      d, static_cast<size_t>(n), pat,
+      [&](size_t i, size_t, auto) {
         const auto x = hn::LoadU(d, s + i);
         hn::Vec<decltype(d)> r;
+        // the common case, every lane a finite normal positive (Ln) or below the overflow
+        // clamp (Exp; NaN fails both tests), needs no special values
+        if constexpr (F == kLn) {
+          if (hn::AllTrue(d, hn::And(hn::Ge(x, hn::Set(d, FLT_MIN)), hn::Le(x, hn::Set(d, FLT_MAX))))) {
+            hn::StoreU(hn::Log(d, x), d, out + i);
+            return;
+          }
+        } else {
+          if (hn::AllTrue(d, hn::Lt(x, hn::Set(d, 100.0f)))) {
+            hn::StoreU(hn::Exp(d, x), d, out + i);
+            return;
+          }
+        }
         if constexpr (F == kLn) {
           const auto neg = hn::Lt(x, zero);
           bad = hn::Or(bad, hn::VecFromMask(d, neg));
