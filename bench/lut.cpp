@@ -14,7 +14,8 @@ struct Table8u {
   cv::Mat lut;
   std::vector<Lum32s> values, levels;
   Table8u() : lut(1, 256, CV_8U), values(257), levels(257) {
-    cv::RNG rng(777);
+    static int seed = 777;
+    cv::RNG rng(seed++);
     rng.fill(lut, cv::RNG::UNIFORM, 0, 256);
     for (int k = 0; k <= 256; ++k) {
       levels[k] = k;
@@ -38,6 +39,22 @@ LUMI_BENCH_ROWS(lutRows) {
              [=] {
                const Lum32s* v[3] = {t->values.data(), t->values.data(), t->values.data()};
                const Lum32s* l[3] = {t->levels.data(), t->levels.data(), t->levels.data()};
+               const int n[3] = {257, 257, 257};
+               lumiLUT_8u_C3R(c3->s(), c3->sstep(), c3->d(), c3->dstep(), c3->roi(), v, l, n);
+             });
+
+  // one table per channel: cv::LUT with a three-channel table
+  auto tables3 = std::make_shared<std::vector<Table8u>>(3);
+  auto& t3 = *tables3;
+  auto lut3 = std::make_shared<cv::Mat>();
+  std::vector<cv::Mat> planes = {t3[0].lut, t3[1].lut, t3[2].lut};
+  cv::merge(planes, *lut3);
+  bench::row("lut", "LUT 8u C3 3 tables", c3->bytes() * 2,
+             [=] { cv::LUT(c3->src, *lut3, c3->dst); },
+             [=] {
+               const auto& t3 = *tables3;
+               const Lum32s* v[3] = {t3[0].values.data(), t3[1].values.data(), t3[2].values.data()};
+               const Lum32s* l[3] = {t3[0].levels.data(), t3[1].levels.data(), t3[2].levels.data()};
                const int n[3] = {257, 257, 257};
                lumiLUT_8u_C3R(c3->s(), c3->sstep(), c3->d(), c3->dstep(), c3->roi(), v, l, n);
              });

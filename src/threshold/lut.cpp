@@ -15,34 +15,40 @@ namespace lumi {
 namespace HWY_NAMESPACE {
 
 #if HWY_TARGET == HWY_AVX3
-// 8u full-map lookup of n bytes with the table held in registers: the 256-byte map read as
-// 128 little-endian words, two-table word permutes pick the word holding map[v] (v >> 1),
-// bit 7 of v chooses the table pair and bit 0 the byte. With alphaKept, every fourth byte
-// of the destination is left as it was.
-void MapRow8u(const uint8_t* s, uint8_t* d, int n, const uint8_t* map, int alphaKept) {
-  const __m512i w0 = _mm512_loadu_si512(map), w1 = _mm512_loadu_si512(map + 64);
-  const __m512i w2 = _mm512_loadu_si512(map + 128), w3 = _mm512_loadu_si512(map + 192);
-  const __m512i one = _mm512_set1_epi16(1), bit7 = _mm512_set1_epi16(0x80);
-  const __mmask64 keep = alphaKept ? 0x7777777777777777ull : ~0ull;
-  auto half = [&](__m512i v) {
+// A 256-byte map held in registers, read as 128 little-endian words: two-table word permutes
+// pick the word holding map[v] (v >> 1), bit 7 of v chooses the table pair and bit 0 the byte.
+struct Map8uRegs {
+  __m512i w0, w1, w2, w3;
+  explicit Map8uRegs(const uint8_t* m)
+      : w0(_mm512_loadu_si512(m)), w1(_mm512_loadu_si512(m + 64)),
+        w2(_mm512_loadu_si512(m + 128)), w3(_mm512_loadu_si512(m + 192)) {}
+
+  __m256i half(__m512i v) const {  // 32 samples widened to words
     const __m512i j = _mm512_srli_epi16(v, 1);
     const __m512i lo = _mm512_permutex2var_epi16(w0, j, w1);
     const __m512i hi = _mm512_permutex2var_epi16(w2, j, w3);
-    __m512i w = _mm512_mask_blend_epi16(_mm512_test_epi16_mask(v, bit7), lo, hi);
-    w = _mm512_srlv_epi16(w, _mm512_slli_epi16(_mm512_and_si512(v, one), 3));
+    __m512i w = _mm512_mask_blend_epi16(_mm512_test_epi16_mask(v, _mm512_set1_epi16(0x80)), lo, hi);
+    w = _mm512_srlv_epi16(w, _mm512_slli_epi16(_mm512_and_si512(v, _mm512_set1_epi16(1)), 3));
     return _mm512_cvtepi16_epi8(w);
-  };
-  auto block = [&](__m512i x) {
+  }
+  __m512i lookup(__m512i x) const {
     const __m256i r0 = half(_mm512_cvtepu8_epi16(_mm512_castsi512_si256(x)));
     const __m256i r1 = half(_mm512_cvtepu8_epi16(_mm512_extracti64x4_epi64(x, 1)));
     return _mm512_inserti64x4(_mm512_castsi256_si512(r0), r1, 1);
-  };
+  }
+};
+
+// Full-map lookup of n bytes; with alphaKept, every fourth byte of the destination is left as
+// it was.
+void MapRow8u(const uint8_t* s, uint8_t* d, int n, const uint8_t* map, int alphaKept) {
+  const Map8uRegs t(map);
+  const __mmask64 keep = alphaKept ? 0x7777777777777777ull : ~0ull;
   int i = 0;
   for (; i + 64 <= n; i += 64)
-    _mm512_mask_storeu_epi8(d + i, keep, block(_mm512_loadu_si512(s + i)));
+    _mm512_mask_storeu_epi8(d + i, keep, t.lookup(_mm512_loadu_si512(s + i)));
   if (i < n) {
     const __mmask64 m = (~0ull) >> (64 - (n - i));
-    _mm512_mask_storeu_epi8(d + i, m & keep, block(_mm512_maskz_loadu_epi8(m, s + i)));
+    _mm512_mask_storeu_epi8(d + i, m & keep, t.lookup(_mm512_maskz_loadu_epi8(m, s + i)));
   }
 }
 #endif
@@ -197,8 +203,24 @@ inline void mapRow(const T* s, T* d, int n, const T* map) {
 
 template <class T, class L>
 inline void mapPixels(const T* s, T* d, int w, const T* const* maps) {
-  for (int x = 0; x < w; ++x)
-    for (int c = 0; c < L::kUse; ++c) d[x * L::kCh + c] = maps[c][s[x * L::kCh + c]];
+  // local copies: byte stores could otherwise alias the table pointers
+  const T* m0 = maps[0];
+  const T* m1 = maps[L::kUse > 1 ? 1 : 0];
+  const T* m2 = maps[L::kUse > 2 ? 2 : 0];
+  const T* m3 = maps[L::kUse > 3 ? 3 : 0];
+  for (int x = 0; x < w; ++x, s += L::kCh, d += L::kCh) {
+    T a = m0[s[0]];
+    if constexpr (L::kUse > 1) {
+      T b = m1[s[1]], c = m2[s[2]];
+      if constexpr (L::kUse > 3) {
+        T e = m3[s[3]];
+        d[3] = e;
+      }
+      d[1] = b;
+      d[2] = c;
+    }
+    d[0] = a;
+  }
 }
 
 template <class T, class L>
@@ -210,6 +232,8 @@ void applyMaps(const T* src, int sstep, T* dst, int dstep, LumiSize roi, T* cons
     maps[c] = tables[c] - lo;
     if (c > 0 && std::memcmp(tables[c], tables[0], sizeof(T) * size) != 0) same = false;
   }
+  // One table for every channel: the row is a single run of samples. Separate tables per
+  // channel go pixel by pixel (three or four register lookups per vector gain nothing there).
   MapRow8uFn simd = nullptr;
   if constexpr (sizeof(T) == 1) simd = pickSimd(kMapRow8u);
   const bool ac4 = L::kUse != L::kCh;
