@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <functional>
@@ -112,6 +113,100 @@ int main(int argc, char** argv) {
                : lumiCopyReplicateBorder_8u_C1R(noisy.data, noisy.step, roi, bordered.data,
                                                 bordered.step, bordered.roi(), border, border);
   }, &bordered, "replicated 32-pixel border");
+
+  // The analysis steps work on one grey channel (the green one of a colour picture).
+  Image grey(clean.width, clean.height, 1), noisyGrey(clean.width, clean.height, 1);
+  if (rgb) {
+    step("grey", [&] {
+      LumStatus st = lumiCopy_8u_C3C1R(clean.data + 1, clean.step, grey.data, grey.step, roi);
+      return st ? st : lumiCopy_8u_C3C1R(noisy.data + 1, noisy.step, noisyGrey.data, noisyGrey.step, roi);
+    }, &grey, "green channel");
+  } else {
+    lumiCopy_8u_C1R(clean.data, clean.step, grey.data, grey.step, roi);
+    lumiCopy_8u_C1R(noisy.data, noisy.step, noisyGrey.data, noisyGrey.step, roi);
+  }
+
+  // Arithmetic: |noisy - clean| x 4 as a visible error map (saturating differences both
+  // ways, then a sum with scale factor -2).
+  Image up(grey.width, grey.height, 1), down(grey.width, grey.height, 1), err(grey.width, grey.height, 1);
+  step("error-map", [&] {
+    LumStatus st = lumiSub_8u_C1RSfs(grey.data, grey.step, noisyGrey.data, noisyGrey.step, up.data, up.step, roi, 0);
+    if (!st) st = lumiSub_8u_C1RSfs(noisyGrey.data, noisyGrey.step, grey.data, grey.step, down.data, down.step, roi, 0);
+    if (!st) st = lumiAdd_8u_C1RSfs(up.data, up.step, down.data, down.step, err.data, err.step, roi, -2);
+    return st;
+  }, &err, "|noisy - clean| x 4");
+
+  // Floating point: the square root of the picture in 32f, scaled back to 8u for display.
+  int fstep = 0;
+  Lum32f* f = lumiMalloc_32f_C1(grey.width, grey.height, &fstep);
+  Image sqrtImg(grey.width, grey.height, 1);
+  step("sqrt-scaled", [&] {
+    LumStatus st = lumiConvert_8u32f_C1R(grey.data, grey.step, f, fstep, roi);
+    if (!st) st = lumiSqrt_32f_C1IR(f, fstep, roi);
+    if (!st) st = lumiScale_32f8u_C1R(f, fstep, sqrtImg.data, sqrtImg.step, roi, 0.0f, 15.97f);
+    return st;
+  }, &sqrtImg, "8u -> 32f, sqrt, scaled 0..15.97 -> 0..255");
+  lumiFree(f);
+
+  Image mask(grey.width, grey.height, 1);
+  step("threshold-mask", [&] {
+    // below 128 -> 0, then everything above 127 (what is left) -> 255
+    LumStatus st = lumiThreshold_LTVal_8u_C1R(noisyGrey.data, noisyGrey.step, mask.data, mask.step,
+                                              roi, 128, 0);
+    return st ? st : lumiThreshold_GTVal_8u_C1IR(mask.data, mask.step, roi, 127, 255);
+  }, &mask, "noisy >= 128 -> 255, else 0");
+
+  Image contrast(grey.width, grey.height, 1);
+  step("contrast-lut", [&] {
+    const Lum32s levels[4] = {0, 64, 192, 255}, values[4] = {0, 16, 240, 255};
+    return lumiLUT_Linear_8u_C1R(grey.data, grey.step, contrast.data, contrast.step, roi, values,
+                                 levels, 4);
+  }, &contrast, "piecewise-linear S curve");
+
+  // Histogram of the noisy picture, drawn as 64 bars.
+  const int bins = 64, barW = 4, chartH = 128;
+  Image chart(bins * barW, chartH, 1);
+  step("histogram", [&] {
+    Lum32s hist[bins], levels[bins + 1];
+    LumStatus st = lumiHistogramEven_8u_C1R(noisyGrey.data, noisyGrey.step, roi, hist, levels,
+                                            bins + 1, 0, 256);
+    if (st) return st;
+    st = lumiSet_8u_C1R(255, chart.data, chart.step, chart.roi());
+    Lum32s top = 1;
+    for (int b = 0; b < bins; ++b) top = hist[b] > top ? hist[b] : top;
+    for (int b = 0; b < bins && !st; ++b) {
+      int h = static_cast<int>(static_cast<int64_t>(hist[b]) * (chartH - 1) / top);
+      if (h > 0)
+        st = lumiSet_8u_C1R(40, chart.data + (chartH - h) * chart.step + b * barW + 1, chart.step,
+                            LumiSize{barW - 1, h});
+    }
+    return st;
+  }, &chart, "64 bins of the noisy picture");
+
+  // Statistics, printed.
+  Lum64f mean = 0, noiseL2 = 0;
+  Lum8u mn = 0, mx = 0;
+  int mnx = 0, mny = 0, mxx = 0, mxy = 0;
+  Lum64f hu[7] = {0};
+  step("statistics", [&] {
+    LumStatus st = lumiMean_8u_C1R(noisyGrey.data, noisyGrey.step, roi, &mean);
+    if (!st) st = lumiMinIndx_8u_C1R(noisyGrey.data, noisyGrey.step, roi, &mn, &mnx, &mny);
+    if (!st) st = lumiMaxIndx_8u_C1R(noisyGrey.data, noisyGrey.step, roi, &mx, &mxx, &mxy);
+    if (!st) st = lumiNormDiff_L2_8u_C1R(noisyGrey.data, noisyGrey.step, grey.data, grey.step, roi, &noiseL2);
+    LumiMomentState_64f* state = nullptr;
+    if (!st) st = lumiMomentInitAlloc_64f(&state, lumHintAccurate);
+    if (!st) st = lumiMoments64f_8u_C1R(mask.data, mask.step, roi, state);
+    if (!st) st = lumiGetHuMoments_64f(state, 0, hu);
+    lumiMomentFree_64f(state);
+    return st;
+  });
+  std::printf("  noisy picture: mean %.3f, min %d at (%d, %d), max %d at (%d, %d)\n", mean, mn, mnx,
+              mny, mx, mxx, mxy);
+  std::printf("  L2 norm of the noise %.1f (rms %.3f per pixel)\n", noiseL2,
+              noiseL2 / std::sqrt(static_cast<double>(roi.width) * roi.height));
+  std::printf("  Hu moments of the mask:");
+  for (double h : hu) std::printf(" %.4g", h);
+  std::printf("\n");
 
   if (g_failures) std::printf("%d step(s) failed\n", g_failures);
   return g_failures ? 1 : 0;
