@@ -152,6 +152,7 @@ LumStatus binary32f(int op, const float* s1, int s1Step, const float* s2, int s2
   if (op == 3 && badStep(s1Step, s2Step, dStep)) return lumStatusStepErr;
   const bool masked = L::kUse < L::kCh;
   RowPattern<float> pat(masked ? L::kCh : 1, masked ? L::kUse : 1, nullptr);
+  roi = oneRowIfContiguous(roi, 4 * L::kCh, s1Step, s2Step, dStep);
   const int n = roi.width * L::kCh;
   const bool stream = !masked && bypassCache(12.0 * n * roi.height);
   F32BinaryRow row = pickF32Binary(op, stream);
@@ -180,6 +181,7 @@ LumStatus const32f(int op, const float* s, int sStep, const float* value, float*
     op = 2;
   }
   RowPattern<float> pat(L::kCh, L::kUse, c);
+  roi = oneRowIfContiguous(roi, 4 * L::kCh, sStep, dStep);
   const int n = roi.width * L::kCh;
   const bool stream = L::kUse == L::kCh && bypassCache(8.0 * n * roi.height);
   F32ConstRow row = pickF32Const(op, stream);

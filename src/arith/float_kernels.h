@@ -39,6 +39,16 @@ struct RowPattern {
   }
 };
 
+// Rows that follow each other without padding in every image are walked as one long row:
+// the ROI becomes width * height pixels by 1 row (when that count fits an int).
+inline LumiSize oneRowIfContiguous(LumiSize roi, int pixelBytes, int s1, int s2, int s3 = -1) {
+  const int64_t row = static_cast<int64_t>(roi.width) * pixelBytes;
+  if (s1 != row || s2 != row || (s3 != -1 && s3 != row)) return roi;
+  const int64_t total = static_cast<int64_t>(roi.width) * roi.height;
+  if (total * pixelBytes > 0x7fffffff) return roi;
+  return LumiSize{static_cast<int>(total), 1};
+}
+
 // Rows of the 32f Abs, Sqr and Sqrt members advance by the step with its two low bits
 // cleared; the 16s Abs members clear the lowest bit.
 inline int stepDown(int step, int bytes) { return step & ~(bytes - 1); }

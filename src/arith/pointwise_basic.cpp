@@ -108,6 +108,7 @@ LumStatus unary(const T* s, int sStep, T* d, int dStep, LumiSize roi) {
   dStep = stepDown(dStep, sizeof(T));
   const bool masked = L::kUse < L::kCh;
   RowPattern<T> pat(masked ? L::kCh : 1, masked ? L::kUse : 1, nullptr);
+  roi = oneRowIfContiguous(roi, static_cast<int>(sizeof(T)) * L::kCh, sStep, dStep);
   UnaryRow<T> row = pickUnary<OP, T>();
   const int n = roi.width * L::kCh;
   FirstStatus status;

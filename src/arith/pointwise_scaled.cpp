@@ -272,6 +272,7 @@ LumStatus floatImpl(const float* s, int sStep, float* d, int dStep, LumiSize roi
   if (anyNull(s, d)) return lumStatusNullPtrErr;
   if (badSize(roi)) return lumStatusSizeErr;
   if (badStep(sStep, dStep)) return lumStatusStepErr;
+  roi = oneRowIfContiguous(roi, 4 * L::kCh, sStep, dStep);
   FloatRow row = pickSimd(F == kLn ? kLn32f : kExp32f);
   if (!row) row = floatRowScalar<F>;
   FirstStatus status;
