@@ -215,6 +215,18 @@ TEST(Float32, ZeroConstantDivisorWritesNothing) {
   EXPECT_TRUE(d.guardsIntact());
 }
 
+// Images without row padding (the step equals the row bytes) give the same results.
+TEST(Float32, UnpaddedRows) {
+  const int w = 7, h = 5;
+  std::vector<float> a(w * h * 4), b(w * h * 4), d(w * h * 4, -1.0f);
+  for (std::size_t i = 0; i < a.size(); ++i) a[i] = static_cast<float>(i) * 0.5f, b[i] = 100.0f - i;
+  ASSERT_EQ(lumiAdd_32f_AC4R(a.data(), w * 16, b.data(), w * 16, d.data(), w * 16, LumiSize{w, h}), lumStatusOk);
+  for (std::size_t i = 0; i < d.size(); ++i) EXPECT_EQ(d[i], i % 4 == 3 ? -1.0f : a[i] + b[i]) << i;
+  const float c[3] = {1.0f, 2.0f, 4.0f};
+  ASSERT_EQ(lumiMulC_32f_C3IR(c, a.data(), w * 12, LumiSize{w, h}), lumStatusOk);
+  for (int i = 0; i < w * h * 3; ++i) EXPECT_EQ(a[i], static_cast<float>(i) * 0.5f * c[i % 3]) << i;
+}
+
 // Images too large to stay in cache take the cache-bypassing store path; rows start at every
 // alignment (odd padding, misaligned first pixel) so its head and tail handling is exercised.
 TEST(Float32, LargeImagesGiveTheSameResults) {

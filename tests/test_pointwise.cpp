@@ -148,6 +148,18 @@ TEST(Pointwise, StepsAreRoundedDown) {
   EXPECT_TRUE(d16[4] == 3 && d16[5] == 4 && d16[8] == 6 && d16[9] == 7 && d16[2] == 99 && d16[3] == 99);
 }
 
+TEST(Pointwise, UnpaddedRows) {
+  const int w = 5, h = 4;
+  std::vector<float> s(w * h * 4), d(w * h * 4, -2.0f);
+  for (std::size_t i = 0; i < s.size(); ++i) s[i] = static_cast<float>(i * i);
+  ASSERT_EQ(lumiSqrt_32f_AC4R(s.data(), w * 16, d.data(), w * 16, LumiSize{w, h}), lumStatusOk);
+  for (std::size_t i = 0; i < d.size(); ++i) EXPECT_EQ(d[i], i % 4 == 3 ? -2.0f : static_cast<float>(i)) << i;
+  std::vector<Lum16s> v(w * h * 3);
+  for (std::size_t i = 0; i < v.size(); ++i) v[i] = static_cast<Lum16s>(-static_cast<int>(i));
+  ASSERT_EQ(lumiAbs_16s_C3IR(v.data(), w * 6, LumiSize{w, h}), lumStatusOk);
+  for (std::size_t i = 0; i < v.size(); ++i) EXPECT_EQ(v[i], static_cast<Lum16s>(i)) << i;
+}
+
 TEST(Pointwise, ValidationOrder) {
   float f[16] = {};
   Lum8u b[16] = {};
