@@ -11,6 +11,7 @@
 
 HWY_BEFORE_NAMESPACE();
 namespace lumi {
+namespace arithf {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
@@ -59,6 +60,7 @@ void ComplexMulRowSimd(const float* x, const float* y, float* out, int n,
 }
 
 }  // namespace HWY_NAMESPACE
+}  // namespace arithf
 }  // namespace lumi
 HWY_AFTER_NAMESPACE();
 
@@ -66,6 +68,7 @@ HWY_AFTER_NAMESPACE();
 #include "core/simd.h"
 
 namespace lumi {
+namespace arithf {
 namespace {
 
 using ComplexMulRow = void (*)(const float*, const float*, float*, int, const RowPattern<float>*);
@@ -319,25 +322,26 @@ LumStatus constInt(const CT* s, int sStep, const CT* value, CT* d, int dStep, Lu
 }
 
 }  // namespace
+}  // namespace arithf
 }  // namespace lumi
 
 // ---- exports -------------------------------------------------------------------------------
 #define LUMI_32FC_BIN_ONE(NAME, OP, L)                                                          \
   LUMI_API LumStatus lumi##NAME##_32fc_##L##R(const Lum32fc* a, int as, const Lum32fc* b,        \
                                               int bs, Lum32fc* d, int ds, LumiSize r) {          \
-    return lumi::binary32fc<lumi::L>(OP, a, as, b, bs, d, ds, r);                                \
+    return lumi::arithf::binary32fc<lumi::L>(OP, a, as, b, bs, d, ds, r);                                \
   }                                                                                              \
   LUMI_API LumStatus lumi##NAME##_32fc_##L##IR(const Lum32fc* s, int ss, Lum32fc* sd, int sds,   \
                                                LumiSize r) {                                     \
-    return lumi::binary32fc<lumi::L>(OP, s, ss, sd, sds, sd, sds, r);                            \
+    return lumi::arithf::binary32fc<lumi::L>(OP, s, ss, sd, sds, sd, sds, r);                            \
   }
 #define LUMI_32FC_CONST_ONE(NAME, OP, L, VT, VP)                                                 \
   LUMI_API LumStatus lumi##NAME##_32fc_##L##R(const Lum32fc* s, int ss, VT value, Lum32fc* d,     \
                                               int ds, LumiSize r) {                               \
-    return lumi::const32fc<lumi::L>(OP, s, ss, VP, d, ds, r);                                     \
+    return lumi::arithf::const32fc<lumi::L>(OP, s, ss, VP, d, ds, r);                                     \
   }                                                                                               \
   LUMI_API LumStatus lumi##NAME##_32fc_##L##IR(VT value, Lum32fc* sd, int sds, LumiSize r) {      \
-    return lumi::const32fc<lumi::L>(OP, sd, sds, VP, sd, sds, r);                                 \
+    return lumi::arithf::const32fc<lumi::L>(OP, sd, sds, VP, sd, sds, r);                                 \
   }
 #define LUMI_32FC(NAME, OP)                                                       \
   LUMI_32FC_BIN_ONE(NAME, OP, C1)                                                 \
@@ -350,20 +354,20 @@ LumStatus constInt(const CT* s, int sStep, const CT* value, CT* d, int dStep, Lu
 #define LUMI_CINT_BIN_ONE(NAME, OP, TY, CT, L)                                                  \
   LUMI_API LumStatus lumi##NAME##_##TY##_##L##RSfs(const CT* a, int as, const CT* b, int bs,     \
                                                    CT* d, int ds, LumiSize r, int sf) {          \
-    return lumi::binaryInt<CT, OP, lumi::L>(a, as, b, bs, d, ds, r, sf);                         \
+    return lumi::arithf::binaryInt<CT, OP, lumi::L>(a, as, b, bs, d, ds, r, sf);                         \
   }                                                                                              \
   LUMI_API LumStatus lumi##NAME##_##TY##_##L##IRSfs(const CT* s, int ss, CT* sd, int sds,        \
                                                     LumiSize r, int sf) {                        \
-    return lumi::binaryInt<CT, OP, lumi::L>(s, ss, sd, sds, sd, sds, r, sf);                     \
+    return lumi::arithf::binaryInt<CT, OP, lumi::L>(s, ss, sd, sds, sd, sds, r, sf);                     \
   }
 #define LUMI_CINT_CONST_ONE(NAME, OP, TY, CT, L, VT, VP)                                        \
   LUMI_API LumStatus lumi##NAME##_##TY##_##L##RSfs(const CT* s, int ss, VT value, CT* d, int ds, \
                                                    LumiSize r, int sf) {                         \
-    return lumi::constInt<CT, OP, lumi::L>(s, ss, VP, d, ds, r, sf);                             \
+    return lumi::arithf::constInt<CT, OP, lumi::L>(s, ss, VP, d, ds, r, sf);                             \
   }                                                                                              \
   LUMI_API LumStatus lumi##NAME##_##TY##_##L##IRSfs(VT value, CT* sd, int sds, LumiSize r,       \
                                                     int sf) {                                    \
-    return lumi::constInt<CT, OP, lumi::L>(sd, sds, VP, sd, sds, r, sf);                         \
+    return lumi::arithf::constInt<CT, OP, lumi::L>(sd, sds, VP, sd, sds, r, sf);                         \
   }
 #define LUMI_CINT(NAME, OP, TY, CT)                                     \
   LUMI_CINT_BIN_ONE(NAME, OP, TY, CT, C1)                               \

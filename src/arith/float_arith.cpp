@@ -10,6 +10,7 @@
 
 HWY_BEFORE_NAMESPACE();
 namespace lumi {
+namespace arithf {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
@@ -97,6 +98,7 @@ void ConstRowStream(const float* x, float* out, int n, const RowPattern<float>* 
 }
 
 }  // namespace HWY_NAMESPACE
+}  // namespace arithf
 }  // namespace lumi
 HWY_AFTER_NAMESPACE();
 
@@ -106,6 +108,7 @@ HWY_AFTER_NAMESPACE();
 #include "core/simd.h"
 
 namespace lumi {
+namespace arithf {
 
 LUMI_SIMD_TABLE(F32BinaryRow, kAddRow, BinaryRowSimd<0>);
 LUMI_SIMD_TABLE(F32BinaryRow, kSubRow, BinaryRowSimd<1>);
@@ -224,17 +227,18 @@ bool bypassCache(double bytes) {
 
 void endStreaming() { _mm_sfence(); }
 
+}  // namespace arithf
 }  // namespace lumi
 
 // ---- exports -------------------------------------------------------------------------------
 #define LUMI_F32_BIN_ONE(NAME, OP, L)                                                         \
   LUMI_API LumStatus lumi##NAME##_32f_##L##R(const Lum32f* a, int as, const Lum32f* b, int bs, \
                                              Lum32f* d, int ds, LumiSize r) {                  \
-    return lumi::binary32f<lumi::L>(OP, a, as, b, bs, d, ds, r);                               \
+    return lumi::arithf::binary32f<lumi::L>(OP, a, as, b, bs, d, ds, r);                               \
   }                                                                                            \
   LUMI_API LumStatus lumi##NAME##_32f_##L##IR(const Lum32f* s, int ss, Lum32f* sd, int sds,    \
                                               LumiSize r) {                                    \
-    return lumi::binary32f<lumi::L>(OP, s, ss, sd, sds, sd, sds, r);                           \
+    return lumi::arithf::binary32f<lumi::L>(OP, s, ss, sd, sds, sd, sds, r);                           \
   }
 #define LUMI_F32_BIN(NAME, OP)   \
   LUMI_F32_BIN_ONE(NAME, OP, C1) \
@@ -245,10 +249,10 @@ void endStreaming() { _mm_sfence(); }
 #define LUMI_F32_CONST_ONE(NAME, OP, L, VT, VP)                                                \
   LUMI_API LumStatus lumi##NAME##_32f_##L##R(const Lum32f* s, int ss, VT value, Lum32f* d,      \
                                              int ds, LumiSize r) {                              \
-    return lumi::const32f<lumi::L>(OP, s, ss, VP, d, ds, r);                                    \
+    return lumi::arithf::const32f<lumi::L>(OP, s, ss, VP, d, ds, r);                                    \
   }                                                                                             \
   LUMI_API LumStatus lumi##NAME##_32f_##L##IR(VT value, Lum32f* sd, int sds, LumiSize r) {      \
-    return lumi::const32f<lumi::L>(OP, sd, sds, VP, sd, sds, r);                                \
+    return lumi::arithf::const32f<lumi::L>(OP, sd, sds, VP, sd, sds, r);                                \
   }
 #define LUMI_F32_CONST(NAME, OP)                                      \
   LUMI_F32_CONST_ONE(NAME, OP, C1, Lum32f, &value)                    \

@@ -14,6 +14,7 @@
 
 HWY_BEFORE_NAMESPACE();
 namespace lumi {
+namespace arithf {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
@@ -65,6 +66,7 @@ HWY_INLINE void ForEachVector(D d, size_t n, const RowPattern<T>* pat, V&& vec, 
 }
 
 }  // namespace HWY_NAMESPACE
+}  // namespace arithf
 }  // namespace lumi
 HWY_AFTER_NAMESPACE();
 

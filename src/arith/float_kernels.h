@@ -10,6 +10,7 @@
 #include <cstring>
 
 namespace lumi {
+namespace arithf {
 
 // Widest vector, in lanes of the smallest element, that any kernel uses.
 constexpr int kPatLanes = 64;
@@ -132,4 +133,5 @@ F32ConstRow pickF32Const(int op, bool stream = false);
 bool bypassCache(double bytes);
 void endStreaming();
 
+}  // namespace arithf
 }  // namespace lumi

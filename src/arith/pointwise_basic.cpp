@@ -11,6 +11,7 @@
 #ifndef LUMI_POINTWISE_BASIC_SCALAR_  // scalar definitions, compiled once
 #define LUMI_POINTWISE_BASIC_SCALAR_
 namespace lumi {
+namespace arithf {
 // Operations of this file: 0 Abs 16s (|-32768| saturates to 32767), 1 Abs 32f (clears the
 // sign bit), 2 Sqr 32f, 3 Sqrt 32f.
 template <int OP, class T>
@@ -20,11 +21,13 @@ inline T unaryScalar(T x) {
   else if constexpr (OP == 2) return x * x;
   else return std::sqrt(x);
 }
+}  // namespace arithf
 }  // namespace lumi
 #endif
 
 HWY_BEFORE_NAMESPACE();
 namespace lumi {
+namespace arithf {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
@@ -62,6 +65,7 @@ int UnaryRowSimd(const T* s, T* out, int n, const RowPattern<T>* pat) {
 }
 
 }  // namespace HWY_NAMESPACE
+}  // namespace arithf
 }  // namespace lumi
 HWY_AFTER_NAMESPACE();
 
@@ -69,6 +73,7 @@ HWY_AFTER_NAMESPACE();
 #include "core/simd.h"
 
 namespace lumi {
+namespace arithf {
 namespace {
 
 template <class T>
@@ -119,16 +124,17 @@ LumStatus unary(const T* s, int sStep, T* d, int dStep, LumiSize roi) {
 }
 
 }  // namespace
+}  // namespace arithf
 }  // namespace lumi
 
 #define LUMI_UNARY_R(NAME, TY, T, OP, L)                                                   \
   LUMI_API LumStatus lumi##NAME##_##TY##_##L##R(const T* s, int ss, T* d, int ds,           \
                                                 LumiSize r) {                               \
-    return lumi::unary<OP, lumi::L>(s, ss, d, ds, r);                                       \
+    return lumi::arithf::unary<OP, lumi::L>(s, ss, d, ds, r);                                       \
   }
 #define LUMI_UNARY_IR(NAME, TY, T, OP, L)                                                  \
   LUMI_API LumStatus lumi##NAME##_##TY##_##L##IR(T* sd, int sds, LumiSize r) {              \
-    return lumi::unary<OP, lumi::L>(static_cast<const T*>(sd), sds, sd, sds, r);            \
+    return lumi::arithf::unary<OP, lumi::L>(static_cast<const T*>(sd), sds, sd, sds, r);            \
   }
 #define LUMI_UNARY_BOTH(NAME, TY, T, OP, L) \
   LUMI_UNARY_R(NAME, TY, T, OP, L)          \

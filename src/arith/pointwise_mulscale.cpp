@@ -11,17 +11,20 @@
 #ifndef LUMI_POINTWISE_MULSCALE_SCALAR_
 #define LUMI_POINTWISE_MULSCALE_SCALAR_
 namespace lumi {
+namespace arithf {
 template <class T>
 inline T mulScale(uint32_t a, uint32_t b) {
   constexpr int k = 8 * sizeof(T);
   const uint32_t p = a * b;
   return static_cast<T>((p + (p >> k) + 1u) >> k);
 }
+}  // namespace arithf
 }  // namespace lumi
 #endif
 
 HWY_BEFORE_NAMESPACE();
 namespace lumi {
+namespace arithf {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
@@ -59,6 +62,7 @@ void MulScaleRowSimd(const T* a, const T* b, T* out, int n, const RowPattern<T>*
 #endif
 
 }  // namespace HWY_NAMESPACE
+}  // namespace arithf
 }  // namespace lumi
 HWY_AFTER_NAMESPACE();
 
@@ -66,6 +70,7 @@ HWY_AFTER_NAMESPACE();
 #include "core/simd.h"
 
 namespace lumi {
+namespace arithf {
 namespace {
 
 template <class T>
@@ -108,24 +113,25 @@ LumStatus mulScaleImpl(const T* s1, int s1Step, const T* s2, int s2Step, const T
 }
 
 }  // namespace
+}  // namespace arithf
 }  // namespace lumi
 
 #define LUMI_MULSCALE(TY, T, L, VT, VP)                                                          \
   LUMI_API LumStatus lumiMulScale_##TY##_##L##R(const T* a, int as, const T* b, int bs, T* d,     \
                                                 int ds, LumiSize r) {                             \
-    return lumi::mulScaleImpl<lumi::L>(a, as, b, bs, static_cast<const T*>(nullptr), d, ds, r);   \
+    return lumi::arithf::mulScaleImpl<lumi::L>(a, as, b, bs, static_cast<const T*>(nullptr), d, ds, r);   \
   }                                                                                               \
   LUMI_API LumStatus lumiMulScale_##TY##_##L##IR(const T* s, int ss, T* sd, int sds,              \
                                                  LumiSize r) {                                    \
-    return lumi::mulScaleImpl<lumi::L>(static_cast<const T*>(sd), sds, s, ss,                     \
+    return lumi::arithf::mulScaleImpl<lumi::L>(static_cast<const T*>(sd), sds, s, ss,                     \
                                        static_cast<const T*>(nullptr), sd, sds, r);               \
   }                                                                                               \
   LUMI_API LumStatus lumiMulCScale_##TY##_##L##R(const T* s, int ss, VT value, T* d, int ds,      \
                                                  LumiSize r) {                                    \
-    return lumi::mulScaleImpl<lumi::L>(s, ss, static_cast<const T*>(nullptr), 0, VP, d, ds, r);   \
+    return lumi::arithf::mulScaleImpl<lumi::L>(s, ss, static_cast<const T*>(nullptr), 0, VP, d, ds, r);   \
   }                                                                                               \
   LUMI_API LumStatus lumiMulCScale_##TY##_##L##IR(VT value, T* sd, int sds, LumiSize r) {         \
-    return lumi::mulScaleImpl<lumi::L>(static_cast<const T*>(sd), sds,                            \
+    return lumi::arithf::mulScaleImpl<lumi::L>(static_cast<const T*>(sd), sds,                            \
                                        static_cast<const T*>(nullptr), 0, VP, sd, sds, r);        \
   }
 #define LUMI_MULSCALE_ALL(TY, T)                    \

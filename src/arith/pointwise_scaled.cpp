@@ -23,6 +23,7 @@
 #ifndef LUMI_POINTWISE_SCALED_SCALAR_  // scalar definitions, compiled once
 #define LUMI_POINTWISE_SCALED_SCALAR_
 namespace lumi {
+namespace arithf {
 enum ScaledFn : int { kSqr = 0, kSqrt = 1, kLn = 2, kExp = 3 };
 
 // The scaled value of one sample; *domain is set for inputs outside the function's domain.
@@ -57,11 +58,13 @@ inline float floatValue(float x, int* domain) {
   if (F == kLn && x < 0) *domain = 1;
   return static_cast<float>(F == kLn ? std::log(static_cast<double>(x)) : std::exp(static_cast<double>(x)));
 }
+}  // namespace arithf
 }  // namespace lumi
 #endif
 
 HWY_BEFORE_NAMESPACE();
 namespace lumi {
+namespace arithf {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
@@ -179,6 +182,7 @@ int FloatRowSimd(const float* s, float* out, int n, const RowPattern<float>*) {
 #endif
 
 }  // namespace HWY_NAMESPACE
+}  // namespace arithf
 }  // namespace lumi
 HWY_AFTER_NAMESPACE();
 
@@ -186,6 +190,7 @@ HWY_AFTER_NAMESPACE();
 #include "core/simd.h"
 
 namespace lumi {
+namespace arithf {
 namespace {
 
 template <class T>
@@ -283,23 +288,24 @@ LumStatus floatImpl(const float* s, int sStep, float* d, int dStep, LumiSize roi
 }
 
 }  // namespace
+}  // namespace arithf
 }  // namespace lumi
 
 #define LUMI_SCALED(NAME, F, TY, T, L)                                                          \
   LUMI_API LumStatus lumi##NAME##_##TY##_##L##RSfs(const T* s, int ss, T* d, int ds,             \
                                                    LumiSize r, int sf) {                         \
-    return lumi::scaledImpl<T, lumi::F, lumi::L>(s, ss, d, ds, r, sf);                           \
+    return lumi::arithf::scaledImpl<T, lumi::arithf::F, lumi::L>(s, ss, d, ds, r, sf);                           \
   }                                                                                              \
   LUMI_API LumStatus lumi##NAME##_##TY##_##L##IRSfs(T* sd, int sds, LumiSize r, int sf) {        \
-    return lumi::scaledImpl<T, lumi::F, lumi::L>(static_cast<const T*>(sd), sds, sd, sds, r, sf); \
+    return lumi::arithf::scaledImpl<T, lumi::arithf::F, lumi::L>(static_cast<const T*>(sd), sds, sd, sds, r, sf); \
   }
 #define LUMI_FLOATFN(NAME, F, L)                                                             \
   LUMI_API LumStatus lumi##NAME##_32f_##L##R(const Lum32f* s, int ss, Lum32f* d, int ds,      \
                                              LumiSize r) {                                    \
-    return lumi::floatImpl<lumi::F, lumi::L>(s, ss, d, ds, r);                                \
+    return lumi::arithf::floatImpl<lumi::arithf::F, lumi::L>(s, ss, d, ds, r);                                \
   }                                                                                           \
   LUMI_API LumStatus lumi##NAME##_32f_##L##IR(Lum32f* sd, int sds, LumiSize r) {              \
-    return lumi::floatImpl<lumi::F, lumi::L>(sd, sds, sd, sds, r);                            \
+    return lumi::arithf::floatImpl<lumi::arithf::F, lumi::L>(sd, sds, sd, sds, r);                            \
   }
 #define LUMI_SQR_ALL(TY, T)               \
   LUMI_SCALED(Sqr, kSqr, TY, T, C1)       \
