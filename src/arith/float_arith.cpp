@@ -25,7 +25,7 @@ HWY_INLINE V VOp(V x, V y) {
 // out = x op y over n elements; for division, reports whether an owned divisor was zero.
 template <int OP>
 int BinaryRowSimd(const float* x, const float* y, float* out, int n, const RowPattern<float>* pat) {
-  const hn::ScalableTag<float> d;
+  const StreamTag<float> d;
   auto zeros = hn::Zero(d);
   int tailZero = 0;
   ForEachVector(
@@ -50,7 +50,7 @@ int BinaryRowSimd(const float* x, const float* y, float* out, int n, const RowPa
 // out = x op constant, the constant taken per element from the pattern.
 template <int OP>
 void ConstRowSimd(const float* x, float* out, int n, const RowPattern<float>* pat) {
-  const hn::ScalableTag<float> d;
+  const StreamTag<float> d;
   ForEachVector(
       d, static_cast<size_t>(n), pat,
       [&](size_t i, size_t off, auto masked) {
@@ -66,7 +66,7 @@ void ConstRowSimd(const float* x, float* out, int n, const RowPattern<float>* pa
 // vector-aligned element on; the results are those of the kernels above.
 template <int OP>
 int BinaryRowStream(const float* x, const float* y, float* out, int n, const RowPattern<float>*) {
-  const hn::ScalableTag<float> d;
+  const StreamTag<float> d;
   const size_t N = hn::Lanes(d), count = static_cast<size_t>(n);
   auto zeros = hn::Zero(d);
   int zero = 0;
@@ -87,7 +87,7 @@ int BinaryRowStream(const float* x, const float* y, float* out, int n, const Row
 
 template <int OP>
 void ConstRowStream(const float* x, float* out, int n, const RowPattern<float>* pat) {
-  const hn::ScalableTag<float> d;
+  const StreamTag<float> d;
   const size_t N = hn::Lanes(d), count = static_cast<size_t>(n), per = static_cast<size_t>(pat->period);
   size_t i = 0;
   for (; i < count && reinterpret_cast<uintptr_t>(out + i) % (N * sizeof(float)) != 0; ++i)

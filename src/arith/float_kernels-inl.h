@@ -18,6 +18,11 @@ namespace arithf {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
+// Memory-bound rows use vectors of at most 256 bits: wider ones move no more data per cycle
+// and can lower the clock.
+template <class T>
+using StreamTag = hn::CappedTag<T, 32 / sizeof(T)>;
+
 // Does the row own the element at pattern offset off? (AC4 alpha is never written.)
 template <class T>
 HWY_INLINE bool Owns(const RowPattern<T>* pat, size_t off) {

@@ -34,7 +34,7 @@ namespace hn = hwy::HWY_NAMESPACE;
 // d = op(s) over n elements; Sqrt reports whether an owned input was negative.
 template <int OP, class T>
 int UnaryRowSimd(const T* s, T* out, int n, const RowPattern<T>* pat) {
-  const hn::ScalableTag<T> d;
+  const StreamTag<T> d;
   auto neg = hn::Zero(d);
   int tailNeg = 0;
   ForEachVector(

@@ -117,6 +117,20 @@ int ScaledRowSimd(const T* s, T* out, int n, const RowPattern<T>* pat, int sf) {
   return tailBad | !hn::AllFalse(dd, hn::MaskFromVec(bad));
 }
 
+// e^x for -86 <= x <= 88, where the result and every intermediate are normal: Highway's
+// reduction and polynomial, with the scaling by 2^q done on the exponent bits.
+template <class D>
+HWY_INLINE hn::Vec<D> ExpNormal(D d, hn::Vec<D> x) {
+  const hn::RebindToSigned<D> di;
+  hn::impl::ExpImpl<float> impl;
+  // q = round(x / ln 2), ties away from zero
+  const auto q = hn::ConvertTo(
+      di, hn::MulAdd(x, hn::Set(d, 1.442695040888963407359924681f),
+                     hn::Or(hn::Set(d, 0.5f), hn::And(x, hn::Set(d, -0.0f)))));
+  const auto y = hn::Add(impl.ExpPoly(d, impl.ExpReduce(d, x, q)), hn::Set(d, 1.0f));
+  return hn::BitCast(d, hn::Add(hn::BitCast(di, y), hn::ShiftLeft<23>(q)));
+}
+
 // 32f Ln and Exp in single-precision vectors. Against the double-precision function rounded
 // once (the scalar kernels), results differ by at most 2 ulp for Ln and 1 ulp for Exp.
 template <int F>
@@ -138,8 +152,9 @@ int FloatRowSimd(const float* s, float* out, int n, const RowPattern<float>* pat
             return;
           }
         } else {
-          if (hn::AllTrue(d, hn::Lt(x, hn::Set(d, 100.0f)))) {
-            hn::StoreU(hn::Exp(d, x), d, out + i);
+          // results in the normal range: 2^q scales the polynomial by an exponent add
+          if (hn::AllTrue(d, hn::And(hn::Ge(x, hn::Set(d, -86.0f)), hn::Le(x, hn::Set(d, 88.0f))))) {
+            hn::StoreU(ExpNormal(d, x), d, out + i);
             return;
           }
         }
