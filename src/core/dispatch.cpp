@@ -1,4 +1,5 @@
 // Processor detection for the run-time choice between the scalar and SIMD kernels.
+// LUMI_SCALAR=1 forces the plain scalar kernels.
 #include <cpuid.h>
 
 #include <cstdlib>
@@ -44,10 +45,19 @@ int detect() {
 #endif
 }
 
+// LUMI_SIMD_LEVEL=1 or 2 caps the choice (SSE4, AVX2), so that every compiled target can be
+// tested on a processor that has a higher one.
+int capped(int level) {
+  const char* cap = std::getenv("LUMI_SIMD_LEVEL");
+  if (!cap || *cap < '0' || *cap > '9') return level;
+  int c = std::atoi(cap);
+  return c < level ? c : level;
+}
+
 }  // namespace
 
 int simdLevel() {
-  static const int level = detect();
+  static const int level = capped(detect());
   return level;
 }
 
