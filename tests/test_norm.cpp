@@ -245,8 +245,14 @@ TEST(Norm, LargeRoisStayExact) {
   std::vector<Lum16u> l16(n, 65535);
   std::vector<Lum16s> s16(n, -32768);
   ASSERT_EQ(lumiNorm_L2_8u_C1R(l8.data(), n, LumiSize{n, 1}, &v), 0);
-  EXPECT_EQ(v, std::sqrt(65025.0 * n));
+  const int strips = n / 32768;  // whole strips, then the narrower last one
+  const double whole = std::sqrt(65025.0 * 32768), last = std::sqrt(65025.0 * (n - strips * 32768));
+  double total = 0;
+  for (int k = 0; k < strips; ++k) total += whole * whole;
+  EXPECT_EQ(v, std::sqrt(total + last * last));
   std::vector<Lum8u> z8(n, 0);
+  ASSERT_EQ(lumiNormDiff_L2_8u_C1R(l8.data(), n, z8.data(), n, LumiSize{n, 1}, &v), 0);
+  EXPECT_EQ(v, std::sqrt(65025.0 * n));
   ASSERT_EQ(lumiNormDiff_L1_8u_C1R(l8.data(), n, z8.data(), n, LumiSize{n, 1}, &v), lumStatusOk);
   EXPECT_EQ(v, 255.0 * n);
   ASSERT_EQ(lumiNorm_L1_16u_C1R(l16.data(), 2 * n, LumiSize{n, 1}, &v), 0);
@@ -262,6 +268,31 @@ TEST(Norm, LargeRoisStayExact) {
   EXPECT_EQ(v, 51000.0);
   ASSERT_EQ(lumiNorm_L2_8u_C1R(row.data(), 200, LumiSize{200, 200}, &v), 0);
   EXPECT_EQ(v, 51000.0);
+}
+
+// Rows wider than 32768 pixels: the L2 norm of 8u C1 is the root of the summed squared norms of
+// 32768-column strips, each strip's norm rounded on its own.
+TEST(Norm, WideRowsCombineStripNorms) {
+  Rng r = makeRng(77);
+  for (int w : {32768, 32769, 65536, 70001, 100000}) {
+    const int h = 3;
+    std::vector<Lum8u> img(static_cast<size_t>(w) * h);
+    for (auto& p : img) p = static_cast<Lum8u>(randInt(r, 0, 255));
+    double total = 0;
+    for (int x0 = 0; x0 < w; x0 += 32768) {
+      uint64_t sq = 0;
+      for (int y = 0; y < h; ++y)
+        for (int x = x0; x < w && x < x0 + 32768; ++x) {
+          uint64_t v = img[static_cast<size_t>(y) * w + x];
+          sq += v * v;
+        }
+      double n = std::sqrt(static_cast<double>(sq));
+      total += n * n;
+    }
+    Lum64f v = -1;
+    ASSERT_EQ(lumiNorm_L2_8u_C1R(img.data(), w, LumiSize{w, h}, &v), 0);
+    EXPECT_EQ(v, std::sqrt(total)) << "width " << w;
+  }
 }
 
 TEST(Norm, RelativeZeroReference) {
