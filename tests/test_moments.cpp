@@ -136,6 +136,32 @@ TEST(Moments, ExactStateOnLargeImage) {
   EXPECT_EQ(v, static_cast<double>(m12));
 }
 
+// Tall images: row numbers in the tens of thousands make the row sums of order 3 exceed 64-bit
+// integers; the double-precision state still holds them to double rounding.
+TEST(Moments, TallImagesKeepHighOrderRowSums) {
+  for (int h : {70001, 200000}) {
+    const int w = 3;
+    std::vector<Lum8u> b8(static_cast<std::size_t>(w) * h, 255);
+    std::vector<float> bf(static_cast<std::size_t>(w) * h, 255.0f);
+    long double sy[4] = {0, 0, 0, 0};
+    for (int y = 0; y < h; ++y) sy[0] += 1, sy[1] += y, sy[2] += ipow(y, 2), sy[3] += ipow(y, 3);
+    State64f s;
+    for (int pass = 0; pass < 2; ++pass) {
+      if (pass == 0) ASSERT_EQ(lumiMoments64f_8u_C1R(b8.data(), w, LumiSize{w, h}, s.p), 0);
+      else ASSERT_EQ(lumiMoments64f_32f_C1R(bf.data(), 4 * w, LumiSize{w, h}, s.p), 0);
+      for (int j = 0; j <= 3; ++j)
+        for (int i = 0; i + j <= 3; ++i) {
+          long double sx = 0;
+          for (int x = 0; x < w; ++x) sx += ipow(x, i);
+          long double want = 255.0L * sx * sy[j];
+          Lum64f v;
+          ASSERT_EQ(lumiGetSpatialMoment_64f(s.p, i, j, 0, LumiPoint{0, 0}, &v), 0);
+          EXPECT_LE(std::fabs(v - want), 1e-13L * want) << "h " << h << " pass " << pass << " (" << i << ", " << j << ")";
+        }
+    }
+  }
+}
+
 TEST(Moments, CentredRectangleAndSinglePixel) {
   // a 9 x 5 block of ones centred in a 21 x 15 image
   GuardedImage<Lum8u> im(21, 15, 1);

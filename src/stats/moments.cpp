@@ -127,32 +127,38 @@ IterSumFn<T, S> pickIterSum() {
   return &iterSumScalarRows<T, S>;
 }
 
-// Folds one block of k rows ending before row c into the moments m (16 per channel) and
-// clears the running sums. W is the wide column type (int64_t for 8u, double for 32f); M the
-// state's element type.
+// Folds one block of k rows starting at row y0 into the moments m (16 per channel) and clears
+// the running sums. The block's own moments (rows counted from the block start) are formed in
+// the wide column type W (int64_t for 8u, exact; double for 32f) and then moved down to row y0
+// in the state's element type M, so large row numbers never meet the exact column sums.
 template <class S, class W, class M>
-void foldBlock(S* s, int n, int ch, int use, W c, M* m) {
+void foldBlock(S* s, int n, int ch, int use, W k, M y0, M* m) {
   M dm[4][16] = {};
-  int x = 0, k = 0;
+  const M yp[4] = {1, y0, y0 * y0, y0 * y0 * y0};
+  int x = 0, q = 0;
   for (int e = 0; e < n; ++e) {
     const W s1 = static_cast<W>(s[e]), s2 = static_cast<W>(s[n + e]), s3 = static_cast<W>(s[2 * n + e]),
             s4 = static_cast<W>(s[3 * n + e]);
-    // with u = c - y (1..k): sum u v = S2, sum u^2 v = 2 S3 - S2, sum u^3 v = 6 S4 - 6 S3 + S2
+    // with u = k - r (1..k) for the block row r: sum u v = S2, sum u^2 v = 2 S3 - S2,
+    // sum u^3 v = 6 S4 - 6 S3 + S2
     const W t0 = s1, t1 = s2, t2 = 2 * s3 - s2, t3 = 6 * s4 - 6 * s3 + s2;
-    if (k < use) {
-      const W p[4] = {t0, c * t0 - t1, c * c * t0 - 2 * c * t1 + t2,
-                      c * c * c * t0 - 3 * c * c * t1 + 3 * c * t2 - t3};
+    if (q < use) {
+      const W r[4] = {t0, k * t0 - t1, k * k * t0 - 2 * k * t1 + t2,
+                      k * k * k * t0 - 3 * k * k * t1 + 3 * k * t2 - t3};
+      // sum (y0 + r)^j v by the binomial expansion
+      const M r0 = static_cast<M>(r[0]), r1 = static_cast<M>(r[1]), r2 = static_cast<M>(r[2]),
+              r3 = static_cast<M>(r[3]);
+      const M p[4] = {r0, yp[1] * r0 + r1, yp[2] * r0 + 2 * yp[1] * r1 + r2,
+                      yp[3] * r0 + 3 * yp[2] * r1 + 3 * yp[1] * r2 + r3};
       const M x1 = static_cast<M>(x), xp[4] = {1, x1, x1 * x1, x1 * x1 * x1};
-      M* d = dm[k];
-      for (int j = 0; j <= 3; ++j) {
-        const M pj = static_cast<M>(p[j]);
-        for (int i = 0; i + j <= 3; ++i) d[4 * j + i] += xp[i] * pj;
-      }
+      M* d = dm[q];
+      for (int j = 0; j <= 3; ++j)
+        for (int i = 0; i + j <= 3; ++i) d[4 * j + i] += xp[i] * p[j];
     }
-    if (++k == ch) k = 0, ++x;
+    if (++q == ch) q = 0, ++x;
   }
-  for (int q = 0; q < use; ++q)
-    for (int t = 0; t < 16; ++t) m[16 * q + t] += dm[q][t];
+  for (int c = 0; c < use; ++c)
+    for (int t = 0; t < 16; ++t) m[16 * c + t] += dm[c][t];
   std::memset(s, 0, sizeof(S) * 4 * static_cast<std::size_t>(n));
 }
 
@@ -171,7 +177,7 @@ LumStatus accumulateMoments(const T* src, int step, LumiSize roi, int ch, int us
     const int y1 = y0 + kBlockRows < roi.height ? y0 + kBlockRows : roi.height;
     for (int y = y0; y < y1; y += moments::kGroupRows)
       f(rowAt(src, step, y), step, y1 - y < moments::kGroupRows ? y1 - y : moments::kGroupRows, n, s);
-    foldBlock<S, W, M>(s, n, ch, use, static_cast<W>(y1), m);
+    foldBlock<S, W, M>(s, n, ch, use, static_cast<W>(y1 - y0), static_cast<M>(y0), m);
   }
   lumsFree(s);
   return lumStatusOk;
