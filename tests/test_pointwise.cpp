@@ -246,6 +246,34 @@ TEST(Scaled, EverySampleAndScaleFactor) {
   exhaustive<Lum16s>(3, "Exp_16s", lumiExp_16s_C1RSfs);
 }
 
+// Scale factors far outside the useful range still follow the rule: 0 stays 0, and any value
+// the double-precision function gives is scaled exactly before the rounding.
+template <class T>
+void extremeScaleFactors(int fn, const char* name,
+                         LumStatus (*f)(const T*, int, T*, int, LumiSize, int)) {
+  constexpr int kCount = 1 << (8 * sizeof(T));
+  std::vector<T> src(kCount), dst(kCount);
+  for (int i = 0; i < kCount; ++i) src[i] = static_cast<T>(i + std::numeric_limits<T>::min());
+  for (int sf : {-100000, -1100, -1060, -1024, -1001, 1001, 1024, 1100, 100000}) {
+    f(src.data(), 256 * sizeof(T), dst.data(), 256 * sizeof(T), LumiSize{256, kCount / 256}, sf);
+    for (int i = 0; i < kCount; ++i) {
+      bool warn = false;
+      const T want = refScaled<T>(fn, src[i], sf, &warn);
+      if (dst[i] != want)
+        FAIL() << name << " of " << +src[i] << " with scale factor " << sf << ": got " << +dst[i]
+               << ", want " << +want;
+    }
+  }
+}
+
+TEST(Scaled, ExtremeScaleFactors) {
+  extremeScaleFactors<Lum16u>(0, "Sqr_16u", lumiSqr_16u_C1RSfs);
+  extremeScaleFactors<Lum16s>(0, "Sqr_16s", lumiSqr_16s_C1RSfs);
+  extremeScaleFactors<Lum16s>(1, "Sqrt_16s", lumiSqrt_16s_C1RSfs);
+  extremeScaleFactors<Lum16s>(2, "Ln_16s", lumiLn_16s_C1RSfs);
+  extremeScaleFactors<Lum16s>(3, "Exp_16s", lumiExp_16s_C1RSfs);
+}
+
 TEST(Scaled, LayoutsAndInPlace) {
   auto sqr = [](auto x, int sf, bool* w) { return refScaled(0, x, sf, w); };
   auto root = [](auto x, int sf, bool* w) { return refScaled(1, x, sf, w); };

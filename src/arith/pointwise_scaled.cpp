@@ -278,7 +278,9 @@ LumStatus scaledImpl(const T* s, int sStep, T* d, int dStep, LumiSize roi, int s
   } else {
     const bool masked = L::kUse < L::kCh;
     RowPattern<T> pat(masked ? L::kCh : 1, masked ? L::kUse : 1, nullptr);
-    ScaledRow<T> row = pickScaled<T, F>();
+    // The vector rows multiply by 2^-sf, a finite normal double only for |sf| below about a
+    // thousand; beyond that the scalar rows scale the value itself.
+    ScaledRow<T> row = sf < -1000 || sf > 1000 ? scaledRowScalar<T, F> : pickScaled<T, F>();
     FirstStatus status;
     for (int y = 0; y < roi.height; ++y)
       if (row(rowAt(s, sStep, y), rowAt(d, dStep, y), n, masked ? &pat : nullptr, sf))
