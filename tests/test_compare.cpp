@@ -49,37 +49,21 @@ struct CmpCase {
   out.push_back({"CompareEqualEpsC_32f_" #L "R", ch, use, true, true,                            \
                  CMP_CALL(lumiCompareEqualEpsC_32f_##L##R(a, as, X(b), d, ds, r, eps))});
 
-#define CMP_TYPE(tc)                 \
-  CMP_LAYOUT(tc, C1, 1, 1, S)        \
-  CMP_LAYOUT(tc, C3, 3, 3, A)        \
-  CMP_LAYOUT(tc, C4, 4, 4, A)        \
+#define CMP_TYPE(tc)                                                                  \
+  CMP_LAYOUT(tc, C1, 1, 1, S) CMP_LAYOUT(tc, C3, 3, 3, A) CMP_LAYOUT(tc, C4, 4, 4, A) \
   CMP_LAYOUT(tc, AC4, 4, 3, A)
 
 template <class T>
-std::vector<CmpCase<T>> cmpCases();
-template <>
-std::vector<CmpCase<Lum8u>> cmpCases<Lum8u>() {
-  using T = Lum8u;
+std::vector<CmpCase<T>> cmpCases() {
   std::vector<CmpCase<T>> out;
-  CMP_TYPE(8u)
-  return out;
-}
-template <>
-std::vector<CmpCase<Lum16s>> cmpCases<Lum16s>() {
-  using T = Lum16s;
-  std::vector<CmpCase<T>> out;
-  CMP_TYPE(16s)
-  return out;
-}
-template <>
-std::vector<CmpCase<Lum32f>> cmpCases<Lum32f>() {
-  using T = Lum32f;
-  std::vector<CmpCase<T>> out;
-  CMP_TYPE(32f)
-  CMP_EPS(C1, 1, 1, S)
-  CMP_EPS(C3, 3, 3, A)
-  CMP_EPS(C4, 4, 4, A)
-  CMP_EPS(AC4, 4, 3, A)
+  if constexpr (std::is_same_v<T, Lum8u>) {
+    CMP_TYPE(8u)
+  } else if constexpr (std::is_same_v<T, Lum16s>) {
+    CMP_TYPE(16s)
+  } else {
+    CMP_TYPE(32f)
+    CMP_EPS(C1, 1, 1, S) CMP_EPS(C3, 3, 3, A) CMP_EPS(C4, 4, 4, A) CMP_EPS(AC4, 4, 3, A)
+  }
   return out;
 }
 
@@ -155,26 +139,20 @@ void compareRandomised(uint32_t salt) {
           bool all = true;
           for (int ch = 0; ch < c.use; ++ch) {
             T u = a.at(x, y, ch), v = c.isConst ? cst[ch] : b.at(x, y, ch);
-            bool r;
-            if constexpr (std::is_floating_point_v<T>)
-              r = c.isEps ? withinEps(u, v, eps) : relation(op, u, v);
-            else
-              r = relation(op, u, v);
-            all = all && r;
+            all = all && (c.isEps ? withinEps(float(u), float(v), eps) : relation(op, u, v));
           }
           want[static_cast<std::size_t>(y) * roi.width + x] = all ? 255 : 0;
         }
       ASSERT_TRUE(sameElements(mask.pixels(), want, roi.width))
           << c.name << " op " << op << " eps " << eps << " " << roi.width << "x" << roi.height;
-      ASSERT_TRUE(mask.guardsIntact()) << c.name;
-      ASSERT_TRUE(a.guardsIntact() && b.guardsIntact()) << c.name;
+      ASSERT_TRUE(mask.guardsIntact() && a.guardsIntact() && b.guardsIntact()) << c.name;
     }
   }
 }
 
 TEST(Compare, Randomised8u) { compareRandomised<Lum8u>(10); }
 TEST(Compare, Randomised16s) { compareRandomised<Lum16s>(20); }
-TEST(Compare, Randomised32fAndTolerance) { compareRandomised<Lum32f>(30); }
+TEST(Compare, Randomised32f) { compareRandomised<Lum32f>(30); }  // and the tolerance forms
 
 template <class T>
 void compareValidation() {
@@ -187,48 +165,42 @@ void compareValidation() {
     b.fillRandom(rng);
     m.fillRandom(rng);
     const auto before = m.pixels();
-    auto run = [&](bool na, bool nb, bool nd, int as, int bs, int ds, LumiSize r, int op,
-                   float eps) {
-      return c.call(na ? nullptr : a.ptr(), as == kDef ? a.step() : as,
-                    nb ? nullptr : (c.isConst ? cst : b.ptr()), bs == kDef ? b.step() : bs,
-                    nd ? nullptr : m.ptr(), ds == kDef ? m.step() : ds, r, op, eps);
+    // nul: which pointer is null (0 none, 1 the first image, 2 the second or the constants,
+    // 3 the mask)
+    auto run = [&](int nul, int as, int bs, int ds, LumiSize r, int op = 9, float eps = -1.0f) {
+      return c.call(nul == 1 ? nullptr : a.ptr(), as == kDef ? a.step() : as,
+                    nul == 2 ? nullptr : (c.isConst ? cst : b.ptr()), bs == kDef ? b.step() : bs,
+                    nul == 3 ? nullptr : m.ptr(), ds == kDef ? m.step() : ds, r, op, eps);
     };
     const LumiSize ok{6, 2}, bad{6, 0};
     const float nan = std::numeric_limits<float>::quiet_NaN();
     // null before steps before size before the tolerance; the operation never fails
-    EXPECT_EQ(lumStatusNullPtrErr, run(true, false, false, 0, 0, 0, bad, 9, -1.0f)) << c.name;
+    EXPECT_EQ(lumStatusNullPtrErr, run(1, 0, 0, 0, bad)) << c.name;
     if (!(c.isConst && c.ch == 1)) {  // a C1 constant is passed by value
-      EXPECT_EQ(lumStatusNullPtrErr, run(false, true, false, 0, 0, 0, bad, 9, -1.0f)) << c.name;
+      EXPECT_EQ(lumStatusNullPtrErr, run(2, 0, 0, 0, bad)) << c.name;
     }
-    EXPECT_EQ(lumStatusNullPtrErr, run(false, false, true, 0, 0, 0, bad, 9, -1.0f)) << c.name;
-    EXPECT_EQ(lumStatusStepErr, run(false, false, false, 0, kDef, kDef, bad, 9, -1.0f)) << c.name;
-    EXPECT_EQ(lumStatusStepErr, run(false, false, false, kDef, kDef, -2, bad, 9, -1.0f)) << c.name;
+    EXPECT_EQ(lumStatusNullPtrErr, run(3, 0, 0, 0, bad)) << c.name;
+    EXPECT_EQ(lumStatusStepErr, run(0, 0, kDef, kDef, bad)) << c.name;
+    EXPECT_EQ(lumStatusStepErr, run(0, kDef, kDef, -2, bad)) << c.name;
     if (!c.isConst) {
-      EXPECT_EQ(lumStatusStepErr, run(false, false, false, kDef, 0, kDef, bad, 9, -1.0f)) << c.name;
+      EXPECT_EQ(lumStatusStepErr, run(0, kDef, 0, kDef, bad)) << c.name;
     }
-    EXPECT_EQ(lumStatusSizeErr, run(false, false, false, kDef, kDef, kDef, bad, 9, -1.0f)) << c.name;
-    EXPECT_EQ(lumStatusSizeErr,
-              run(false, false, false, kDef, kDef, kDef, LumiSize{-1, 2}, 0, nan)) << c.name;
+    EXPECT_EQ(lumStatusSizeErr, run(0, kDef, kDef, kDef, bad)) << c.name;
+    EXPECT_EQ(lumStatusSizeErr, run(0, kDef, kDef, kDef, LumiSize{-1, 2}, 0, nan)) << c.name;
     if (c.isEps) {
-      EXPECT_EQ(lumStatusEpsilonErr, run(false, false, false, kDef, kDef, kDef, ok, 0, -1.0f));
-      EXPECT_EQ(lumStatusEpsilonErr, run(false, false, false, kDef, kDef, kDef, ok, 0, nan));
-      EXPECT_EQ(lumStatusEpsilonErr,
-                run(false, false, false, kDef, kDef, kDef, ok, 0, -std::numeric_limits<float>::denorm_min()));
+      for (float e : {-1.0f, nan, -std::numeric_limits<float>::denorm_min()})
+        EXPECT_EQ(lumStatusEpsilonErr, run(0, kDef, kDef, kDef, ok, 0, e)) << c.name;
     } else {
-      for (int op : {5, 7, -1, 1000}) {
-        EXPECT_EQ(lumStatusOk, run(false, false, false, kDef, kDef, kDef, ok, op, 0.0f)) << c.name;
-      }
+      for (int op : {5, 7, -1, 1000}) EXPECT_EQ(lumStatusOk, run(0, kDef, kDef, kDef, ok, op, 0.0f)) << c.name;
     }
     EXPECT_TRUE(sameElements(m.pixels(), before)) << c.name;
     EXPECT_TRUE(m.guardsIntact()) << c.name;
   }
 }
 
-TEST(Compare, ValidationOrder) {
-  compareValidation<Lum8u>();
-  compareValidation<Lum16s>();
-  compareValidation<Lum32f>();
-}
+TEST(Compare, ValidationOrder8u) { compareValidation<Lum8u>(); }
+TEST(Compare, ValidationOrder16s) { compareValidation<Lum16s>(); }
+TEST(Compare, ValidationOrder32f) { compareValidation<Lum32f>(); }
 
 // ---- logic ---------------------------------------------------------------------------------
 
@@ -259,16 +231,11 @@ struct LogCase {
   out.push_back({#Op "C_" #tc "_" #L "IR", ch, use, K, true, true,                                 \
                  LOG_CALL(lumi##Op##C_##tc##_##L##IR(X(b), d, ds, r))});
 
-#define LOG_OPS(tc, L, ch, use, X)              \
-  LOG_LAYOUT(And, kAnd, tc, L, ch, use, X)      \
-  LOG_LAYOUT(Or, kOr, tc, L, ch, use, X)        \
-  LOG_LAYOUT(Xor, kXor, tc, L, ch, use, X)
-
-#define LOG_TYPE(tc)              \
-  LOG_OPS(tc, C1, 1, 1, S)        \
-  LOG_OPS(tc, C3, 3, 3, A)        \
-  LOG_OPS(tc, C4, 4, 4, A)        \
-  LOG_OPS(tc, AC4, 4, 3, A)
+#define LOG_OPS(tc, L, ch, use, X)                                                     \
+  LOG_LAYOUT(And, kAnd, tc, L, ch, use, X)                                             \
+  LOG_LAYOUT(Or, kOr, tc, L, ch, use, X) LOG_LAYOUT(Xor, kXor, tc, L, ch, use, X)
+#define LOG_TYPE(tc) \
+  LOG_OPS(tc, C1, 1, 1, S) LOG_OPS(tc, C3, 3, 3, A) LOG_OPS(tc, C4, 4, 4, A) LOG_OPS(tc, AC4, 4, 3, A)
 
 #define NOT_LAYOUT(L, ch, use)                                                                   \
   out.push_back({"Not_8u_" #L "R", ch, use, kNot, true, false,                                    \
@@ -277,30 +244,16 @@ struct LogCase {
                  LOG_CALL(lumiNot_8u_##L##IR(d, ds, r))});
 
 template <class T>
-std::vector<LogCase<T>> logCases();
-template <>
-std::vector<LogCase<Lum8u>> logCases<Lum8u>() {
-  using T = Lum8u;
+std::vector<LogCase<T>> logCases() {
   std::vector<LogCase<T>> out;
-  LOG_TYPE(8u)
-  NOT_LAYOUT(C1, 1, 1)
-  NOT_LAYOUT(C3, 3, 3)
-  NOT_LAYOUT(C4, 4, 4)
-  NOT_LAYOUT(AC4, 4, 3)
-  return out;
-}
-template <>
-std::vector<LogCase<Lum16u>> logCases<Lum16u>() {
-  using T = Lum16u;
-  std::vector<LogCase<T>> out;
-  LOG_TYPE(16u)
-  return out;
-}
-template <>
-std::vector<LogCase<Lum32s>> logCases<Lum32s>() {
-  using T = Lum32s;
-  std::vector<LogCase<T>> out;
-  LOG_TYPE(32s)
+  if constexpr (std::is_same_v<T, Lum8u>) {
+    LOG_TYPE(8u)
+    NOT_LAYOUT(C1, 1, 1) NOT_LAYOUT(C3, 3, 3) NOT_LAYOUT(C4, 4, 4) NOT_LAYOUT(AC4, 4, 3)
+  } else if constexpr (std::is_same_v<T, Lum16u>) {
+    LOG_TYPE(16u)
+  } else {
+    LOG_TYPE(32s)
+  }
   return out;
 }
 
@@ -323,23 +276,18 @@ void logicRandomised(uint32_t salt) {
       GuardedImage<T> a(roi.width, roi.height, c.ch, -1, -1, salt + iter);
       GuardedImage<T> d(roi.width, roi.height, c.ch, -1, -1, salt + 5 * iter);
       a.fillRandom(rng);
-      d.fillRandom(rng);
       T cst[4];
       for (T& v : cst) v = randomValue<T>(rng);
       // Two-image R forms read the second operand from the destination itself (an aliasing
       // call): that keeps one image per operand and exercises overlap of source and result.
-      if (c.inPlace && c.isConst)
-        for (int y = 0; y < roi.height; ++y)
-          for (int i = 0; i < roi.width * c.ch; ++i) d.row(y)[i] = a.row(y)[i];
+      if (c.inPlace && c.isConst) d.fill([&](int x, int y, int ch) { return a.at(x, y, ch); });
+      else d.fillRandom(rng);
       const std::vector<T> in = a.pixels(), before = d.pixels();
       ASSERT_EQ(lumStatusOk, c.call(a.ptr(), a.step(), cst, d.ptr(), d.step(), roi)) << c.name;
       std::vector<T> want = before;
       for (std::size_t i = 0; i < want.size(); ++i) {
         const int ch = static_cast<int>(i % c.ch);
-        if (ch >= c.use) continue;
-        const T x = c.inPlace && c.isConst ? before[i] : in[i];
-        const T y = c.isConst ? cst[ch] : before[i];
-        want[i] = logicRef(c.op, x, y);
+        if (ch < c.use) want[i] = logicRef(c.op, in[i], c.isConst ? cst[ch] : before[i]);
       }
       ASSERT_TRUE(sameElements(d.pixels(), want, roi.width * c.ch)) << c.name;
       ASSERT_TRUE(d.guardsIntact() && a.guardsIntact()) << c.name;
@@ -394,50 +342,24 @@ struct ShCase {
                  SH_CALL(lumi##Op##_##tc##_##L##R(s, ss, X(n), d, ds, r))});                      \
   out.push_back({#Op "_" #tc "_" #L "IR", ch, use, LEFT, true,                                    \
                  SH_CALL(lumi##Op##_##tc##_##L##IR(X(n), d, ds, r))});
-#define SH_OP(Op, LEFT, tc)                     \
-  SH_LAYOUT(Op, LEFT, tc, C1, 1, 1, S)          \
-  SH_LAYOUT(Op, LEFT, tc, C3, 3, 3, A)          \
-  SH_LAYOUT(Op, LEFT, tc, C4, 4, 4, A)          \
-  SH_LAYOUT(Op, LEFT, tc, AC4, 4, 3, A)
+#define SH_OP(Op, LEFT, tc)                                                                \
+  SH_LAYOUT(Op, LEFT, tc, C1, 1, 1, S) SH_LAYOUT(Op, LEFT, tc, C3, 3, 3, A)               \
+  SH_LAYOUT(Op, LEFT, tc, C4, 4, 4, A) SH_LAYOUT(Op, LEFT, tc, AC4, 4, 3, A)
 
 template <class T>
-std::vector<ShCase<T>> shCases();
-template <>
-std::vector<ShCase<Lum8u>> shCases<Lum8u>() {
-  using T = Lum8u;
+std::vector<ShCase<T>> shCases() {
   std::vector<ShCase<T>> out;
-  SH_OP(LShiftC, true, 8u)
-  SH_OP(RShiftC, false, 8u)
-  return out;
-}
-template <>
-std::vector<ShCase<Lum8s>> shCases<Lum8s>() {
-  using T = Lum8s;
-  std::vector<ShCase<T>> out;
-  SH_OP(RShiftC, false, 8s)
-  return out;
-}
-template <>
-std::vector<ShCase<Lum16u>> shCases<Lum16u>() {
-  using T = Lum16u;
-  std::vector<ShCase<T>> out;
-  SH_OP(LShiftC, true, 16u)
-  SH_OP(RShiftC, false, 16u)
-  return out;
-}
-template <>
-std::vector<ShCase<Lum16s>> shCases<Lum16s>() {
-  using T = Lum16s;
-  std::vector<ShCase<T>> out;
-  SH_OP(RShiftC, false, 16s)
-  return out;
-}
-template <>
-std::vector<ShCase<Lum32s>> shCases<Lum32s>() {
-  using T = Lum32s;
-  std::vector<ShCase<T>> out;
-  SH_OP(LShiftC, true, 32s)
-  SH_OP(RShiftC, false, 32s)
+  if constexpr (std::is_same_v<T, Lum8u>) {
+    SH_OP(LShiftC, true, 8u) SH_OP(RShiftC, false, 8u)
+  } else if constexpr (std::is_same_v<T, Lum8s>) {
+    SH_OP(RShiftC, false, 8s)
+  } else if constexpr (std::is_same_v<T, Lum16u>) {
+    SH_OP(LShiftC, true, 16u) SH_OP(RShiftC, false, 16u)
+  } else if constexpr (std::is_same_v<T, Lum16s>) {
+    SH_OP(RShiftC, false, 16s)
+  } else {
+    SH_OP(LShiftC, true, 32s) SH_OP(RShiftC, false, 32s)
+  }
   return out;
 }
 
@@ -465,14 +387,11 @@ void shiftRandomised(uint32_t salt) {
       GuardedImage<T> s(roi.width, roi.height, c.ch, -1, -1, salt + iter);
       GuardedImage<T> d(roi.width, roi.height, c.ch, -1, -1, salt + 7 * iter);
       s.fillRandom(rng);
-      d.fillRandom(rng);
+      if (c.inPlace) d.fill([&](int x, int y, int ch) { return s.at(x, y, ch); });
+      else d.fillRandom(rng);
       Lum32u n[4];
       const int pick = randInt(rng, 0, 16);
-      const bool uniform = iter % 2 == 0;
-      for (Lum32u& v : n) v = uniform ? pool[pick] : pool[randInt(rng, 0, 16)];
-      if (c.inPlace)
-        for (int y = 0; y < roi.height; ++y)
-          for (int i = 0; i < roi.width * c.ch; ++i) d.row(y)[i] = s.row(y)[i];
+      for (Lum32u& v : n) v = iter % 2 == 0 ? pool[pick] : pool[randInt(rng, 0, 16)];  // uniform or per channel
       const std::vector<T> in = s.pixels(), before = d.pixels();
       ASSERT_EQ(lumStatusOk, c.call(s.ptr(), s.step(), n, d.ptr(), d.step(), roi)) << c.name;
       std::vector<T> want = before;

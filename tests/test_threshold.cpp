@@ -53,75 +53,39 @@ T expected(Kind kind, int cmp, T x, T t1, T v1, T t2, T v2) {
 #define R_CALL(expr) [](const T* s, int ss, T* d, int ds, LumiSize r, const T* t1, const T* v1, \
                         const T* t2, const T* v2, int cmp) -> LumStatus { return expr; }
 
+// One out-of-place and one in-place form of an operation, with the same trailing arguments.
+#define THR_FORMS(OP, K, tc, L, ch, use, ...)                                                     \
+  out.push_back({#OP "_" #tc "_" #L "R", K, ch, use, false,                                       \
+                 R_CALL(lumi##OP##_##tc##_##L##R(s, ss, d, ds, r, __VA_ARGS__))});                \
+  out.push_back({#OP "_" #tc "_" #L "IR", K, ch, use, true,                                       \
+                 R_CALL(lumi##OP##_##tc##_##L##IR(d, ds, r, __VA_ARGS__))});
+
 #define THR_LAYOUT(tc, L, ch, use, X)                                                            \
-  out.push_back({"Threshold_" #tc "_" #L "R", kClamp, ch, use, false,                             \
-                 R_CALL(lumiThreshold_##tc##_##L##R(s, ss, d, ds, r, X(t1), cmp))});              \
-  out.push_back({"Threshold_" #tc "_" #L "IR", kClamp, ch, use, true,                             \
-                 R_CALL(lumiThreshold_##tc##_##L##IR(d, ds, r, X(t1), cmp))});                    \
-  out.push_back({"Threshold_GT_" #tc "_" #L "R", kGT, ch, use, false,                             \
-                 R_CALL(lumiThreshold_GT_##tc##_##L##R(s, ss, d, ds, r, X(t1)))});                \
-  out.push_back({"Threshold_GT_" #tc "_" #L "IR", kGT, ch, use, true,                             \
-                 R_CALL(lumiThreshold_GT_##tc##_##L##IR(d, ds, r, X(t1)))});                      \
-  out.push_back({"Threshold_LT_" #tc "_" #L "R", kLT, ch, use, false,                             \
-                 R_CALL(lumiThreshold_LT_##tc##_##L##R(s, ss, d, ds, r, X(t1)))});                \
-  out.push_back({"Threshold_LT_" #tc "_" #L "IR", kLT, ch, use, true,                             \
-                 R_CALL(lumiThreshold_LT_##tc##_##L##IR(d, ds, r, X(t1)))});                      \
-  out.push_back({"Threshold_Val_" #tc "_" #L "R", kVal, ch, use, false,                           \
-                 R_CALL(lumiThreshold_Val_##tc##_##L##R(s, ss, d, ds, r, X(t1), X(v1), cmp))});   \
-  out.push_back({"Threshold_Val_" #tc "_" #L "IR", kVal, ch, use, true,                           \
-                 R_CALL(lumiThreshold_Val_##tc##_##L##IR(d, ds, r, X(t1), X(v1), cmp))});         \
-  out.push_back({"Threshold_GTVal_" #tc "_" #L "R", kGTVal, ch, use, false,                       \
-                 R_CALL(lumiThreshold_GTVal_##tc##_##L##R(s, ss, d, ds, r, X(t1), X(v1)))});      \
-  out.push_back({"Threshold_GTVal_" #tc "_" #L "IR", kGTVal, ch, use, true,                       \
-                 R_CALL(lumiThreshold_GTVal_##tc##_##L##IR(d, ds, r, X(t1), X(v1)))});            \
-  out.push_back({"Threshold_LTVal_" #tc "_" #L "R", kLTVal, ch, use, false,                       \
-                 R_CALL(lumiThreshold_LTVal_##tc##_##L##R(s, ss, d, ds, r, X(t1), X(v1)))});      \
-  out.push_back({"Threshold_LTVal_" #tc "_" #L "IR", kLTVal, ch, use, true,                       \
-                 R_CALL(lumiThreshold_LTVal_##tc##_##L##IR(d, ds, r, X(t1), X(v1)))});            \
-  out.push_back({"Threshold_LTValGTVal_" #tc "_" #L "R", kTwoSided, ch, use, false,               \
-                 R_CALL(lumiThreshold_LTValGTVal_##tc##_##L##R(s, ss, d, ds, r, X(t1), X(v1),     \
-                                                               X(t2), X(v2)))});                 \
-  out.push_back({"Threshold_LTValGTVal_" #tc "_" #L "IR", kTwoSided, ch, use, true,               \
-                 R_CALL(lumiThreshold_LTValGTVal_##tc##_##L##IR(d, ds, r, X(t1), X(v1), X(t2),    \
-                                                                X(v2)))});
+  THR_FORMS(Threshold, kClamp, tc, L, ch, use, X(t1), cmp)                                        \
+  THR_FORMS(Threshold_GT, kGT, tc, L, ch, use, X(t1))                                             \
+  THR_FORMS(Threshold_LT, kLT, tc, L, ch, use, X(t1))                                             \
+  THR_FORMS(Threshold_Val, kVal, tc, L, ch, use, X(t1), X(v1), cmp)                               \
+  THR_FORMS(Threshold_GTVal, kGTVal, tc, L, ch, use, X(t1), X(v1))                                \
+  THR_FORMS(Threshold_LTVal, kLTVal, tc, L, ch, use, X(t1), X(v1))                                \
+  THR_FORMS(Threshold_LTValGTVal, kTwoSided, tc, L, ch, use, X(t1), X(v1), X(t2), X(v2))
 
-#define THR_C4(tc)                                                                                \
-  out.push_back({"Threshold_GTVal_" #tc "_C4R", kGTVal, 4, 4, false,                              \
-                 R_CALL(lumiThreshold_GTVal_##tc##_C4R(s, ss, d, ds, r, t1, v1))});               \
-  out.push_back({"Threshold_GTVal_" #tc "_C4IR", kGTVal, 4, 4, true,                              \
-                 R_CALL(lumiThreshold_GTVal_##tc##_C4IR(d, ds, r, t1, v1))});                     \
-  out.push_back({"Threshold_LTVal_" #tc "_C4R", kLTVal, 4, 4, false,                              \
-                 R_CALL(lumiThreshold_LTVal_##tc##_C4R(s, ss, d, ds, r, t1, v1))});               \
-  out.push_back({"Threshold_LTVal_" #tc "_C4IR", kLTVal, 4, 4, true,                              \
-                 R_CALL(lumiThreshold_LTVal_##tc##_C4IR(d, ds, r, t1, v1))});
-
-#define THR_TYPE(tc)                \
-  THR_LAYOUT(tc, C1, 1, 1, S)       \
-  THR_LAYOUT(tc, C3, 3, 3, A)       \
-  THR_LAYOUT(tc, AC4, 4, 3, A)      \
-  THR_C4(tc)
+#define THR_TYPE(tc)                                                                              \
+  THR_LAYOUT(tc, C1, 1, 1, S)                                                                     \
+  THR_LAYOUT(tc, C3, 3, 3, A)                                                                     \
+  THR_LAYOUT(tc, AC4, 4, 3, A)                                                                    \
+  THR_FORMS(Threshold_GTVal, kGTVal, tc, C4, 4, 4, t1, v1)                                        \
+  THR_FORMS(Threshold_LTVal, kLTVal, tc, C4, 4, 4, t1, v1)
 
 template <class T>
-std::vector<Case<T>> cases();
-template <>
-std::vector<Case<Lum8u>> cases<Lum8u>() {
-  using T = Lum8u;
+std::vector<Case<T>> cases() {
   std::vector<Case<T>> out;
-  THR_TYPE(8u)
-  return out;
-}
-template <>
-std::vector<Case<Lum16s>> cases<Lum16s>() {
-  using T = Lum16s;
-  std::vector<Case<T>> out;
-  THR_TYPE(16s)
-  return out;
-}
-template <>
-std::vector<Case<Lum32f>> cases<Lum32f>() {
-  using T = Lum32f;
-  std::vector<Case<T>> out;
-  THR_TYPE(32f)
+  if constexpr (std::is_same_v<T, Lum8u>) {
+    THR_TYPE(8u)
+  } else if constexpr (std::is_same_v<T, Lum16s>) {
+    THR_TYPE(16s)
+  } else {
+    THR_TYPE(32f)
+  }
   return out;
 }
 
@@ -153,26 +117,22 @@ void randomised(uint32_t salt) {
       GuardedImage<T> src(roi.width, roi.height, c.ch, -1, -1, salt + iter);
       GuardedImage<T> dst(roi.width, roi.height, c.ch, -1, -1, salt + iter + 99);
       src.fill([&](int, int, int ch) { return sample(rng, c.kind == kTwoSided && randInt(rng, 0, 1) ? t2 : t1, ch % 4); });
-      dst.fillRandom(rng);
-      if (c.inPlace)
-        for (int y = 0; y < roi.height; ++y)
-          for (int i = 0; i < roi.width * c.ch; ++i) dst.row(y)[i] = src.row(y)[i];
+      if (c.inPlace) dst.fill([&](int x, int y, int ch) { return src.at(x, y, ch); });
+      else dst.fillRandom(rng);
       const std::vector<T> before = dst.pixels();
       ASSERT_EQ(lumStatusOk, c.call(src.ptr(), src.step(), dst.ptr(), dst.step(), roi, t1, v1,
                                      t2, v2, cmp))
           << c.name;
       std::vector<T> want = before;
-      const std::vector<T> in = src.pixels();
+      const std::vector<T> in = src.pixels();  // equal to `before` in place
       for (std::size_t i = 0; i < want.size(); ++i) {
         const int ch = static_cast<int>(i % c.ch);
-        if (ch >= c.use) continue;  // alpha keeps what the destination held
-        const T x = c.inPlace ? before[i] : in[i];
-        want[i] = expected(c.kind, cmp, x, t1[ch], v1[ch], t2[ch], v2[ch]);
+        if (ch < c.use)  // alpha keeps what the destination held
+          want[i] = expected(c.kind, cmp, in[i], t1[ch], v1[ch], t2[ch], v2[ch]);
       }
       ASSERT_TRUE(sameElements(dst.pixels(), want, roi.width * c.ch))
           << c.name << " cmp " << cmp << " " << roi.width << "x" << roi.height;
-      ASSERT_TRUE(dst.guardsIntact()) << c.name;
-      ASSERT_TRUE(src.guardsIntact()) << c.name;
+      ASSERT_TRUE(dst.guardsIntact() && src.guardsIntact()) << c.name;
     }
   }
 }
@@ -181,80 +141,66 @@ TEST(Threshold, Randomised8u) { randomised<Lum8u>(1); }
 TEST(Threshold, Randomised16s) { randomised<Lum16s>(2); }
 TEST(Threshold, Randomised32f) { randomised<Lum32f>(3); }
 
-template <class T>
-struct Id {
-  using type = T;
-};
-
 constexpr int kDef = std::numeric_limits<int>::min();  // the image's own step
-
-// A failing call returns `want` and leaves the destination and its surroundings alone.
-template <class T>
-void expectRejected(const Case<T>& c, LumStatus want, bool nullSrc, bool nullDst, LumiSize roi,
-                    int srcStep, int dstStep, const typename Id<T>::type* t1,
-                    const typename Id<T>::type* v1, const typename Id<T>::type* t2,
-                    const typename Id<T>::type* v2, int cmp) {
-  GuardedImage<T> src(5, 3, c.ch), dst(5, 3, c.ch);
-  Rng rng = makeRng(5);
-  src.fillRandom(rng);
-  dst.fillRandom(rng);
-  const std::vector<T> before = dst.pixels();
-  LumStatus got = c.call(nullSrc ? nullptr : src.ptr(), srcStep == kDef ? src.step() : srcStep,
-                         nullDst ? nullptr : dst.ptr(), dstStep == kDef ? dst.step() : dstStep, roi, t1,
-                         v1, t2, v2, cmp);
-  EXPECT_EQ(want, got) << c.name;
-  EXPECT_TRUE(sameElements(dst.pixels(), before)) << c.name;
-  EXPECT_TRUE(dst.guardsIntact()) << c.name;
-}
 
 template <class T>
 void validation() {
   const T t[4] = {1, 2, 3, 4}, v[4] = {5, 6, 7, 8}, hi[4] = {9, 9, 9, 9};
   const LumiSize ok{5, 3}, bad{0, 3};
   for (const Case<T>& c : cases<T>()) {
+    // A failing call returns `want` and leaves the destination and its surroundings alone.
+    auto rej = [&](LumStatus want, LumiSize roi, int ss, int ds, const T* t1, const T* v1,
+                   const T* t2, const T* v2, int cmp, bool nullSrc = false, bool nullDst = false) {
+      GuardedImage<T> src(5, 3, c.ch), dst(5, 3, c.ch);
+      Rng rng = makeRng(5);
+      src.fillRandom(rng);
+      dst.fillRandom(rng);
+      const std::vector<T> before = dst.pixels();
+      EXPECT_EQ(want, c.call(nullSrc ? nullptr : src.ptr(), ss == kDef ? src.step() : ss,
+                             nullDst ? nullptr : dst.ptr(), ds == kDef ? dst.step() : ds, roi, t1,
+                             v1, t2, v2, cmp))
+          << c.name;
+      EXPECT_TRUE(sameElements(dst.pixels(), before)) << c.name;
+      EXPECT_TRUE(dst.guardsIntact()) << c.name;
+    };
     const bool arrays = c.ch > 1;
     const bool fixed = c.kind != kClamp && c.kind != kVal;  // no comparison argument
     for (int nullWhich = 0; nullWhich < (c.inPlace ? 1 : 2); ++nullWhich) {
       const bool ns = !c.inPlace && nullWhich == 0, nd = c.inPlace || nullWhich == 1;
       // A bad comparison wins over null pointers only in replace mode.
       if (!fixed)
-        expectRejected(c, c.kind == kVal ? lumStatusUnsupportedModeErr : lumStatusNullPtrErr,
-                       ns, nd, bad, kDef, kDef, t, v, hi, v, 2);
-      expectRejected(c, lumStatusNullPtrErr, ns, nd, bad, kDef, kDef, t, v, hi, v, 4);
+        rej(c.kind == kVal ? lumStatusUnsupportedModeErr : lumStatusNullPtrErr, bad, kDef, kDef, t,
+            v, hi, v, 2, ns, nd);
+      rej(lumStatusNullPtrErr, bad, kDef, kDef, t, v, hi, v, 4, ns, nd);
     }
     // Size is tested before steps; steps before the arrays; the arrays before the comparison.
-    expectRejected(c, lumStatusSizeErr, false, false, bad, kDef, kDef, t, v, hi, v, 4);
-    expectRejected(c, lumStatusSizeErr, false, false, LumiSize{5, -1}, 0, 0, t, v, hi, v, 4);
-    expectRejected(c, lumStatusStepErr, false, false, ok, 0, 0, t, v, hi, v, 4);
-    if (!c.inPlace) expectRejected(c, lumStatusStepErr, false, false, ok, kDef, -3, t, v, hi, v, 4);
-    if (!c.inPlace) expectRejected(c, lumStatusStepErr, false, false, ok, -3, kDef, t, v, hi, v, 4);
+    rej(lumStatusSizeErr, bad, kDef, kDef, t, v, hi, v, 4);
+    rej(lumStatusSizeErr, LumiSize{5, -1}, 0, 0, t, v, hi, v, 4);
+    rej(lumStatusStepErr, ok, 0, 0, t, v, hi, v, 4);
+    if (!c.inPlace) rej(lumStatusStepErr, ok, kDef, -3, t, v, hi, v, 4);
+    if (!c.inPlace) rej(lumStatusStepErr, ok, -3, kDef, t, v, hi, v, 4);
     if (arrays) {
-      if (c.kind == kClamp) {
-        expectRejected(c, lumStatusNullPtrErr, false, false, ok, kDef, kDef, nullptr, v, hi, v, 2) ;
-      }
-      expectRejected(c, lumStatusNullPtrErr, false, false, ok, kDef, kDef, nullptr, v, hi, v, 4);
+      if (c.kind == kClamp) rej(lumStatusNullPtrErr, ok, kDef, kDef, nullptr, v, hi, v, 2);
+      rej(lumStatusNullPtrErr, ok, kDef, kDef, nullptr, v, hi, v, 4);
       if (c.kind != kClamp && c.kind != kGT && c.kind != kLT)
-        expectRejected(c, lumStatusNullPtrErr, false, false, ok, kDef, kDef, t, nullptr, hi, v, 4);
+        rej(lumStatusNullPtrErr, ok, kDef, kDef, t, nullptr, hi, v, 4);
       if (c.kind == kTwoSided) {
-        expectRejected(c, lumStatusNullPtrErr, false, false, ok, kDef, kDef, t, v, nullptr, v, 4);
-        expectRejected(c, lumStatusNullPtrErr, false, false, ok, kDef, kDef, t, v, hi, nullptr, 4);
+        rej(lumStatusNullPtrErr, ok, kDef, kDef, t, v, nullptr, v, 4);
+        rej(lumStatusNullPtrErr, ok, kDef, kDef, t, v, hi, nullptr, 4);
       }
     }
     if (!fixed) {
-      for (int cmp : {1, 2, 3, 5, -1})
-        expectRejected(c, lumStatusUnsupportedModeErr, false, false, ok, kDef, kDef, t, v, hi, v, cmp);
+      for (int cmp : {1, 2, 3, 5, -1}) rej(lumStatusUnsupportedModeErr, ok, kDef, kDef, t, v, hi, v, cmp);
       // the order between the array check and the comparison
-      if (arrays && c.kind == kVal)
-        expectRejected(c, lumStatusUnsupportedModeErr, false, false, ok, kDef, kDef, nullptr, v, hi,
-                       v, 2);
+      if (arrays && c.kind == kVal) rej(lumStatusUnsupportedModeErr, ok, kDef, kDef, nullptr, v, hi, v, 2);
     }
     if (c.kind == kTwoSided) {
       // Every processed channel is checked; alpha takes no part.
-      for (int bad = 0; bad < c.use; ++bad) {
+      for (int b = 0; b < c.use; ++b) {
         T lo[4] = {0, 0, 0, 0}, up[4] = {5, 5, 5, 5};
-        lo[bad] = 10;
-        up[bad] = 9;
-        expectRejected(c, lumStatusThresholdOrderErr, false, false, ok, kDef, kDef, lo, v, up, v, 0);
+        lo[b] = 10;
+        up[b] = 9;
+        rej(lumStatusThresholdOrderErr, ok, kDef, kDef, lo, v, up, v, 0);
       }
     }
   }
