@@ -1,7 +1,6 @@
 // Border extension (constant, replicated, wrapped; copying and in place) against a per-pixel
 // definition of the extended image.
 #include <algorithm>
-#include <functional>
 
 #include "lumitest.h"
 #ifdef LUMI_HAVE_OPENCV
@@ -16,39 +15,35 @@ struct Layout {
   int ch, use;
 };
 constexpr Layout kLayouts[4] = {{1, 1}, {3, 3}, {4, 4}, {4, 3}};  // C1, C3, C4, AC4
-const char* const kLayoutNames[4] = {"C1", "C3", "C4", "AC4"};
 
 template <class T>
-using ConstFn = std::function<LumStatus(const T*, int, LumiSize, T*, int, LumiSize, int, int, const T*)>;
-template <class T>
-using CopyBorderFn = LumStatus (*)(const T*, int, LumiSize, T*, int, LumiSize, int, int);
+using BorderFn = LumStatus (*)(const T*, int, LumiSize, T*, int, LumiSize, int, int, const T*);
 template <class T>
 using InPlaceFn = LumStatus (*)(const T*, int, LumiSize, LumiSize, int, int);
+// One signature for every copying form: the constant's pointer is dropped or dereferenced.
+template <class T, LumStatus (*F)(const T*, int, LumiSize, T*, int, LumiSize, int, int)>
+LumStatus noValue(const T* s, int ss, LumiSize sr, T* d, int ds, LumiSize dr, int t, int l, const T*) {
+  return F(s, ss, sr, d, ds, dr, t, l);
+}
+template <class T, LumStatus (*F)(const T*, int, LumiSize, T*, int, LumiSize, int, int, T)>
+LumStatus byValue(const T* s, int ss, LumiSize sr, T* d, int ds, LumiSize dr, int t, int l, const T* v) {
+  return F(s, ss, sr, d, ds, dr, t, l, *v);
+}
 
 template <class T>
 struct Api;
+#define BY_LAYOUT(pre, post) {pre##C1##post, pre##C3##post, pre##C4##post, pre##AC4##post}
 #define LUMI_TEST_BORDER_API(t)                                                                 \
   template <>                                                                                   \
   struct Api<Lum##t> {                                                                          \
     using T = Lum##t;                                                                           \
-    static ConstFn<T> constant(int l) {                                                         \
-      switch (l) {                                                                              \
-        case 0:                                                                                 \
-          return [](const T* s, int ss, LumiSize sr, T* d, int ds, LumiSize dr, int top,        \
-                    int left, const T* v) {                                                     \
-            return lumiCopyConstBorder_##t##_C1R(s, ss, sr, d, ds, dr, top, left, *v);          \
-          };                                                                                    \
-        case 1: return lumiCopyConstBorder_##t##_C3R;                                           \
-        case 2: return lumiCopyConstBorder_##t##_C4R;                                           \
-        default: return lumiCopyConstBorder_##t##_AC4R;                                         \
-      }                                                                                         \
-    }                                                                                           \
-    static constexpr CopyBorderFn<T> replicate[4] = {                                           \
-        lumiCopyReplicateBorder_##t##_C1R, lumiCopyReplicateBorder_##t##_C3R,                   \
-        lumiCopyReplicateBorder_##t##_C4R, lumiCopyReplicateBorder_##t##_AC4R};                 \
-    static constexpr InPlaceFn<T> replicateInPlace[4] = {                                       \
-        lumiCopyReplicateBorder_##t##_C1IR, lumiCopyReplicateBorder_##t##_C3IR,                 \
-        lumiCopyReplicateBorder_##t##_C4IR, lumiCopyReplicateBorder_##t##_AC4IR};               \
+    static constexpr BorderFn<T> constant[4] = {                                                \
+        byValue<T, lumiCopyConstBorder_##t##_C1R>, lumiCopyConstBorder_##t##_C3R,               \
+        lumiCopyConstBorder_##t##_C4R, lumiCopyConstBorder_##t##_AC4R};                         \
+    static constexpr BorderFn<T> replicate[4] = {                                               \
+        noValue<T, lumiCopyReplicateBorder_##t##_C1R>, noValue<T, lumiCopyReplicateBorder_##t##_C3R>, \
+        noValue<T, lumiCopyReplicateBorder_##t##_C4R>, noValue<T, lumiCopyReplicateBorder_##t##_AC4R>}; \
+    static constexpr InPlaceFn<T> replicateInPlace[4] = BY_LAYOUT(lumiCopyReplicateBorder_##t##_, IR); \
   };
 LUMI_TEST_BORDER_API(8u)
 LUMI_TEST_BORDER_API(16s)
@@ -85,13 +80,21 @@ std::vector<T> extended(Kind kind, const std::vector<T>& src, LumiSize sr, std::
   return before;
 }
 
-// Random geometry: borders from none to wider than the source on each side.
+// Random geometry: borders from none to wider than the source on each side, and now and then
+// several times the source on every side.
 struct Geometry {
   LumiSize src, dst;
   int top, left;
 };
 Geometry randomGeometry(Rng& r, int rep) {
   Geometry g;
+  if (rep % 5 == 2) {
+    g.src = LumiSize{randInt(r, 1, 4), randInt(r, 1, 3)};
+    g.top = randInt(r, 4, 9);
+    g.left = randInt(r, 5, 13);
+    g.dst = LumiSize{g.src.width + g.left + randInt(r, 5, 13), g.src.height + g.top + randInt(r, 4, 9)};
+    return g;
+  }
   g.src = rep == 0 ? LumiSize{1, 1} : randomSize(r, 40, 6);
   g.top = rep == 1 ? 0 : randInt(r, 0, 8);
   g.left = rep == 1 ? 0 : randInt(r, 0, rep % 2 ? 90 : 5);
@@ -101,107 +104,57 @@ Geometry randomGeometry(Rng& r, int rep) {
   return g;
 }
 
+// A copy into a random destination; then, where there is an in-place form, the frame around
+// the copied source scrambled and filled again in place.
+template <class T>
+void checkBorder(Rng& rng, Kind kind, Layout L, BorderFn<T> copy, InPlaceFn<T> inPlace, int reps) {
+  for (int rep = 0; rep < reps; ++rep) {
+    const Geometry g = randomGeometry(rng, rep);
+    SCOPED_TRACE(::testing::Message() << "C" << L.ch << "/" << L.use << " src " << g.src.width << "x"
+                                      << g.src.height << " at (" << g.left << ", " << g.top << ") in "
+                                      << g.dst.width << "x" << g.dst.height);
+    GuardedImage<T> src(g.src.width, g.src.height, L.ch, -1, -1, rep);
+    GuardedImage<T> dst(g.dst.width, g.dst.height, L.ch, rep % 4 ? -1 : 0, -1, rep + 40);
+    src.fillRandom(rng);
+    dst.fillRandom(rng);
+    std::vector<T> value(L.use);
+    for (T& v : value) v = randomValue<T>(rng);
+    auto want = extended(kind, src.pixels(), g.src, dst.pixels(), g.dst, g.top, g.left, L, value.data());
+    ASSERT_EQ(copy(src.ptr(), src.step(), g.src, dst.ptr(), dst.step(), g.dst, g.top, g.left, value.data()),
+              lumStatusOk);
+    EXPECT_TRUE(sameElements(dst.pixels(), want, g.dst.width * L.ch));
+    EXPECT_TRUE(dst.guardsIntact());
+    EXPECT_TRUE(src.guardsIntact());
+    if (!inPlace) continue;
+    for (int y = 0; y < g.dst.height; ++y)
+      for (int x = 0; x < g.dst.width; ++x)
+        if (x < g.left || x >= g.left + g.src.width || y < g.top || y >= g.top + g.src.height)
+          for (int c = 0; c < L.ch; ++c) dst.at(x, y, c) = randomValue<T>(rng);
+    want = extended(kind, src.pixels(), g.src, dst.pixels(), g.dst, g.top, g.left, L, value.data());
+    ASSERT_EQ(inPlace(&dst.at(g.left, g.top), dst.step(), g.src, g.dst, g.top, g.left), lumStatusOk);
+    EXPECT_TRUE(sameElements(dst.pixels(), want, g.dst.width * L.ch));
+    EXPECT_TRUE(dst.guardsIntact());
+  }
+}
+
 template <class T>
 class Border : public ::testing::Test {};
 using BorderTypes = ::testing::Types<Lum8u, Lum16s, Lum32s>;
 TYPED_TEST_SUITE(Border, BorderTypes);
 
-TYPED_TEST(Border, ConstantAndReplicatedCopies) {
+TYPED_TEST(Border, ConstantAndReplicatedCopiesAndInPlace) {
   using T = TypeParam;
   Rng rng = makeRng(21);
   for (int l = 0; l < 4; ++l) {
-    const Layout L = kLayouts[l];
-    for (int rep = 0; rep < 24; ++rep) {
-      const Geometry g = randomGeometry(rng, rep);
-      SCOPED_TRACE(::testing::Message() << kLayoutNames[l] << " src " << g.src.width << "x" << g.src.height
-                                        << " at (" << g.left << ", " << g.top << ") in "
-                                        << g.dst.width << "x" << g.dst.height);
-      GuardedImage<T> src(g.src.width, g.src.height, L.ch, -1, -1, rep);
-      GuardedImage<T> dst(g.dst.width, g.dst.height, L.ch, rep % 4 ? -1 : 0, -1, rep + 40);
-      src.fillRandom(rng);
-      dst.fillRandom(rng);
-      std::vector<T> value(L.use);
-      for (T& v : value) v = randomValue<T>(rng);
-      const auto want = extended(Kind::kConstant, src.pixels(), g.src, dst.pixels(), g.dst, g.top,
-                                 g.left, L, value.data());
-      ASSERT_EQ(Api<T>::constant(l)(src.ptr(), src.step(), g.src, dst.ptr(), dst.step(), g.dst, g.top,
-                                    g.left, value.data()),
-                lumStatusOk);
-      EXPECT_TRUE(sameElements(dst.pixels(), want, g.dst.width * L.ch));
-      dst.fillRandom(rng);
-      const auto rwant = extended(Kind::kReplicate, src.pixels(), g.src, dst.pixels(), g.dst, g.top,
-                                  g.left, L, value.data());
-      ASSERT_EQ(Api<T>::replicate[l](src.ptr(), src.step(), g.src, dst.ptr(), dst.step(), g.dst,
-                                     g.top, g.left),
-                lumStatusOk);
-      EXPECT_TRUE(sameElements(dst.pixels(), rwant, g.dst.width * L.ch));
-      EXPECT_TRUE(dst.guardsIntact());
-      EXPECT_TRUE(src.guardsIntact());
-    }
-  }
-}
-
-// The in-place forms find the source inside the destination and fill the frame around it.
-TYPED_TEST(Border, ReplicatedInPlace) {
-  using T = TypeParam;
-  Rng rng = makeRng(22);
-  for (int l = 0; l < 4; ++l) {
-    const Layout L = kLayouts[l];
-    for (int rep = 0; rep < 24; ++rep) {
-      const Geometry g = randomGeometry(rng, rep);
-      SCOPED_TRACE(::testing::Message() << kLayoutNames[l] << " rep " << rep);
-      GuardedImage<T> dst(g.dst.width, g.dst.height, L.ch, -1, -1, rep);
-      dst.fillRandom(rng);
-      std::vector<T> src;
-      for (int y = 0; y < g.src.height; ++y)
-        for (int x = 0; x < g.src.width; ++x)
-          for (int c = 0; c < L.ch; ++c) src.push_back(dst.at(g.left + x, g.top + y, c));
-      const auto want = extended<T>(Kind::kReplicate, src, g.src, dst.pixels(), g.dst, g.top, g.left,
-                                    L, nullptr);
-      ASSERT_EQ(Api<T>::replicateInPlace[l](&dst.at(g.left, g.top), dst.step(), g.src, g.dst, g.top,
-                                            g.left),
-                lumStatusOk);
-      EXPECT_TRUE(sameElements(dst.pixels(), want, g.dst.width * L.ch));
-      EXPECT_TRUE(dst.guardsIntact());
-    }
+    checkBorder<T>(rng, Kind::kConstant, kLayouts[l], Api<T>::constant[l], nullptr, 24);
+    checkBorder<T>(rng, Kind::kReplicate, kLayouts[l], Api<T>::replicate[l], Api<T>::replicateInPlace[l], 24);
   }
 }
 
 TEST(WrapBorder, CopyAndInPlaceRepeatTheSource) {
   Rng rng = makeRng(23);
-  const Layout C1{1, 1};
-  for (int rep = 0; rep < 40; ++rep) {
-    Geometry g = randomGeometry(rng, rep);
-    if (rep % 5 == 2) {  // borders several times the source on every side
-      g.src = LumiSize{randInt(rng, 1, 4), randInt(rng, 1, 3)};
-      g.top = randInt(rng, 4, 9);
-      g.left = randInt(rng, 5, 13);
-      g.dst = LumiSize{g.src.width + g.left + randInt(rng, 5, 13), g.src.height + g.top + randInt(rng, 4, 9)};
-    }
-    SCOPED_TRACE(::testing::Message() << "src " << g.src.width << "x" << g.src.height << " at ("
-                                      << g.left << ", " << g.top << ") in " << g.dst.width << "x"
-                                      << g.dst.height);
-    GuardedImage<Lum32s> src(g.src.width, g.src.height, 1, -1, -1, rep);
-    GuardedImage<Lum32s> dst(g.dst.width, g.dst.height, 1, -1, -1, rep + 1);
-    src.fillRandom(rng);
-    dst.fillRandom(rng);
-    auto want = extended<Lum32s>(Kind::kWrap, src.pixels(), g.src, dst.pixels(), g.dst, g.top, g.left,
-                                 C1, nullptr);
-    ASSERT_EQ(lumiCopyWrapBorder_32s_C1R(src.ptr(), src.step(), g.src, dst.ptr(), dst.step(), g.dst,
-                                         g.top, g.left),
-              lumStatusOk);
-    EXPECT_TRUE(sameElements(dst.pixels(), want, g.dst.width));
-    // in place: scramble the frame, keep the source where it landed
-    for (int y = 0; y < g.dst.height; ++y)
-      for (int x = 0; x < g.dst.width; ++x)
-        if (x < g.left || x >= g.left + g.src.width || y < g.top || y >= g.top + g.src.height)
-          dst.at(x, y) = randomValue<Lum32s>(rng);
-    ASSERT_EQ(lumiCopyWrapBorder_32s_C1IR(&dst.at(g.left, g.top), dst.step(), g.src, g.dst, g.top,
-                                          g.left),
-              lumStatusOk);
-    EXPECT_TRUE(sameElements(dst.pixels(), want, g.dst.width));
-    EXPECT_TRUE(dst.guardsIntact());
-  }
+  checkBorder<Lum32s>(rng, Kind::kWrap, {1, 1}, noValue<Lum32s, lumiCopyWrapBorder_32s_C1R>,
+                      lumiCopyWrapBorder_32s_C1IR, 40);
 }
 
 #ifdef LUMI_HAVE_OPENCV

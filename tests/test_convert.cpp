@@ -221,21 +221,17 @@ TEST(Convert, RoundingModeIsTheSelectorsAndTheCallersRegisterIsRestored) {
         EXPECT_EQ(flags ? after : after & ~0x3fu, flags ? before : before & ~0x3fu);
       }
   }
-  std::vector<float> in = {2.5f, 3.5f, -0.4f, 300.0f, -1.7f};
-  std::vector<Lum8u> out(5);
+  const float in[5] = {2.5f, 3.5f, -0.4f, 300.0f, -1.7f};
+  Lum8u out[5];
   for (unsigned mode : kModes)
     for (int sel : {lumRndNear, lumRndZero}) {
       CallerMode caller(mode);
       const unsigned before = _mm_getcsr();
-      ASSERT_EQ(lumiConvert_32f8u_C1R(in.data(), 20, out.data(), 5, LumiSize{5, 1}, sel), 0);
+      ASSERT_EQ(lumiConvert_32f8u_C1R(in, 20, out, 5, LumiSize{5, 1}, sel), 0);
       const unsigned after = _mm_getcsr();
-      if ((sel == lumRndNear ? kNear : kZero) != mode) {
-        EXPECT_EQ(after, before);
-      }
-      EXPECT_EQ(after & ~0x3fu, before & ~0x3fu);
-      std::vector<Lum8u> want = sel == lumRndNear ? std::vector<Lum8u>{2, 4, 0, 255, 0}
-                                                  : std::vector<Lum8u>{2, 3, 0, 255, 0};
-      EXPECT_TRUE(sameElements(out, want));
+      const bool differs = (sel == lumRndNear ? kNear : kZero) != mode;
+      EXPECT_EQ(differs ? after : after & ~0x3fu, differs ? before : before & ~0x3fu);
+      EXPECT_TRUE(sameElements(std::vector<Lum8u>(out, out + 5), {2, Lum8u(sel == lumRndNear ? 4 : 3), 0, 255, 0}));
     }
 }
 
@@ -268,20 +264,8 @@ TEST(Scale, AccuratePathIgnoresTheCallersModeAndFastPathFollowsIt) {
   run(lumiScale_32s8u_C1R, Lum32s{}, 2147483648.0f, kInv32);
 }
 
-TEST(Scale, RangeEnds) {
-  Lum8u in[3] = {0, 128, 255};
-  Lum16s s16[3];
-  Lum32s s32[3];
-  Lum16u u16[3];
-  ASSERT_EQ(lumiScale_8u16s_C1R(in, 3, s16, 6, LumiSize{3, 1}), 0);
-  ASSERT_EQ(lumiScale_8u32s_C1R(in, 3, s32, 12, LumiSize{3, 1}), 0);
-  ASSERT_EQ(lumiScale_8u16u_C1R(in, 3, u16, 6, LumiSize{3, 1}), 0);
-  EXPECT_EQ(s16[0], -32768);
-  EXPECT_EQ(s16[2], 32767);
-  EXPECT_EQ(s32[0], INT32_MIN);
-  EXPECT_EQ(s32[2], INT32_MAX);
-  EXPECT_EQ(u16[2], 65535);
-  Lum32f f[4] = {-1.0f, 0.0f, 0.5f, 2.0f};
+TEST(Scale, FloatRangeKnownValues) {
+  const Lum32f f[4] = {-1.0f, 0.0f, 0.5f, 2.0f};
   Lum8u b[4];
   ASSERT_EQ(lumiScale_32f8u_C1R(f, 16, b, 4, LumiSize{4, 1}, 0.0f, 1.0f), 0);
   EXPECT_TRUE(sameElements(std::vector<Lum8u>(b, b + 4), {0, 0, 128, 255}));  // 127.5 -> 128
@@ -313,60 +297,56 @@ std::vector<int> refDither(const GuardedImage<Lum8u>& src, int threshold) {
   return bits;
 }
 
-TEST(ConvertBits, DitherMatchesReferenceAndKeepsNeighbouringBits) {
+// Both directions on the same random geometry: a bit offset into the first byte, any width.
+TEST(ConvertBits, BytesToBitsByDitheringAndBack) {
   Rng rng = makeRng(4);
   for (int it = 0; it < 40; ++it) {
     LumiSize r = randomSize(rng, 90, 7);
     int off = randInt(rng, 0, 19), thr = it == 0 ? 127 : randInt(rng, 0, 255);
     int bytes = (off + r.width + 7) / 8;
-    GuardedImage<Lum8u> src(r.width, r.height, 1, -1, -1, rng()), dst(bytes, r.height, 1, -1, -1, rng());
-    src.fillRandom(rng);
-    if (it < 2) src.fill([&](int, int, int) { return Lum8u(it ? 255 : 0); });
-    dst.fillRandom(rng);
-    std::vector<Lum8u> want = dst.pixels();
-    std::vector<int> bits = refDither(src, thr);
+    SCOPED_TRACE(::testing::Message() << "offset " << off << " width " << r.width);
+    GuardedImage<Lum8u> bytes8(r.width, r.height, 1, -1, -1, rng()), bits(bytes, r.height, 1, -1, -1, rng());
+    bytes8.fillRandom(rng);
+    if (it < 2) bytes8.fill([&](int, int, int) { return Lum8u(it ? 255 : 0); });
+    bits.fillRandom(rng);
+    std::vector<Lum8u> want = bits.pixels();
+    std::vector<int> dithered = refDither(bytes8, thr);
     for (int y = 0; y < r.height; ++y)
       for (int x = 0; x < r.width; ++x) {
         int b = off + x, i = y * bytes + b / 8, mask = 0x80 >> (b % 8);
-        want[i] = bits[y * r.width + x] ? (want[i] | mask) : (want[i] & ~mask);
+        want[i] = dithered[y * r.width + x] ? (want[i] | mask) : (want[i] & ~mask);
         if (it < 2) {
-          ASSERT_EQ(bits[y * r.width + x], it);  // flat 0: no bits; flat 255: all
+          ASSERT_EQ(dithered[y * r.width + x], it);  // flat 0: no bits; flat 255: all
         }
       }
-    ASSERT_EQ(lumiConvert_8u1u_C1R(src.ptr(), src.step(), dst.ptr(), dst.step(), off, r, Lum8u(thr)), 0);
-    ASSERT_TRUE(dst.guardsIntact());
-    ASSERT_TRUE(sameElements(dst.pixels(), want)) << "offset " << off << " width " << r.width;
-  }
-  Lum8u b[2] = {1, 2}, d[2] = {9, 9};
-  EXPECT_EQ(lumiConvert_8u1u_C1R(nullptr, 1, d, 1, -1, LumiSize{0, 0}, 1), lumStatusNullPtrErr);
-  EXPECT_EQ(lumiConvert_8u1u_C1R(b, 0, d, 0, -1, LumiSize{1, 1}, 1), lumStatusSizeErr);
-  EXPECT_EQ(lumiConvert_8u1u_C1R(b, 0, d, 0, 0, LumiSize{1, 0}, 1), lumStatusSizeErr);
-  EXPECT_EQ(d[0], 9);
-  EXPECT_EQ(lumiConvert_8u1u_C1R(b, 0, d, 0, 0, LumiSize{2, 2}, 1), 0);  // steps are not tested
-}
-
-TEST(ConvertBits, BitsToBytes) {
-  Rng rng = makeRng(5);
-  for (int it = 0; it < 40; ++it) {
-    LumiSize r = randomSize(rng, 90, 7);
-    int off = randInt(rng, 0, 19), bytes = (off + r.width + 7) / 8;
-    GuardedImage<Lum8u> src(bytes, r.height, 1, -1, -1, rng()), dst(r.width, r.height, 1, -1, -1, rng());
-    src.fillRandom(rng);
-    std::vector<Lum8u> want;
+    ASSERT_EQ(lumiConvert_8u1u_C1R(bytes8.ptr(), bytes8.step(), bits.ptr(), bits.step(), off, r, Lum8u(thr)), 0);
+    ASSERT_TRUE(bits.guardsIntact());
+    ASSERT_TRUE(sameElements(bits.pixels(), want));
+    bits.fillRandom(rng);
+    want.clear();
     for (int y = 0; y < r.height; ++y)
       for (int x = 0; x < r.width; ++x)
-        want.push_back((src.at((off + x) / 8, y) << ((off + x) % 8)) & 0x80 ? 255 : 0);
-    ASSERT_EQ(lumiConvert_1u8u_C1R(src.ptr(), src.step(), off, dst.ptr(), dst.step(), r), 0);
-    ASSERT_TRUE(dst.guardsIntact());
-    ASSERT_TRUE(sameElements(dst.pixels(), want)) << "offset " << off;
+        want.push_back((bits.at((off + x) / 8, y) << ((off + x) % 8)) & 0x80 ? 255 : 0);
+    ASSERT_EQ(lumiConvert_1u8u_C1R(bits.ptr(), bits.step(), off, bytes8.ptr(), bytes8.step(), r), 0);
+    ASSERT_TRUE(bytes8.guardsIntact());
+    ASSERT_TRUE(sameElements(bytes8.pixels(), want));
   }
   Lum8u a = 0xA0, d[4] = {7, 7, 7, 7};
   ASSERT_EQ(lumiConvert_1u8u_C1R(&a, 1, 0, d, 4, LumiSize{4, 1}), 0);
   EXPECT_TRUE(sameElements(std::vector<Lum8u>(d, d + 4), {255, 0, 255, 0}));
+}
+
+TEST(ConvertBits, ValidationOrder) {
+  Lum8u a = 0xA0, b[2] = {1, 2}, d[4] = {9, 9, 9, 9};
+  EXPECT_EQ(lumiConvert_8u1u_C1R(nullptr, 1, d, 1, -1, LumiSize{0, 0}, 1), lumStatusNullPtrErr);
+  EXPECT_EQ(lumiConvert_8u1u_C1R(b, 0, d, 0, -1, LumiSize{1, 1}, 1), lumStatusSizeErr);
+  EXPECT_EQ(lumiConvert_8u1u_C1R(b, 0, d, 0, 0, LumiSize{1, 0}, 1), lumStatusSizeErr);
   EXPECT_EQ(lumiConvert_1u8u_C1R(&a, 1, 0, nullptr, 4, LumiSize{0, 1}), lumStatusNullPtrErr);
   EXPECT_EQ(lumiConvert_1u8u_C1R(&a, 0, -1, d, 4, LumiSize{0, 1}), lumStatusSizeErr);
   EXPECT_EQ(lumiConvert_1u8u_C1R(&a, 0, -1, d, 4, LumiSize{4, 1}), lumStatusStepErr);
   EXPECT_EQ(lumiConvert_1u8u_C1R(&a, 1, -1, d, 4, LumiSize{4, 1}), lumStatusSizeErr);
+  EXPECT_TRUE(sameElements(std::vector<Lum8u>(d, d + 4), {9, 9, 9, 9}));
+  EXPECT_EQ(lumiConvert_8u1u_C1R(b, 0, d, 0, 0, LumiSize{2, 2}, 1), 0);  // steps are not tested
 }
 
 #ifdef LUMI_HAVE_OPENCV
