@@ -15,100 +15,139 @@ using lumitest::Rng;
 using lumitest::sameElements;
 
 struct Layout {
-  const char* name;
   int ch, use;  // channels in memory, channels written
 };
-constexpr Layout kC1{"C1", 1, 1}, kC3{"C3", 3, 3}, kC4{"C4", 4, 4}, kAC4{"AC4", 4, 3};
+constexpr Layout kC1{1, 1}, kC3{3, 3}, kC4{4, 4}, kAC4{4, 3};
 
-// A float that is sometimes zero, tiny, huge, infinite or NaN.
-float edgyFloat(Rng& r) {
-  switch (randInt(r, 0, 19)) {
-    case 0: return 0.0f;
-    case 1: return -0.0f;
-    case 2: return INFINITY;
-    case 3: return -INFINITY;
-    case 4: return NAN;
-    case 5: return FLT_MIN / 8;
-    case 6: return FLT_MAX;
-    default: return lumitest::randomValue<float>(r);
-  }
-}
+// Every member of one operation, type and layout behind one shape, indexed by mode:
+// 0 image, 1 image in place (into b), 2 constant (b op v), 3 constant in place (into b).
+template <class T>
+using Call = std::function<LumStatus(const T* a, int sa, T* b, int sb, T* d, int sd, LumiSize,
+                                     const T* v, int sf)>;
+template <class T>
+struct Case {
+  const char* name;
+  int op;  // 0 add, 1 sub, 2 mul, 3 div
+  Layout l;
+  Call<T> run[4];
+};
+// SUF is empty or Sfs, SF appends the scale factor or not; V is how the constant is passed (*v for C1).
+#define CASE(OP, N, TY, T, L, SUF, SF, V)                                                         \
+  Case<T>{#OP "_" #TY "_" #L, N, k##L,                                                            \
+          {[](const T* a, int sa, T* b, int sb, T* d, int sd, LumiSize r, const T* v, int sf) {   \
+             return lumi##OP##_##TY##_##L##R##SUF(a, sa, b, sb, d, sd, SF(r));                     \
+           },                                                                                     \
+           [](const T* a, int sa, T* b, int sb, T*, int, LumiSize r, const T* v, int sf) {        \
+             return lumi##OP##_##TY##_##L##IR##SUF(a, sa, b, sb, SF(r));                           \
+           },                                                                                     \
+           [](const T*, int, T* b, int sb, T* d, int sd, LumiSize r, const T* v, int sf) {        \
+             return lumi##OP##C_##TY##_##L##R##SUF(b, sb, V, d, sd, SF(r));                        \
+           },                                                                                     \
+           [](const T*, int, T* b, int sb, T*, int, LumiSize r, const T* v, int sf) {             \
+             return lumi##OP##C_##TY##_##L##IR##SUF(V, b, sb, SF(r));                              \
+           }}}
+#define WITH_SF(r) r, sf
+#define NO_SF(r) r
+#define CASES3(OP, N, TY, T, SUF, SF) \
+  CASE(OP, N, TY, T, C1, SUF, SF, *v), CASE(OP, N, TY, T, C3, SUF, SF, v), CASE(OP, N, TY, T, AC4, SUF, SF, v)
+#define OPS(M, ...) M(Add, 0, __VA_ARGS__), M(Sub, 1, __VA_ARGS__), M(Mul, 2, __VA_ARGS__), M(Div, 3, __VA_ARGS__)
+#define F32(OP, N, ...) CASES3(OP, N, 32f, float, , NO_SF), CASE(OP, N, 32f, float, C4, , NO_SF, v)
 
 template <class T>
-void fillFloats(GuardedImage<T>& img, Rng& r) {
-  for (int y = 0; y < img.height(); ++y) {
-    float* row = reinterpret_cast<float*>(img.row(y));
-    for (int i = 0; i < img.width() * img.channels() * static_cast<int>(sizeof(T) / 4); ++i)
-      row[i] = edgyFloat(r);
+bool isZero(const T& x) {
+  if constexpr (std::is_arithmetic_v<T>) return x == 0;
+  else return x.re == 0 && x.im == 0;
+}
+template <class T>
+auto flat(const GuardedImage<T>& g) {  // complex pixels as their parts
+  if constexpr (std::is_arithmetic_v<T>) {
+    return g.pixels();
+  } else {
+    std::vector<decltype(T::re)> v;
+    for (const T& c : g.pixels()) v.push_back(c.re), v.push_back(c.im);
+    return v;
   }
 }
 
-float refOp(int op, float x, float y) {  // x is the second operand image, as in src2 - src1
-  switch (op) {
-    case 0: return x + y;
-    case 1: return x - y;
-    case 2: return x * y;
-    default: return x / y;
-  }
-}
-
-// ---- 32f -------------------------------------------------------------------------------------
-using Bin32f = LumStatus (*)(const Lum32f*, int, const Lum32f*, int, Lum32f*, int, LumiSize);
-using BinI32f = LumStatus (*)(const Lum32f*, int, Lum32f*, int, LumiSize);
-struct Bin32fCase {
-  const char* name;
-  int op;
-  Layout l;
-  Bin32f f;
-  BinI32f fi;
-};
-#define BIN32F(OP, N, L) {#OP "_32f_" #L, N, k##L, lumi##OP##_32f_##L##R, lumi##OP##_32f_##L##IR}
-#define BIN32F_ALL(OP, N) BIN32F(OP, N, C1), BIN32F(OP, N, C3), BIN32F(OP, N, C4), BIN32F(OP, N, AC4)
-const Bin32fCase kBin32f[] = {BIN32F_ALL(Add, 0), BIN32F_ALL(Sub, 1), BIN32F_ALL(Mul, 2),
-                              BIN32F_ALL(Div, 3)};
-
-TEST(Float32, ImageImageMatchesIeeeOperations) {
-  Rng rng = makeRng(1);
-  for (const auto& c : kBin32f) {
-    for (int rep = 0; rep < 12; ++rep) {
-      const LumiSize sz = randomSize(rng);
-      const bool inPlace = rep & 1;
-      GuardedImage<float> a(sz.width, sz.height, c.l.ch, -1, -1, rep);
-      GuardedImage<float> b(sz.width, sz.height, c.l.ch, -1, -1, rep + 50);
-      GuardedImage<float> d(sz.width, sz.height, c.l.ch, -1, -1, rep + 99);
-      fillFloats(a, rng);
-      fillFloats(b, rng);
-      fillFloats(d, rng);
-      GuardedImage<float>& out = inPlace ? b : d;
-      std::vector<float> want = out.pixels();
+// Runs every case in every mode on random images: gen(rng) gives elements, genConst(rng, op)
+// the constants, ref(case, constant, second, first, sf) the expected result, where Sub gives
+// second - first and Div second / first. Image division by a zero sample warns.
+template <class T, class Gen, class GenConst, class Ref>
+void checkCases(const std::vector<Case<T>>& cases, uint32_t salt, int reps, LumiSize maxSize,
+                bool scaled, Gen gen, GenConst genConst, Ref ref) {
+  Rng rng = makeRng(salt);
+  for (const auto& c : cases) {
+    for (int rep = 0; rep < reps; ++rep) {
+      const LumiSize sz = randomSize(rng, maxSize.width, maxSize.height);
+      const int mode = rep & 3, pad = rep % 3 == 0 ? 0 : -1;  // unpadded rows too
+      const bool inPlace = mode & 1, constant = mode & 2;
+      const int sf = !scaled ? 0 : rep < 4 ? rep * 17 - 34 : randInt(rng, -40, 40);
+      GuardedImage<T> a(sz.width, sz.height, c.l.ch, pad, -1, rep);
+      GuardedImage<T> b(sz.width, sz.height, c.l.ch, pad, -1, rep + 3);
+      GuardedImage<T> d(sz.width, sz.height, c.l.ch, pad, -1, rep + 5);
+      for (auto* g : {&a, &b, &d}) g->fill([&](int, int, int) { return gen(rng); });
+      T v[4];
+      for (T& x : v) x = genConst(rng, c.op);
+      GuardedImage<T>& out = inPlace ? b : d;
+      GuardedImage<T> want = out;
       bool zero = false;
-      for (int y = 0, i = 0; y < sz.height; ++y)
+      for (int y = 0; y < sz.height; ++y)
         for (int x = 0; x < sz.width; ++x)
-          for (int k = 0; k < c.l.ch; ++k, ++i) {
-            if (k >= c.l.use) continue;
-            zero |= c.op == 3 && a.at(x, y, k) == 0.0f;
-            want[i] = refOp(c.op, b.at(x, y, k), a.at(x, y, k));
+          for (int k = 0; k < c.l.use; ++k) {
+            const T first = constant ? v[k] : a.at(x, y, k);
+            zero |= !constant && c.op == 3 && isZero(first);
+            want.at(x, y, k) = ref(c, constant, b.at(x, y, k), first, sf);
           }
-      LumStatus st = inPlace ? c.fi(a.ptr(), a.step(), b.ptr(), b.step(), sz)
-                             : c.f(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), sz);
-      EXPECT_EQ(st, zero ? lumStatusDivByZeroWarn : lumStatusOk) << c.name;
-      EXPECT_TRUE(sameElements(out.pixels(), want, sz.width * c.l.ch)) << c.name << " in place " << inPlace;
+      const LumStatus st = c.run[mode](a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), sz, v, sf);
+      EXPECT_EQ(st, zero ? lumStatusDivByZeroWarn : lumStatusOk) << c.name << " mode " << mode;
+      EXPECT_TRUE(sameElements(flat(out), flat(want), static_cast<int>(flat(out).size()) / sz.height))
+          << c.name << " mode " << mode << " sf " << sf;
       EXPECT_TRUE(a.guardsIntact() && b.guardsIntact() && d.guardsIntact()) << c.name;
     }
   }
 }
 
+// ---- 32f -------------------------------------------------------------------------------------
+// A float that is sometimes zero, tiny, huge, infinite or NaN.
+float edgyFloat(Rng& r) {
+  const float e[] = {0.0f, -0.0f, INFINITY, -INFINITY, NAN, FLT_MIN / 8, FLT_MAX};
+  const int k = randInt(r, 0, 19);
+  return k < 7 ? e[k] : lumitest::randomValue<float>(r);
+}
+
+float refOp(int op, float x, float y) {
+  return op == 0 ? x + y : op == 1 ? x - y : op == 2 ? x * y : x / y;
+}
+
+const std::vector<Case<float>> kF32 = {OPS(F32, _)};
+
+TEST(Float32, ImagesAndConstantsMatchIeeeOperations) {
+  checkCases<float>(
+      kF32, 1, 24, LumiSize{67, 9}, false, edgyFloat,
+      [](Rng& r, int op) { return op == 3 ? static_cast<float>(randInt(r, 1, 999)) / 7.0f : edgyFloat(r); },
+      // constant division multiplies by the reciprocal
+      [](const Case<float>& c, bool constant, float x, float y, int) {
+        return constant && c.op == 3 ? x * (1.0f / y) : refOp(c.op, x, y);
+      });
+  // the reciprocal, not the quotient: 3 * fl(1/3) is exactly 1, 0.3 * fl(1/3) rounds once
+  float src[2] = {3.0f, 0.3f}, dst[2];
+  ASSERT_EQ(lumiDivC_32f_C1R(src, 8, 3.0f, dst, 8, LumiSize{2, 1}), lumStatusOk);
+  EXPECT_EQ(dst[0], 1.0f);
+  EXPECT_EQ(dst[1], 0.3f * (1.0f / 3.0f));
+}
+
 TEST(Float32, ValidationOrder) {
   float buf[64] = {};
   const LumiSize one{1, 1}, none{0, 1};
-  for (const auto& c : kBin32f) {
-    EXPECT_EQ(c.f(buf, 4, buf, 4, nullptr, 4, none), lumStatusNullPtrErr) << c.name;
-    EXPECT_EQ(c.f(buf, 4, buf, 4, buf, 4, none), lumStatusSizeErr) << c.name;
-    EXPECT_EQ(c.fi(buf, 4, buf, 4, LumiSize{2, -1}), lumStatusSizeErr) << c.name;
+  for (const auto& c : kF32) {
+    const Call<float>&f = c.run[0], &fi = c.run[1];
+    EXPECT_EQ(f(buf, 4, buf, 4, nullptr, 4, none, buf, 0), lumStatusNullPtrErr) << c.name;
+    EXPECT_EQ(f(buf, 4, buf, 4, buf, 4, none, buf, 0), lumStatusSizeErr) << c.name;
+    EXPECT_EQ(fi(buf, 4, buf, 4, nullptr, 0, LumiSize{2, -1}, buf, 0), lumStatusSizeErr) << c.name;
     // only the division tests steps; the others run with a zero step
-    EXPECT_EQ(c.f(buf, 0, buf, 16, buf + 32, 16, one), c.op == 3 ? lumStatusStepErr : lumStatusOk)
-        << c.name;
-    EXPECT_EQ(c.fi(buf, 16, buf + 32, 0, one), c.op == 3 ? lumStatusStepErr : lumStatusOk) << c.name;
+    const LumStatus step = c.op == 3 ? lumStatusStepErr : lumStatusOk;
+    EXPECT_EQ(f(buf, 0, buf + 16, 16, buf + 32, 16, one, buf, 0), step) << c.name;
+    EXPECT_EQ(fi(buf, 16, buf + 32, 0, nullptr, 0, one, buf, 0), step) << c.name;
   }
 }
 
@@ -121,76 +160,27 @@ TEST(Float32, ZeroStepRepeatsTheFirstRow) {
   EXPECT_TRUE(d.guardsIntact());
 }
 
-TEST(Float32, DivisionByZeroWarnsAndKeepsEveryQuotient) {
-  GuardedImage<float> a(9, 5, 1), b(9, 5, 1), d(9, 5, 1);
-  a.fill([](int x, int y, int) { return static_cast<float>(x + y + 1); });
-  b.fill([](int x, int y, int) { return static_cast<float>(x * 3 - 7); });
-  a.at(4, 4) = 0.0f;  // only the last row divides by zero
-  EXPECT_EQ(lumiDiv_32f_C1R(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), d.roi()),
-            lumStatusDivByZeroWarn);
-  for (int y = 0; y < 5; ++y)
-    for (int x = 0; x < 9; ++x) EXPECT_EQ(d.at(x, y), b.at(x, y) / a.at(x, y));
-  EXPECT_EQ(d.at(4, 4), INFINITY);
-  // a zero in the alpha channel of AC4 is not a division
+// A zero divisor in the first or only the last row warns, and every quotient is still written;
+// a zero in the alpha channel of AC4 is not a division.
+TEST(Float32, DivisionByZeroWarnsFromAnyRow) {
+  for (int zeroRow : {0, 4}) {
+    GuardedImage<float> a(9, 5, 1), b(9, 5, 1), d(9, 5, 1);
+    a.fill([](int x, int y, int) { return static_cast<float>(x + y + 1); });
+    b.fill([](int x, int y, int) { return static_cast<float>(x * 3 - 7); });
+    a.at(4, zeroRow) = 0.0f;
+    EXPECT_EQ(lumiDiv_32f_C1R(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), d.roi()),
+              lumStatusDivByZeroWarn);
+    for (int y = 0; y < 5; ++y)
+      for (int x = 0; x < 9; ++x) EXPECT_EQ(d.at(x, y), b.at(x, y) / a.at(x, y));
+    EXPECT_EQ(d.at(4, zeroRow), INFINITY);
+    EXPECT_TRUE(d.guardsIntact());
+  }
   GuardedImage<float> p(3, 2, 4), q(3, 2, 4);
   p.fill([](int, int, int c) { return c == 3 ? 0.0f : 2.0f; });
   q.fill([](int, int, int) { return 1.0f; });
   EXPECT_EQ(lumiDiv_32f_AC4IR(p.ptr(), p.step(), q.ptr(), q.step(), q.roi()), lumStatusOk);
   EXPECT_EQ(q.at(2, 1, 3), 1.0f);
   EXPECT_EQ(q.at(2, 1, 2), 0.5f);
-}
-
-using Const32f = std::function<LumStatus(const float*, int, const float*, float*, int, LumiSize)>;
-using ConstI32f = std::function<LumStatus(const float*, float*, int, LumiSize)>;
-struct Const32fCase {
-  const char* name;
-  int op;
-  Layout l;
-  Const32f f;
-  ConstI32f fi;
-};
-#define C32F_C1(OP, N)                                                                   \
-  {#OP "_32f_C1", N, kC1,                                                                \
-   [](const float* s, int ss, const float* v, float* d, int ds, LumiSize r) {            \
-     return lumi##OP##_32f_C1R(s, ss, v[0], d, ds, r);                                   \
-   },                                                                                    \
-   [](const float* v, float* d, int ds, LumiSize r) { return lumi##OP##_32f_C1IR(v[0], d, ds, r); }}
-#define C32F_N(OP, N, L) {#OP "_32f_" #L, N, k##L, lumi##OP##_32f_##L##R, lumi##OP##_32f_##L##IR}
-#define C32F_ALL(OP, N) C32F_C1(OP, N), C32F_N(OP, N, C3), C32F_N(OP, N, C4), C32F_N(OP, N, AC4)
-const Const32fCase kConst32f[] = {C32F_ALL(AddC, 0), C32F_ALL(SubC, 1), C32F_ALL(MulC, 2),
-                                  C32F_ALL(DivC, 3)};
-
-TEST(Float32, ConstantOperandsAndReciprocalDivision) {
-  Rng rng = makeRng(2);
-  for (const auto& c : kConst32f) {
-    for (int rep = 0; rep < 12; ++rep) {
-      const LumiSize sz = randomSize(rng);
-      const bool inPlace = rep & 1;
-      float v[4];
-      for (float& x : v) x = c.op == 3 ? static_cast<float>(randInt(rng, 1, 999)) / 7.0f : edgyFloat(rng);
-      GuardedImage<float> s(sz.width, sz.height, c.l.ch, -1, -1, rep);
-      GuardedImage<float> d(sz.width, sz.height, c.l.ch, -1, -1, rep + 7);
-      fillFloats(s, rng);
-      fillFloats(d, rng);
-      GuardedImage<float>& out = inPlace ? s : d;
-      std::vector<float> want = out.pixels();
-      for (int y = 0, i = 0; y < sz.height; ++y)
-        for (int x = 0; x < sz.width; ++x)
-          for (int k = 0; k < c.l.ch; ++k, ++i)
-            if (k < c.l.use)
-              want[i] = c.op == 3 ? s.at(x, y, k) * (1.0f / v[k]) : refOp(c.op, s.at(x, y, k), v[k]);
-      LumStatus st = inPlace ? c.fi(v, s.ptr(), s.step(), sz)
-                             : c.f(s.ptr(), s.step(), v, d.ptr(), d.step(), sz);
-      EXPECT_EQ(st, lumStatusOk) << c.name;
-      EXPECT_TRUE(sameElements(out.pixels(), want, sz.width * c.l.ch)) << c.name;
-      EXPECT_TRUE(s.guardsIntact() && d.guardsIntact()) << c.name;
-    }
-  }
-  // the reciprocal, not the quotient: 3 * fl(1/3) is exactly 1, 0.3 * fl(1/3) rounds once
-  float src[2] = {3.0f, 0.3f}, dst[2];
-  ASSERT_EQ(lumiDivC_32f_C1R(src, 8, 3.0f, dst, 8, LumiSize{2, 1}), lumStatusOk);
-  EXPECT_EQ(dst[0], 1.0f);
-  EXPECT_EQ(dst[1], 0.3f * (1.0f / 3.0f));
 }
 
 TEST(Float32, ZeroConstantDivisorWritesNothing) {
@@ -215,48 +205,34 @@ TEST(Float32, ZeroConstantDivisorWritesNothing) {
   EXPECT_TRUE(d.guardsIntact());
 }
 
-// Images without row padding (the step equals the row bytes) give the same results.
-TEST(Float32, UnpaddedRows) {
-  const int w = 7, h = 5;
-  std::vector<float> a(w * h * 4), b(w * h * 4), d(w * h * 4, -1.0f);
-  for (std::size_t i = 0; i < a.size(); ++i) a[i] = static_cast<float>(i) * 0.5f, b[i] = 100.0f - i;
-  ASSERT_EQ(lumiAdd_32f_AC4R(a.data(), w * 16, b.data(), w * 16, d.data(), w * 16, LumiSize{w, h}), lumStatusOk);
-  for (std::size_t i = 0; i < d.size(); ++i) EXPECT_EQ(d[i], i % 4 == 3 ? -1.0f : a[i] + b[i]) << i;
-  const float c[3] = {1.0f, 2.0f, 4.0f};
-  ASSERT_EQ(lumiMulC_32f_C3IR(c, a.data(), w * 12, LumiSize{w, h}), lumStatusOk);
-  for (int i = 0; i < w * h * 3; ++i) EXPECT_EQ(a[i], static_cast<float>(i) * 0.5f * c[i % 3]) << i;
-}
-
 // Images too large to stay in cache take the cache-bypassing store path; rows start at every
 // alignment (odd padding, misaligned first pixel) so its head and tail handling is exercised.
 TEST(Float32, LargeImagesGiveTheSameResults) {
   const int w = 2401, h = 1300;
   GuardedImage<float> a(w, h, 3, 4, 4), b(w, h, 3, 8, 0), d(w, h, 3, 12, 8);
   uint32_t seed = 12345;
-  auto next = [&] {
+  auto next = [&](int, int, int) {
     seed = seed * 1664525u + 1013904223u;
     return static_cast<float>(static_cast<int32_t>(seed) >> 8) / 1024.0f;
   };
-  a.fill([&](int, int, int) { return next(); });
-  b.fill([&](int, int, int) { return next(); });
+  a.fill(next);
+  b.fill(next);
   a.at(1200, 700, 1) = 0.0f;  // one zero divisor inside a vector-aligned stretch
+  auto expectAll = [&](const char* what, const GuardedImage<float>& out, auto want) {
+    for (int y = 0; y < h; ++y)
+      for (int i = 0; i < 3 * w; ++i)
+        if (!(out.row(y)[i] == want(y, i) || (std::isnan(out.row(y)[i]) && std::isnan(want(y, i)))))
+          FAIL() << what << " at row " << y << " element " << i;
+  };
   ASSERT_EQ(lumiDiv_32f_C3R(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), d.roi()),
             lumStatusDivByZeroWarn);
-  for (int y = 0; y < h; ++y)
-    for (int i = 0; i < 3 * w; ++i)
-      if (!(d.row(y)[i] == b.row(y)[i] / a.row(y)[i] || std::isnan(d.row(y)[i])))
-        FAIL() << "Div at row " << y << " element " << i;
+  expectAll("Div", d, [&](int y, int i) { return b.row(y)[i] / a.row(y)[i]; });
   const float c[3] = {0.5f, -3.0f, 7.25f};
   ASSERT_EQ(lumiMulC_32f_C3R(a.ptr(), a.step(), c, d.ptr(), d.step(), d.roi()), lumStatusOk);
-  for (int y = 0; y < h; ++y)
-    for (int i = 0; i < 3 * w; ++i)
-      if (d.row(y)[i] != a.row(y)[i] * c[i % 3]) FAIL() << "MulC at row " << y << " element " << i;
+  expectAll("MulC", d, [&](int y, int i) { return a.row(y)[i] * c[i % 3]; });
   const std::vector<float> before = b.pixels();
   ASSERT_EQ(lumiSub_32f_C3IR(a.ptr(), a.step(), b.ptr(), b.step(), b.roi()), lumStatusOk);
-  for (int y = 0; y < h; ++y)
-    for (int i = 0; i < 3 * w; ++i)
-      if (b.row(y)[i] != before[static_cast<std::size_t>(y) * 3 * w + i] - a.row(y)[i])
-        FAIL() << "Sub at row " << y << " element " << i;
+  expectAll("Sub", b, [&](int y, int i) { return before[static_cast<std::size_t>(y) * 3 * w + i] - a.row(y)[i]; });
   EXPECT_TRUE(a.guardsIntact() && b.guardsIntact() && d.guardsIntact());
 }
 
@@ -279,83 +255,21 @@ Lum32fc refComplex(int op, Lum32fc x, Lum32fc y) {
   }
 }
 
-std::vector<float> parts(const GuardedImage<Lum32fc>& img) {
-  std::vector<float> v;
-  for (const Lum32fc& c : img.pixels()) {
-    v.push_back(c.re);
-    v.push_back(c.im);
-  }
-  return v;
-}
-
-using Bin32fc = LumStatus (*)(const Lum32fc*, int, const Lum32fc*, int, Lum32fc*, int, LumiSize);
-using BinI32fc = LumStatus (*)(const Lum32fc*, int, Lum32fc*, int, LumiSize);
-using Const32fc = std::function<LumStatus(const Lum32fc*, int, const Lum32fc*, Lum32fc*, int, LumiSize)>;
-using ConstI32fc = std::function<LumStatus(const Lum32fc*, Lum32fc*, int, LumiSize)>;
-struct Cplx32Case {
-  const char* name;
-  int op;
-  Layout l;
-  Bin32fc f;
-  BinI32fc fi;
-  Const32fc fc;
-  ConstI32fc fci;
-};
-#define CPLX_C1(OP, N)                                                                           \
-  {#OP "_32fc_C1", N, kC1, lumi##OP##_32fc_C1R, lumi##OP##_32fc_C1IR,                            \
-   [](const Lum32fc* s, int ss, const Lum32fc* v, Lum32fc* d, int ds, LumiSize r) {              \
-     return lumi##OP##C_32fc_C1R(s, ss, v[0], d, ds, r);                                         \
-   },                                                                                            \
-   [](const Lum32fc* v, Lum32fc* d, int ds, LumiSize r) { return lumi##OP##C_32fc_C1IR(v[0], d, ds, r); }}
-#define CPLX_N(OP, N, L)                                                                       \
-  {#OP "_32fc_" #L, N, k##L, lumi##OP##_32fc_##L##R, lumi##OP##_32fc_##L##IR,                  \
-   lumi##OP##C_32fc_##L##R, lumi##OP##C_32fc_##L##IR}
-#define CPLX_ALL(OP, N) CPLX_C1(OP, N), CPLX_N(OP, N, C3), CPLX_N(OP, N, AC4)
-const Cplx32Case kCplx32[] = {CPLX_ALL(Add, 0), CPLX_ALL(Sub, 1), CPLX_ALL(Mul, 2), CPLX_ALL(Div, 3)};
-
 TEST(Complex32, ImageAndConstantOperations) {
-  Rng rng = makeRng(4);
-  for (const auto& c : kCplx32) {
-    for (int rep = 0; rep < 16; ++rep) {
-      const LumiSize sz = randomSize(rng, 37, 5);
-      const bool inPlace = rep & 1, constant = rep & 2;
-      GuardedImage<Lum32fc> a(sz.width, sz.height, c.l.ch, -1, -1, rep);
-      GuardedImage<Lum32fc> b(sz.width, sz.height, c.l.ch, -1, -1, rep + 3);
-      GuardedImage<Lum32fc> d(sz.width, sz.height, c.l.ch, -1, -1, rep + 5);
-      a.fill([&](int, int, int) { return randomComplex(rng); });
-      b.fill([&](int, int, int) { return randomComplex(rng); });
-      d.fill([&](int, int, int) { return randomComplex(rng); });
-      Lum32fc v[4];
-      for (auto& x : v) do x = randomComplex(rng); while (x.re == 0.0f);
-      GuardedImage<Lum32fc>& out = inPlace ? b : d;
-      GuardedImage<Lum32fc> want = out;
-      bool zero = false;
-      for (int y = 0; y < sz.height; ++y)
-        for (int x = 0; x < sz.width; ++x)
-          for (int k = 0; k < c.l.use; ++k) {
-            if (!constant) {
-              zero |= c.op == 3 && a.at(x, y, k).re == 0 && a.at(x, y, k).im == 0;
-              want.at(x, y, k) = refComplex(c.op, b.at(x, y, k), a.at(x, y, k));
-            } else if (c.op == 3 && c.l.ch > 1) {  // through the reciprocal
-              const float inv = 1.0f / (v[k].re * v[k].re + v[k].im * v[k].im);
-              const Lum32fc rec{v[k].re * inv, -v[k].im * inv};
-              want.at(x, y, k) = refComplex(2, b.at(x, y, k), rec);
-            } else {
-              want.at(x, y, k) = refComplex(c.op, b.at(x, y, k), v[k]);
-            }
-          }
-      LumStatus st;
-      if (constant)
-        st = inPlace ? c.fci(v, b.ptr(), b.step(), sz) : c.fc(b.ptr(), b.step(), v, d.ptr(), d.step(), sz);
-      else
-        st = inPlace ? c.fi(a.ptr(), a.step(), b.ptr(), b.step(), sz)
-                     : c.f(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), sz);
-      EXPECT_EQ(st, zero ? lumStatusDivByZeroWarn : lumStatusOk) << c.name;
-      EXPECT_TRUE(sameElements(parts(out), parts(want), 2 * c.l.ch * sz.width))
-          << c.name << (constant ? " constant" : "") << (inPlace ? " in place" : "");
-      EXPECT_TRUE(a.guardsIntact() && b.guardsIntact() && d.guardsIntact()) << c.name;
-    }
-  }
+  checkCases<Lum32fc>(
+      {OPS(CASES3, 32fc, Lum32fc, , NO_SF)}, 4, 16, LumiSize{37, 5}, false, randomComplex,
+      [](Rng& r, int) {
+        Lum32fc x;
+        do x = randomComplex(r); while (x.re == 0.0f);
+        return x;
+      },
+      [](const Case<Lum32fc>& c, bool constant, Lum32fc x, Lum32fc y, int) {
+        if (constant && c.op == 3 && c.l.ch > 1) {  // through the reciprocal
+          const float inv = 1.0f / (y.re * y.re + y.im * y.im);
+          return refComplex(2, x, Lum32fc{y.re * inv, -y.im * inv});
+        }
+        return refComplex(c.op, x, y);
+      });
 }
 
 TEST(Complex32, ValidationAndZeroConstant) {
@@ -363,12 +277,12 @@ TEST(Complex32, ValidationAndZeroConstant) {
   Rng rng = makeRng(5);
   s.fill([&](int, int, int) { return randomComplex(rng); });
   d.fill([&](int, int, int) { return Lum32fc{1.0f, 2.0f}; });
-  const std::vector<float> before = parts(d);
+  const std::vector<float> before = flat(d);
   const Lum32fc bad[3] = {{1, 1}, {0, 0}, {2, 0}};
   EXPECT_EQ(lumiDivC_32fc_C3R(s.ptr(), s.step(), bad, d.ptr(), d.step(), d.roi()), lumStatusDivisorZeroErr);
   EXPECT_EQ(lumiDivC_32fc_AC4IR(bad, d.ptr(), d.step(), LumiSize{3, 3}), lumStatusDivisorZeroErr);
   EXPECT_EQ(lumiDivC_32fc_C1IR(Lum32fc{0, -0.0f}, d.ptr(), d.step(), d.roi()), lumStatusDivisorZeroErr);
-  EXPECT_TRUE(sameElements(parts(d), before));
+  EXPECT_TRUE(sameElements(flat(d), before));
   // every complex member tests steps, after the size
   EXPECT_EQ(lumiAdd_32fc_C1R(s.ptr(), 0, s.ptr(), 8, d.ptr(), 8, LumiSize{1, 1}), lumStatusStepErr);
   EXPECT_EQ(lumiAdd_32fc_C1R(s.ptr(), 0, s.ptr(), 8, d.ptr(), 8, LumiSize{1, 0}), lumStatusSizeErr);
@@ -387,21 +301,13 @@ TEST(Complex32, ProductIsRoundedOnce) {
   EXPECT_EQ(out.im, 0.0f);
 }
 
-// A warning from any row survives the rows after it, in the first-status (32f) and the
-// last-status (complex) division members alike.
+// A warning from an early row survives the rows after it in the complex division members.
 TEST(Complex32, DivisionWarningOfAnEarlyRowIsKept) {
-  GuardedImage<float> a(6, 4, 1), b(6, 4, 1), d(6, 4, 1);
-  a.fill([](int, int y, int) { return y == 0 ? 0.0f : 2.0f; });
-  b.fill([](int x, int, int) { return static_cast<float>(x); });
-  EXPECT_EQ(lumiDiv_32f_C1R(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), d.roi()),
-            lumStatusDivByZeroWarn);
-  EXPECT_EQ(d.at(5, 3), 2.5f);
   GuardedImage<Lum32fc> p(3, 5, 1), q(3, 5, 1);
   p.fill([](int x, int y, int) { return y == 1 && x == 2 ? Lum32fc{0, 0} : Lum32fc{1, 1}; });
   q.fill([](int, int, int) { return Lum32fc{2, 0}; });
   EXPECT_EQ(lumiDiv_32fc_C1IR(p.ptr(), p.step(), q.ptr(), q.step(), q.roi()), lumStatusDivByZeroWarn);
-  EXPECT_EQ(q.at(0, 4).re, 1.0f);
-  EXPECT_EQ(q.at(0, 4).im, -1.0f);
+  EXPECT_TRUE(q.at(0, 4).re == 1.0f && q.at(0, 4).im == -1.0f);
   GuardedImage<Lum16sc> u(3, 5, 3), v(3, 5, 3), w(3, 5, 3);
   u.fill([](int x, int y, int c) { return y == 0 && x == 0 && c == 2 ? Lum16sc{0, 0} : Lum16sc{1, 0}; });
   v.fill([](int, int, int) { return Lum16sc{-7, 9}; });
@@ -409,139 +315,64 @@ TEST(Complex32, DivisionWarningOfAnEarlyRowIsKept) {
             lumStatusDivByZeroWarn);
   EXPECT_TRUE(w.at(0, 0, 2).re == -32768 && w.at(0, 0, 2).im == 32767);
   EXPECT_TRUE(w.at(2, 4, 1).re == -7 && w.at(2, 4, 1).im == 9);
-  EXPECT_TRUE(d.guardsIntact() && q.guardsIntact() && w.guardsIntact());
+  EXPECT_TRUE(q.guardsIntact() && w.guardsIntact());
 }
 
 // ---- 16sc, 32sc with scale factors -----------------------------------------------------------
 // Reference in long double: 64-bit products and their sums are exact there.
 template <class P>
 P refScale(long double v, int sf) {
-  const long double s = std::ldexp(v, -sf);
-  const long double r = std::nearbyint(s);
+  const long double r = std::nearbyint(std::ldexp(v, -sf));
   if (r < std::numeric_limits<P>::min()) return std::numeric_limits<P>::min();
   if (r > std::numeric_limits<P>::max()) return std::numeric_limits<P>::max();
   return static_cast<P>(r);
 }
 
-template <class P>
-void refComplexInt(int op, const P* x, const P* y, P* out, int sf) {
-  const long double a = x[0], b = x[1], c = y[0], d = y[1];
-  if (op == 0) {
-    out[0] = refScale<P>(a + c, sf), out[1] = refScale<P>(b + d, sf);
-  } else if (op == 1) {
-    out[0] = refScale<P>(a - c, sf), out[1] = refScale<P>(b - d, sf);
-  } else if (op == 2) {
-    out[0] = refScale<P>(a * c - b * d, sf), out[1] = refScale<P>(a * d + b * c, sf);
-  } else {
-    const double den = static_cast<double>(c) * static_cast<double>(c) +
-                       static_cast<double>(d) * static_cast<double>(d);
-    const P lo = std::numeric_limits<P>::min(), hi = std::numeric_limits<P>::max();
-    if (den == 0) {
-      out[0] = x[0] > 0 ? hi : x[0] < 0 ? lo : 0;
-      out[1] = x[1] > 0 ? hi : x[1] < 0 ? lo : 0;
-      return;
-    }
-    const double da = x[0], db = x[1], dc = y[0], dd = y[1];
-    out[0] = refScale<P>((da * dc + db * dd) / den, sf);
-    out[1] = refScale<P>((db * dc - da * dd) / den, sf);
-  }
-}
-
-template <class P>
-P randomPart(Rng& r) {
-  switch (randInt(r, 0, 7)) {
-    case 0: return std::numeric_limits<P>::min();
-    case 1: return std::numeric_limits<P>::max();
-    case 2: return static_cast<P>(randInt(r, -3, 3));
-    default: return lumitest::randomValue<P>(r);
-  }
-}
-
 template <class CT>
-struct CintCase {
-  const char* name;
-  int op;
-  Layout l;
-  std::function<LumStatus(const CT*, int, const CT*, int, CT*, int, LumiSize, int)> f;
-  std::function<LumStatus(const CT*, int, CT*, int, LumiSize, int)> fi;
-  std::function<LumStatus(const CT*, int, const CT*, CT*, int, LumiSize, int)> fc;
-  std::function<LumStatus(const CT*, CT*, int, LumiSize, int)> fci;
-};
-#define CINT_C1(OP, N, TY, CT)                                                                   \
-  CintCase<CT>{#OP "_" #TY "_C1", N, kC1, lumi##OP##_##TY##_C1RSfs, lumi##OP##_##TY##_C1IRSfs,   \
-               [](const CT* s, int ss, const CT* v, CT* d, int ds, LumiSize r, int sf) {         \
-                 return lumi##OP##C_##TY##_C1RSfs(s, ss, v[0], d, ds, r, sf);                    \
-               },                                                                                \
-               [](const CT* v, CT* d, int ds, LumiSize r, int sf) {                              \
-                 return lumi##OP##C_##TY##_C1IRSfs(v[0], d, ds, r, sf);                          \
-               }}
-#define CINT_N(OP, N, TY, CT, L)                                                                  \
-  CintCase<CT>{#OP "_" #TY "_" #L, N, k##L, lumi##OP##_##TY##_##L##RSfs,                          \
-               lumi##OP##_##TY##_##L##IRSfs, lumi##OP##C_##TY##_##L##RSfs,                        \
-               lumi##OP##C_##TY##_##L##IRSfs}
-#define CINT_ALL(OP, N, TY, CT) CINT_C1(OP, N, TY, CT), CINT_N(OP, N, TY, CT, C3), CINT_N(OP, N, TY, CT, AC4)
-
-template <class CT>
-void checkComplexInt(const std::vector<CintCase<CT>>& cases, uint32_t salt) {
+CT refComplexInt(int op, CT x, CT y, int sf) {
   using P = decltype(CT::re);
-  Rng rng = makeRng(salt);
-  for (const auto& c : cases) {
-    for (int rep = 0; rep < 24; ++rep) {
-      const LumiSize sz = randomSize(rng, 23, 4);
-      const bool inPlace = rep & 1, constant = rep & 2;
-      const int sf = rep < 4 ? rep * 17 - 34 : randInt(rng, -40, 40);
-      GuardedImage<CT> a(sz.width, sz.height, c.l.ch, -1, -1, rep);
-      GuardedImage<CT> b(sz.width, sz.height, c.l.ch, -1, -1, rep + 3);
-      GuardedImage<CT> d(sz.width, sz.height, c.l.ch, -1, -1, rep + 5);
-      auto rnd = [&](int, int, int) {
-        CT v{randomPart<P>(rng), randomPart<P>(rng)};
-        if (randInt(rng, 0, 9) == 0) v = CT{0, 0};
-        return v;
-      };
-      a.fill(rnd);
-      b.fill(rnd);
-      d.fill(rnd);
-      CT v[4];
-      for (auto& x : v) do x = rnd(0, 0, 0); while (x.re == 0 && x.im == 0);
-      GuardedImage<CT>& out = inPlace ? b : d;
-      GuardedImage<CT> want = out;
-      bool zero = false;
-      for (int y = 0; y < sz.height; ++y)
-        for (int x = 0; x < sz.width; ++x)
-          for (int k = 0; k < c.l.use; ++k) {
-            const CT& yv = constant ? v[k] : a.at(x, y, k);
-            zero |= !constant && c.op == 3 && yv.re == 0 && yv.im == 0;
-            refComplexInt<P>(c.op, &b.at(x, y, k).re, &yv.re, &want.at(x, y, k).re, sf);
-          }
-      LumStatus st;
-      if (constant)
-        st = inPlace ? c.fci(v, b.ptr(), b.step(), sz, sf)
-                     : c.fc(b.ptr(), b.step(), v, d.ptr(), d.step(), sz, sf);
-      else
-        st = inPlace ? c.fi(a.ptr(), a.step(), b.ptr(), b.step(), sz, sf)
-                     : c.f(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), sz, sf);
-      EXPECT_EQ(st, zero ? lumStatusDivByZeroWarn : lumStatusOk) << c.name;
-      const auto got = out.pixels(), exp = want.pixels();
-      for (std::size_t i = 0; i < got.size(); ++i) {
-        ASSERT_TRUE(got[i].re == exp[i].re && got[i].im == exp[i].im)
-            << c.name << " sf " << sf << (constant ? " constant" : "") << " element " << i
-            << ": got " << got[i].re << "," << got[i].im << " want " << exp[i].re << "," << exp[i].im;
-      }
-      EXPECT_TRUE(a.guardsIntact() && b.guardsIntact() && d.guardsIntact()) << c.name;
-    }
+  const long double a = x.re, b = x.im, c = y.re, d = y.im;
+  if (op == 0) return CT{refScale<P>(a + c, sf), refScale<P>(b + d, sf)};
+  if (op == 1) return CT{refScale<P>(a - c, sf), refScale<P>(b - d, sf)};
+  if (op == 2) return CT{refScale<P>(a * c - b * d, sf), refScale<P>(a * d + b * c, sf)};
+  const double dc = y.re, dd = y.im, den = dc * dc + dd * dd, da = x.re, db = x.im;
+  if (den == 0) {  // each part saturates by its sign
+    const P lo = std::numeric_limits<P>::min(), hi = std::numeric_limits<P>::max();
+    return CT{x.re > 0 ? hi : x.re < 0 ? lo : P(0), x.im > 0 ? hi : x.im < 0 ? lo : P(0)};
   }
+  return CT{refScale<P>((da * dc + db * dd) / den, sf), refScale<P>((db * dc - da * dd) / den, sf)};
 }
 
-TEST(ComplexInt, Scaled16scMatchesExactReference) {
-  checkComplexInt<Lum16sc>({CINT_ALL(Add, 0, 16sc, Lum16sc), CINT_ALL(Sub, 1, 16sc, Lum16sc),
-                            CINT_ALL(Mul, 2, 16sc, Lum16sc), CINT_ALL(Div, 3, 16sc, Lum16sc)},
-                           6);
+template <class CT>
+CT randomCint(Rng& r) {
+  using P = decltype(CT::re);
+  auto part = [&]() -> P {
+    switch (randInt(r, 0, 7)) {
+      case 0: return std::numeric_limits<P>::min();
+      case 1: return std::numeric_limits<P>::max();
+      case 2: return static_cast<P>(randInt(r, -3, 3));
+      default: return lumitest::randomValue<P>(r);
+    }
+  };
+  const CT v{part(), part()};
+  return randInt(r, 0, 9) == 0 ? CT{0, 0} : v;
 }
 
-TEST(ComplexInt, Scaled32scMatchesExactReference) {
-  checkComplexInt<Lum32sc>({CINT_ALL(Add, 0, 32sc, Lum32sc), CINT_ALL(Sub, 1, 32sc, Lum32sc),
-                            CINT_ALL(Mul, 2, 32sc, Lum32sc), CINT_ALL(Div, 3, 32sc, Lum32sc)},
-                           7);
+template <class CT>
+void checkComplexInt(const std::vector<Case<CT>>& cases, uint32_t salt) {
+  checkCases<CT>(
+      cases, salt, 24, LumiSize{23, 4}, true, randomCint<CT>,
+      [](Rng& r, int) {
+        CT x;
+        do x = randomCint<CT>(r); while (isZero(x));
+        return x;
+      },
+      [](const Case<CT>& c, bool, CT x, CT y, int sf) { return refComplexInt(c.op, x, y, sf); });
+}
+
+TEST(ComplexInt, ScaledMembersMatchExactReference) {
+  checkComplexInt<Lum16sc>({OPS(CASES3, 16sc, Lum16sc, Sfs, WITH_SF)}, 6);
+  checkComplexInt<Lum32sc>({OPS(CASES3, 32sc, Lum32sc, Sfs, WITH_SF)}, 7);
 }
 
 TEST(ComplexInt, ScaleFactorExamples) {

@@ -3,6 +3,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <climits>
 #include <functional>
 #include <limits>
@@ -18,8 +19,7 @@ enum Op { Add, Sub, Mul, Div };
 // ---- reference ---------------------------------------------------------------------------------
 template <class T>
 int64_t clampTo(int64_t v) {
-  return std::min<int64_t>(std::max<int64_t>(v, std::numeric_limits<T>::min()),
-                           std::numeric_limits<T>::max());
+  return std::clamp<int64_t>(v, std::numeric_limits<T>::min(), std::numeric_limits<T>::max());
 }
 
 // r x 2^-sf, ties to even, by floor division and the remainder.
@@ -38,18 +38,12 @@ int64_t scaleRef(int64_t r, int sf) {
 template <class T>
 T reference(Op op, T first, T second, int sf) {
   if (op == Div) {
-    if (first == 0)
-      return second == 0  ? 0
-             : second > 0 ? std::numeric_limits<T>::max()
-                          : std::numeric_limits<T>::min();
+    if (first == 0) return second == 0 ? 0 : second > 0 ? std::numeric_limits<T>::max() : std::numeric_limits<T>::min();
     // single-precision quotient, scaled, rounded to nearest
-    const float q =
-        float(second) / float(first) * std::ldexp(1.0f, -std::max(-40, std::min(sf, 40)));
+    const float q = float(second) / float(first) * std::ldexp(1.0f, -std::max(-40, std::min(sf, 40)));
     return T(clampTo<T>(int64_t(std::nearbyint(double(q)))));
   }
-  int64_t r = op == Add   ? int64_t(first) + second
-              : op == Mul ? int64_t(first) * second
-                          : int64_t(second) - first;
+  int64_t r = op == Add ? int64_t(first) + second : op == Mul ? int64_t(first) * second : int64_t(second) - first;
   if (std::is_unsigned_v<T> && r < 0) r = 0;
   return T(clampTo<T>(scaleRef(r, sf)));
 }
@@ -85,46 +79,30 @@ template <class T>
 void addMember(const char* opName, Op op, bool isConst, const char* type, const char* layout,
                bool inPlace, decltype(Member<T>::call) f) {
   const std::string l = layout;
-  Member<T> m;
-  m.name = std::string(opName) + "_" + type + "_" + l + (inPlace ? "IRSfs" : "RSfs");
-  m.op = op;
-  m.ch = l == "C1" ? 1 : l == "C3" ? 3 : 4;
-  m.ac4 = l == "AC4";
-  m.inPlace = inPlace;
-  m.isConst = isConst;
-  m.checksSteps = stepChecked(op, type, l, inPlace, isConst);
-  m.forks = l == "C1" && std::string(type) != "16u" && (op == Add || (op == Mul && !isConst));
-  m.call = std::move(f);
-  members<T>().push_back(std::move(m));
+  members<T>().push_back(Member<T>{
+      std::string(opName) + "_" + type + "_" + l + (inPlace ? "IRSfs" : "RSfs"), op,
+      l == "C1" ? 1 : l == "C3" ? 3 : 4, l == "AC4", inPlace, isConst,
+      stepChecked(op, type, l, inPlace, isConst),
+      l == "C1" && std::string(type) != "16u" && (op == Add || (op == Mul && !isConst)), std::move(f)});
 }
 
-#define IMG_L(OP, TC, T, L)                                                                        \
-  addMember<T>(#OP, OP, false, #TC, #L, false,                                                     \
-               [](const T* a, int sa, const T* b, int sb, T* d, int sd, LumiSize r, const T*,      \
-                  int sf) { return lumi##OP##_##TC##_##L##RSfs(a, sa, b, sb, d, sd, r, sf); });    \
-  addMember<T>(#OP, OP, false, #TC, #L, true,                                                      \
-               [](const T* a, int sa, const T*, int, T* d, int sd, LumiSize r, const T*, int sf) { \
-                 return lumi##OP##_##TC##_##L##IRSfs(a, sa, d, sd, r, sf);                         \
-               });
-#define CONST_L(OP, OPC, TC, T, L)                                                              \
+// V is how the constant is passed: *v for C1, v otherwise.
+#define MEMBERS_L(OP, TC, T, L, V)                                                              \
+  addMember<T>(#OP, OP, false, #TC, #L, false,                                                  \
+               [](const T* a, int sa, const T* b, int sb, T* d, int sd, LumiSize r, const T* v, \
+                  int sf) { return lumi##OP##_##TC##_##L##RSfs(a, sa, b, sb, d, sd, r, sf); }); \
+  addMember<T>(#OP, OP, false, #TC, #L, true,                                                   \
+               [](const T* a, int sa, const T*, int, T* d, int sd, LumiSize r, const T* v,      \
+                  int sf) { return lumi##OP##_##TC##_##L##IRSfs(a, sa, d, sd, r, sf); });       \
   addMember<T>(#OP "C", OP, true, #TC, #L, false,                                               \
                [](const T* a, int sa, const T*, int, T* d, int sd, LumiSize r, const T* v,      \
-                  int sf) { return lumi##OPC##_##TC##_##L##RSfs(a, sa, v, d, sd, r, sf); });    \
+                  int sf) { return lumi##OP##C_##TC##_##L##RSfs(a, sa, V, d, sd, r, sf); });    \
   addMember<T>(#OP "C", OP, true, #TC, #L, true,                                                \
                [](const T*, int, const T*, int, T* d, int sd, LumiSize r, const T* v, int sf) { \
-                 return lumi##OPC##_##TC##_##L##IRSfs(v, d, sd, r, sf);                         \
+                 return lumi##OP##C_##TC##_##L##IRSfs(V, d, sd, r, sf);                         \
                });
-#define ALL_L(OP, TC, T)                                                                        \
-  IMG_L(OP, TC, T, C1)                                                                          \
-  IMG_L(OP, TC, T, C3) IMG_L(OP, TC, T, AC4) IMG_L(OP, TC, T, C4)                               \
-      addMember<T>(#OP "C", OP, true, #TC, "C1", false,                                         \
-                   [](const T* a, int sa, const T*, int, T* d, int sd, LumiSize r, const T* v,  \
-                      int sf) { return lumi##OP##C_##TC##_C1RSfs(a, sa, *v, d, sd, r, sf); });  \
-  addMember<T>(#OP "C", OP, true, #TC, "C1", true,                                              \
-               [](const T*, int, const T*, int, T* d, int sd, LumiSize r, const T* v, int sf) { \
-                 return lumi##OP##C_##TC##_C1IRSfs(*v, d, sd, r, sf);                           \
-               });                                                                              \
-  CONST_L(OP, OP##C, TC, T, C3) CONST_L(OP, OP##C, TC, T, AC4) CONST_L(OP, OP##C, TC, T, C4)
+#define ALL_L(OP, TC, T) \
+  MEMBERS_L(OP, TC, T, C1, *v) MEMBERS_L(OP, TC, T, C3, v) MEMBERS_L(OP, TC, T, AC4, v) MEMBERS_L(OP, TC, T, C4, v)
 #define ALL_OPS(TC, T) ALL_L(Add, TC, T) ALL_L(Sub, TC, T) ALL_L(Mul, TC, T) ALL_L(Div, TC, T)
 
 const bool registered = [] {
@@ -139,18 +117,11 @@ TEST(ArithScaled, EveryMemberIsListed) {
   EXPECT_EQ(members<Lum8u>().size() + members<Lum16u>().size() + members<Lum16s>().size(), 192u);
 }
 
-// ---- one call against the reference
-// ---------------------------------------------------------------
+// ---- one call against the reference ----------------------------------------------------------
 template <class T>
 T specialOrRandom(Rng& r) {
-  const T specials[] = {0,
-                        1,
-                        2,
-                        3,
-                        std::numeric_limits<T>::max(),
-                        std::numeric_limits<T>::min(),
-                        T(std::numeric_limits<T>::max() - 1),
-                        T(std::numeric_limits<T>::min() + 1)};
+  using L = std::numeric_limits<T>;
+  const T specials[] = {0, 1, 2, 3, L::max(), L::min(), T(L::max() - 1), T(L::min() + 1)};
   return randInt(r, 0, 3) == 0 ? specials[randInt(r, 0, 7)] : randomValue<T>(r);
 }
 
@@ -171,12 +142,7 @@ struct Setup {
 // destination holds the second image (or the source of the constant forms).
 template <class T>
 std::vector<T> prepare(const Member<T>& m, Setup<T>& s, Rng& rng, int sf, LumStatus* status) {
-  auto fill = [&](GuardedImage<T>& g) {
-    g.fill([&](int, int, int) { return specialOrRandom<T>(rng); });
-  };
-  fill(s.s1);
-  fill(s.s2);
-  fill(s.d);
+  for (auto* g : {&s.s1, &s.s2, &s.d}) g->fill([&](int, int, int) { return specialOrRandom<T>(rng); });
   if (m.inPlace)
     s.d.fill([&](int x, int y, int c) { return m.isConst ? s.s1.at(x, y, c) : s.s2.at(x, y, c); });
   const int nv = m.ch == 1 ? 1 : m.ac4 ? 3 : m.ch;
@@ -185,27 +151,18 @@ std::vector<T> prepare(const Member<T>& m, Setup<T>& s, Rng& rng, int sf, LumSta
   const T same = kind == 0 ? T(0) : kind == 1 ? T(1) : specialOrRandom<T>(rng);
   for (int c = 0; c < nv; ++c) s.vals[c] = kind <= 2 ? same : specialOrRandom<T>(rng);
   std::vector<T> want = s.d.pixels();
-  *status = lumStatusOk;
-  if (m.isConst && m.op == Div)
-    for (int c = 0; c < nv; ++c)
-      if (s.vals[c] == 0) *status = lumStatusDivisorZeroErr;
+  *status = m.isConst && m.op == Div && std::count(s.vals, s.vals + nv, T(0)) ? lumStatusDivisorZeroErr : lumStatusOk;
   if (*status != lumStatusOk) return want;
   std::size_t k = 0;
   for (int y = 0; y < s.d.height(); ++y)
     for (int x = 0; x < s.d.width(); ++x)
       for (int c = 0; c < m.ch; ++c, ++k) {
         if (m.ac4 && c == 3) continue;
-        T first, second;
-        if (m.isConst) {
-          const T src = s.s1.at(x, y, c), v = s.vals[c];
-          // src - value and src / value: the constant is the first operand there
-          first = (m.op == Sub || m.op == Div) ? v : src;
-          second = (m.op == Sub || m.op == Div) ? src : v;
-        } else {
-          first = s.s1.at(x, y, c);
-          second = m.inPlace ? s.d.at(x, y, c) : s.s2.at(x, y, c);
-          if (m.op == Div && first == 0) *status = lumStatusDivByZeroWarn;
-        }
+        // src - value and src / value: the constant is the first operand there
+        const bool swap = m.isConst && (m.op == Sub || m.op == Div);
+        const T other = m.isConst ? s.vals[c] : m.inPlace ? s.d.at(x, y, c) : s.s2.at(x, y, c);
+        const T first = swap ? other : s.s1.at(x, y, c), second = swap ? s.s1.at(x, y, c) : other;
+        if (!m.isConst && m.op == Div && first == 0) *status = lumStatusDivByZeroWarn;
         want[k] = reference<T>(m.op, first, second, sf);
       }
   return want;
@@ -232,9 +189,7 @@ void compareAll(uint32_t salt) {
                    "x" + std::to_string(roi.height));
       ASSERT_EQ(got, want);
       ASSERT_TRUE(sameElements(s.d.pixels(), expect, roi.width * m.ch));
-      ASSERT_TRUE(s.d.guardsIntact());
-      ASSERT_TRUE(s.s1.guardsIntact());
-      ASSERT_TRUE(s.s2.guardsIntact());
+      ASSERT_TRUE(s.d.guardsIntact() && s.s1.guardsIntact() && s.s2.guardsIntact());
     }
   }
 }
@@ -262,32 +217,25 @@ TEST(ArithScaled, EightBitDivisionRoundsExactQuotientsToEven) {
 
 TEST(ArithScaled, DocumentedValues) {
   using F8 = LumStatus (*)(const Lum8u*, int, const Lum8u*, int, Lum8u*, int, LumiSize, int);
-  struct Case8 {
-    F8 f;
-    Lum8u first, second;
-    int sf, want;
-  };
-  const Case8 cases[] = {
-      {lumiAdd_8u_C1RSfs, 200, 100, 0, 255}, {lumiAdd_8u_C1RSfs, 200, 100, 1, 150},
-      {lumiAdd_8u_C1RSfs, 1, 2, 1, 2},       {lumiAdd_8u_C1RSfs, 2, 3, 1, 2},
-      {lumiAdd_8u_C1RSfs, 255, 255, 9, 1},   {lumiAdd_8u_C1RSfs, 255, 255, 10, 0},
-      {lumiAdd_8u_C1RSfs, 0, 0, -8, 0},      {lumiAdd_8u_C1RSfs, 0, 1, -8, 255},
-      {lumiAdd_8u_C1RSfs, 0, 1, -7, 128},    {lumiSub_8u_C1RSfs, 10, 3, 0, 0},
-      {lumiSub_8u_C1RSfs, 3, 10, 0, 7},      {lumiMul_8u_C1RSfs, 255, 255, 8, 254},
-      {lumiMul_8u_C1RSfs, 255, 255, 4, 255}, {lumiMul_8u_C1RSfs, 6, 1, 2, 2},
-      {lumiMul_8u_C1RSfs, 10, 1, 2, 2},      {lumiMul_8u_C1RSfs, 7, 1, 1, 4}};
+  const F8 fns[] = {lumiAdd_8u_C1RSfs, lumiSub_8u_C1RSfs, lumiMul_8u_C1RSfs};
+  struct Case8 { Op op; Lum8u first, second; int sf, want; };
+  const Case8 cases[] = {{Add, 200, 100, 0, 255}, {Add, 200, 100, 1, 150}, {Add, 1, 2, 1, 2},
+                         {Add, 2, 3, 1, 2},       {Add, 255, 255, 9, 1},   {Add, 255, 255, 10, 0},
+                         {Add, 0, 0, -8, 0},      {Add, 0, 1, -8, 255},    {Add, 0, 1, -7, 128},
+                         {Sub, 10, 3, 0, 0},      {Sub, 3, 10, 0, 7},      {Mul, 255, 255, 8, 254},
+                         {Mul, 255, 255, 4, 255}, {Mul, 6, 1, 2, 2},       {Mul, 10, 1, 2, 2},
+                         {Mul, 7, 1, 1, 4}};
   for (const Case8& c : cases) {
     Lum8u d = 99;
-    EXPECT_EQ(c.f(&c.first, 1, &c.second, 1, &d, 1, {1, 1}, c.sf), 0);
-    EXPECT_EQ(d, c.want) << int(c.first) << ", " << int(c.second) << " sf " << c.sf;
+    EXPECT_EQ(fns[c.op](&c.first, 1, &c.second, 1, &d, 1, {1, 1}, c.sf), 0);
+    EXPECT_EQ(d, c.want) << c.op << ": " << int(c.first) << ", " << int(c.second) << " sf " << c.sf;
   }
   // 16u products need 33 bits before rounding at the largest scale factor; 17 elements reach
   // the vector kernels
   std::vector<Lum16u> p(17, 65535), q(17, 65535), r(17, 7);
   q[16] = 32768;  // 2^31 - 32768: just under a half
   EXPECT_EQ(lumiMul_16u_C1RSfs(p.data(), 34, q.data(), 34, r.data(), 34, {17, 1}, 32), 0);
-  EXPECT_EQ(r[0], 1);
-  EXPECT_EQ(r[16], 0);
+  EXPECT_TRUE(r[0] == 1 && r[16] == 0);
   Lum16s s = -32768, t = -32768, u = 0;
   EXPECT_EQ(lumiMul_16s_C1RSfs(&s, 2, &t, 2, &u, 2, {1, 1}, 30), 0);
   EXPECT_EQ(u, 1);
@@ -297,21 +245,16 @@ TEST(ArithScaled, DocumentedValues) {
 
 // ---- division by zero ------------------------------------------------------------------------
 TEST(ArithScaled, ImageDivisionByZeroIsAWarningWithDefinedValues) {
+  auto ints = [](const auto* p, int n) { return std::vector<int>(p, p + n); };
   Lum8u div8[4] = {0, 0, 2, 2}, num8[4] = {7, 0, 5, 7}, out8[4];
   EXPECT_EQ(lumiDiv_8u_C1RSfs(div8, 4, num8, 4, out8, 4, {4, 1}, 0), lumStatusDivByZeroWarn);
-  EXPECT_EQ(out8[0], 255);
-  EXPECT_EQ(out8[1], 0);
-  EXPECT_EQ(out8[2], 2);  // 2.5 to even
-  EXPECT_EQ(out8[3], 4);  // 3.5 to even
+  EXPECT_EQ(ints(out8, 4), (std::vector<int>{255, 0, 2, 4}));  // 2.5 and 3.5 to even
   Lum16s div16[3] = {0, 0, 0}, num16[3] = {5, -5, 0};
   EXPECT_EQ(lumiDiv_16s_C1IRSfs(div16, 6, num16, 6, {3, 1}, -40), lumStatusDivByZeroWarn);
-  EXPECT_EQ(num16[0], 32767);
-  EXPECT_EQ(num16[1], -32768);
-  EXPECT_EQ(num16[2], 0);
+  EXPECT_EQ(ints(num16, 3), (std::vector<int>{32767, -32768, 0}));
   Lum16u du[2] = {0, 3}, nu[2] = {9, 9}, ou[2];
   EXPECT_EQ(lumiDiv_16u_C1RSfs(du, 4, nu, 4, ou, 4, {2, 1}, 20), lumStatusDivByZeroWarn);
-  EXPECT_EQ(ou[0], 65535);
-  EXPECT_EQ(ou[1], 0);
+  EXPECT_EQ(ints(ou, 2), (std::vector<int>{65535, 0}));
 
   // a zero divisor only in the last row still reports, and every row is written
   GuardedImage<Lum8u> a(19, 6, 1), b(19, 6, 1), d(19, 6, 1);
@@ -327,12 +270,10 @@ TEST(ArithScaled, ImageDivisionByZeroIsAWarningWithDefinedValues) {
   GuardedImage<Lum8u> a4(5, 2, 4), b4(5, 2, 4), d4(5, 2, 4);
   a4.fill([](int, int, int c) { return Lum8u(c == 3 ? 0 : 2); });
   b4.fill([](int, int, int c) { return Lum8u(10 + c); });
-  EXPECT_EQ(lumiDiv_8u_AC4RSfs(a4.ptr(), a4.step(), b4.ptr(), b4.step(), d4.ptr(), d4.step(),
-                               a4.roi(), 0),
-            lumStatusOk);
-  EXPECT_EQ(lumiDiv_8u_AC4IRSfs(a4.ptr(), a4.step(), b4.ptr(), b4.step(), b4.roi(), 0),
-            lumStatusOk);
+  EXPECT_EQ(lumiDiv_8u_AC4RSfs(a4.ptr(), a4.step(), b4.ptr(), b4.step(), d4.ptr(), d4.step(), a4.roi(), 0), 0);
+  EXPECT_EQ(lumiDiv_8u_AC4IRSfs(a4.ptr(), a4.step(), b4.ptr(), b4.step(), b4.roi(), 0), 0);
   EXPECT_EQ(b4.at(4, 1, 3), 13);
+  EXPECT_TRUE(d4.guardsIntact() && b4.guardsIntact());
 }
 
 TEST(ArithScaled, DivisionFollowsTheCallersRoundingMode) {
@@ -340,11 +281,9 @@ TEST(ArithScaled, DivisionFollowsTheCallersRoundingMode) {
   const unsigned old = lum_set_rc_ssx(0x6000);  // toward zero
   EXPECT_EQ(lumiDiv_8u_C1RSfs(div, 2, num, 2, out, 2, {2, 1}, 0), 0);
   lum_set_cw_ssx(old);
-  EXPECT_EQ(out[0], 3);
-  EXPECT_EQ(out[1], 2);
+  EXPECT_TRUE(out[0] == 3 && out[1] == 2);
   EXPECT_EQ(lumiDiv_8u_C1RSfs(div, 2, num, 2, out, 2, {2, 1}, 0), 0);
-  EXPECT_EQ(out[0], 4);
-  EXPECT_EQ(out[1], 2);
+  EXPECT_TRUE(out[0] == 4 && out[1] == 2);
 }
 
 // ---- validation ---------------------------------------------------------------------------------
@@ -363,37 +302,25 @@ void validation() {
                     const T* v) { return m.call(s1, st1, s2, st2, dst, dstep, r, v, 0); };
     // pointers first, even before a bad size
     EXPECT_EQ(call(a.ptr(), a.step(), b.ptr(), b.step(), nullptr, d.step(), empty, ones), -8);
-    if (!m.isConst || !m.inPlace) {
-      EXPECT_EQ(call(nullptr, a.step(), b.ptr(), b.step(), d.ptr(), d.step(), roi, ones), -8);
-    }
-    if (!m.isConst && !m.inPlace) {
-      EXPECT_EQ(call(a.ptr(), a.step(), nullptr, b.step(), d.ptr(), d.step(), roi, ones), -8);
-    }
-    if (m.isConst && m.ch > 1) {
-      EXPECT_EQ(call(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), roi, nullptr), -8);
-    }
+    if (!m.isConst || !m.inPlace) { EXPECT_EQ(call(nullptr, a.step(), b.ptr(), b.step(), d.ptr(), d.step(), roi, ones), -8); }
+    if (!m.isConst && !m.inPlace) { EXPECT_EQ(call(a.ptr(), a.step(), nullptr, b.step(), d.ptr(), d.step(), roi, ones), -8); }
+    if (m.isConst && m.ch > 1) { EXPECT_EQ(call(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), roi, nullptr), -8); }
     // sizes before steps
     EXPECT_EQ(call(a.ptr(), 0, b.ptr(), 0, d.ptr(), 0, {3, 0}, ones), -6);
     EXPECT_EQ(call(a.ptr(), -1, b.ptr(), -1, d.ptr(), -1, {0, 3}, ones), -6);
     const std::vector<T> before = d.pixels();
     // steps only where the member checks them, the constant divisor after the steps
+    const int stepErr = m.checksSteps ? -14 : 0;
     if (!m.inPlace) {
-      EXPECT_EQ(call(a.ptr(), 0, b.ptr(), b.step(), d.ptr(), d.step(), roi, ones),
-                m.checksSteps ? -14 : 0);
-      if (!m.isConst) {
-        EXPECT_EQ(call(a.ptr(), a.step(), b.ptr(), 0, d.ptr(), d.step(), roi, ones),
-                  m.checksSteps ? -14 : 0);
-      }
+      EXPECT_EQ(call(a.ptr(), 0, b.ptr(), b.step(), d.ptr(), d.step(), roi, ones), stepErr);
+      if (!m.isConst) { EXPECT_EQ(call(a.ptr(), a.step(), b.ptr(), 0, d.ptr(), d.step(), roi, ones), stepErr); }
+    } else if (m.isConst) {
+      EXPECT_EQ(call(a.ptr(), 0, b.ptr(), 0, d.ptr(), d.step(), roi, ones), 0);
+      EXPECT_EQ(call(nullptr, 0, nullptr, 0, d.ptr(), 0, roi, ones), stepErr);
     } else {
-      EXPECT_EQ(call(a.ptr(), 0, b.ptr(), 0, d.ptr(), d.step(), roi, ones),
-                m.checksSteps && !m.isConst ? -14 : 0);
-      if (m.isConst) {
-        EXPECT_EQ(call(nullptr, 0, nullptr, 0, d.ptr(), 0, roi, ones), m.checksSteps ? -14 : 0);
-      }
+      EXPECT_EQ(call(a.ptr(), 0, b.ptr(), 0, d.ptr(), d.step(), roi, ones), stepErr);
     }
-    if (m.checksSteps) {
-      EXPECT_TRUE(sameElements(d.pixels(), before));
-    }
+    if (m.checksSteps) { EXPECT_TRUE(sameElements(d.pixels(), before)); }
     if (m.op == Div && m.isConst) {
       d.fill([](int, int, int) { return T(9); });
       const std::vector<T> nines = d.pixels();
@@ -423,11 +350,9 @@ void zeroSourceStep() {
     a.fillRandom(rng);
     b.fill([&](int, int, int) { return T(randInt(rng, 1, 100)); });
     const T vals[4] = {3, 5, 7, 9};
-    const LumStatus s0 =
-        m.call(a.ptr(), 0, b.ptr(), b.step(), d0.ptr(), d0.step(), a.roi(), vals, 1);
+    const LumStatus s0 = m.call(a.ptr(), 0, b.ptr(), b.step(), d0.ptr(), d0.step(), a.roi(), vals, 1);
     a.fill([&](int x, int, int c) { return a.at(x, 0, c); });
-    const LumStatus s1 =
-        m.call(a.ptr(), a.step(), b.ptr(), b.step(), d1.ptr(), d1.step(), a.roi(), vals, 1);
+    const LumStatus s1 = m.call(a.ptr(), a.step(), b.ptr(), b.step(), d1.ptr(), d1.step(), a.roi(), vals, 1);
     EXPECT_EQ(s0, s1);
     std::vector<T> p0 = d0.pixels(), p1 = d1.pixels();
     for (std::size_t i = 3; m.ac4 && i < p0.size(); i += 4) p0[i] = p1[i] = 0;
@@ -440,9 +365,8 @@ TEST(ArithScaled, UncheckedZeroStepsAreUsedAsTheyAre) {
   zeroSourceStep<Lum16s>();
 }
 
-// ---- shortcuts
-// --------------------------------------------------------------------------------------- Memory
-// that faults when touched: a source pointer into it proves that nothing is read.
+// ---- shortcuts ---------------------------------------------------------------------------------
+// Memory that faults when touched: a source pointer into it proves that nothing is read.
 struct Untouchable {
   void* base;
   long page = sysconf(_SC_PAGESIZE);
@@ -457,42 +381,31 @@ struct Untouchable {
 TEST(ArithScaled, ZeroFillReadsNoSourceAndKeepsAlpha) {
   Untouchable u;
   ASSERT_NE(u.base, MAP_FAILED);
+  const Lum8u* n8 = u.ptr<Lum8u>();
   GuardedImage<Lum8u> d8(23, 5, 1), d4(7, 3, 4);
   GuardedImage<Lum16u> d16(11, 4, 3);
   GuardedImage<Lum16s> s16(9, 2, 1);
-  d8.fill([](int, int, int) { return Lum8u(77); });
-  EXPECT_EQ(
-      lumiAdd_8u_C1RSfs(u.ptr<Lum8u>(), 1, u.ptr<Lum8u>(), 1, d8.ptr(), d8.step(), d8.roi(), 10),
-      0);
-  EXPECT_TRUE(sameElements(d8.pixels(), std::vector<Lum8u>(23 * 5, 0)));
-  d8.fill([](int, int, int) { return Lum8u(77); });
-  EXPECT_EQ(lumiMulC_8u_C1RSfs(u.ptr<Lum8u>(), 1, 0, d8.ptr(), d8.step(), d8.roi(), -3), 0);
-  EXPECT_TRUE(sameElements(d8.pixels(), std::vector<Lum8u>(23 * 5, 0)));
-  EXPECT_EQ(
-      lumiSub_8u_C1RSfs(u.ptr<Lum8u>(), 1, u.ptr<Lum8u>(), 1, d8.ptr(), d8.step(), d8.roi(), 9), 0);
-  EXPECT_EQ(lumiSub_16u_C3RSfs(u.ptr<Lum16u>(), 0, u.ptr<Lum16u>(), 0, d16.ptr(), d16.step(),
-                               d16.roi(), 17),
-            0);
-  EXPECT_EQ(lumiMul_16s_C1IRSfs(u.ptr<Lum16s>(), 2, s16.ptr(), s16.step(), s16.roi(), 31), 0);
-  EXPECT_TRUE(sameElements(s16.pixels(), std::vector<Lum16s>(9 * 2, 0)));
+  auto zeroed = [](auto& img, int keep, const std::function<LumStatus()>& call) {  // keep: alpha
+    img.fill([&](int, int, int) { return keep; });
+    EXPECT_EQ(call(), 0);
+    for (int y = 0; y < img.height(); ++y)
+      for (int x = 0; x < img.width(); ++x)
+        for (int c = 0; c < img.channels(); ++c) EXPECT_EQ(img.at(x, y, c), c == 3 ? keep : 0);
+  };
+  zeroed(d8, 77, [&] { return lumiAdd_8u_C1RSfs(n8, 1, n8, 1, d8.ptr(), d8.step(), d8.roi(), 10); });
+  zeroed(d8, 77, [&] { return lumiMulC_8u_C1RSfs(n8, 1, 0, d8.ptr(), d8.step(), d8.roi(), -3); });
+  zeroed(d8, 77, [&] { return lumiSub_8u_C1RSfs(n8, 1, n8, 1, d8.ptr(), d8.step(), d8.roi(), 9); });
+  zeroed(d16, 5, [&] {
+    return lumiSub_16u_C3RSfs(u.ptr<Lum16u>(), 0, u.ptr<Lum16u>(), 0, d16.ptr(), d16.step(), d16.roi(), 17);
+  });
+  zeroed(s16, -4, [&] { return lumiMul_16s_C1IRSfs(u.ptr<Lum16s>(), 2, s16.ptr(), s16.step(), s16.roi(), 31); });
   // the fill keeps every alpha
-  d4.fill([](int, int, int) { return Lum8u(200); });
-  EXPECT_EQ(
-      lumiAdd_8u_AC4RSfs(u.ptr<Lum8u>(), 4, u.ptr<Lum8u>(), 4, d4.ptr(), d4.step(), d4.roi(), 12),
-      0);
+  zeroed(d4, 200, [&] { return lumiAdd_8u_AC4RSfs(n8, 4, n8, 4, d4.ptr(), d4.step(), d4.roi(), 12); });
   const Lum8u zero3[3] = {0, 0, 0};
-  d4.fill([](int, int, int) { return Lum8u(200); });
-  EXPECT_EQ(lumiMulC_8u_AC4IRSfs(zero3, d4.ptr(), d4.step(), d4.roi(), 0), 0);
-  for (int y = 0; y < 3; ++y)
-    for (int x = 0; x < 7; ++x)
-      for (int c = 0; c < 4; ++c) EXPECT_EQ(d4.at(x, y, c), c == 3 ? 200 : 0);
+  zeroed(d4, 200, [&] { return lumiMulC_8u_AC4IRSfs(zero3, d4.ptr(), d4.step(), d4.roi(), 0); });
   // the fill refuses a destination step below one, whatever the member checks otherwise
-  EXPECT_EQ(lumiAdd_8u_C1RSfs(u.ptr<Lum8u>(), 1, u.ptr<Lum8u>(), 1, d8.ptr(), 0, d8.roi(), 10),
-            -14);
-  EXPECT_TRUE(d8.guardsIntact());
-  EXPECT_TRUE(d4.guardsIntact());
-  EXPECT_TRUE(d16.guardsIntact());
-  EXPECT_TRUE(s16.guardsIntact());
+  EXPECT_EQ(lumiAdd_8u_C1RSfs(n8, 1, n8, 1, d8.ptr(), 0, d8.roi(), 10), -14);
+  EXPECT_TRUE(d8.guardsIntact() && d4.guardsIntact() && d16.guardsIntact() && s16.guardsIntact());
 }
 
 // ---- threads ------------------------------------------------------------------------------------
@@ -512,8 +425,7 @@ void threadsAgree() {
       threads_omp_of_n_lum = 1;
       ASSERT_EQ(s.run(m, roi, sf), want);
       const std::vector<T> one = s.d.pixels();
-      s.d.fill(
-          [&](int x, int y, int c) { return start[(std::size_t(y) * roi.width + x) * m.ch + c]; });
+      s.d.fill([&](int x, int y, int c) { return start[(std::size_t(y) * roi.width + x) * m.ch + c]; });
       threads_omp_of_n_lum = 2;
       ASSERT_EQ(s.run(m, roi, sf), want);
       EXPECT_TRUE(sameElements(s.d.pixels(), one));
