@@ -25,31 +25,27 @@ struct LutFn {
   int used() const { return alpha ? 3 : ch; }
 };
 
-#define C1_FN(OP, K, TT, T, P)                                                                \
-  LutFn<T, P> {                                                                               \
-    K, 1, false, #OP "_" #TT "_C1",                                                           \
-        [](const T* s, int ss, T* d, int ds, LumiSize r, const P* const* v, const P* const* l, \
-           const int* n) { return lumi##OP##_##TT##_C1R(s, ss, d, ds, r, v[0], l[0], n[0]); }, \
-        [](T* p, int st, LumiSize r, const P* const* v, const P* const* l, const int* n) {     \
-          return lumi##OP##_##TT##_C1IR(p, st, r, v[0], l[0], n[0]);                          \
-        }                                                                                     \
-  }
-#define CN_FN(OP, K, TT, T, P, LAY, CH, AL)                                                   \
-  LutFn<T, P> {                                                                               \
-    K, CH, AL, #OP "_" #TT "_" #LAY,                                                          \
-        [](const T* s, int ss, T* d, int ds, LumiSize r, const P* const* v, const P* const* l, \
-           const int* n) { return lumi##OP##_##TT##_##LAY##R(s, ss, d, ds, r, v, l, n); },     \
-        [](T* p, int st, LumiSize r, const P* const* v, const P* const* l, const int* n) {     \
-          return lumi##OP##_##TT##_##LAY##IR(p, st, r, v, l, n);                              \
-        }                                                                                     \
-  }
-#define KIND_FNS(OP, K, TT, T, P)                                                       \
-  C1_FN(OP, K, TT, T, P), CN_FN(OP, K, TT, T, P, C3, 3, false),                          \
-      CN_FN(OP, K, TT, T, P, C4, 4, false), CN_FN(OP, K, TT, T, P, AC4, 4, true)
-#define TYPE_FNS(TT, T, P)                                                                  \
-  std::vector<LutFn<T, P>> {                                                                \
-    KIND_FNS(LUT, kStep, TT, T, P), KIND_FNS(LUT_Linear, kLinear, TT, T, P),                \
-        KIND_FNS(LUT_Cubic, kCubic, TT, T, P)                                               \
+// The C1 forms take one table; the table of a layout with more channels is an array.
+template <class T, class P>
+auto one(LumStatus (*f)(const T*, int, T*, int, LumiSize, const P*, const P*, int)) {
+  return [f](const T* s, int ss, T* d, int ds, LumiSize r, const P* const* v, const P* const* l,
+             const int* n) { return f(s, ss, d, ds, r, v[0], l[0], n[0]); };
+}
+template <class T, class P>
+auto one(LumStatus (*f)(T*, int, LumiSize, const P*, const P*, int)) {
+  return [f](T* p, int st, LumiSize r, const P* const* v, const P* const* l, const int* n) {
+    return f(p, st, r, v[0], l[0], n[0]);
+  };
+}
+#define LAYOUT_FN(OP, K, TT, L, CH, AL) \
+  {K, CH, AL, #OP "_" #TT "_" #L, lumi##OP##_##TT##_##L##R, lumi##OP##_##TT##_##L##IR}
+#define KIND_FNS(OP, K, TT)                                                                  \
+  {K, 1, false, #OP "_" #TT "_C1", one(lumi##OP##_##TT##_C1R), one(lumi##OP##_##TT##_C1IR)}, \
+      LAYOUT_FN(OP, K, TT, C3, 3, false), LAYOUT_FN(OP, K, TT, C4, 4, false),                \
+      LAYOUT_FN(OP, K, TT, AC4, 4, true)
+#define TYPE_FNS(TT, T, P)                                                                    \
+  std::vector<LutFn<T, P>> {                                                                  \
+    KIND_FNS(LUT, kStep, TT), KIND_FNS(LUT_Linear, kLinear, TT), KIND_FNS(LUT_Cubic, kCubic, TT) \
   }
 
 template <class T>
