@@ -2,7 +2,7 @@
 // closed forms for a centred rectangle and a single pixel, Hu invariants.
 #include <cmath>
 #include <cstring>
-#include <functional>
+#include <type_traits>
 #include <vector>
 
 #include "lumi.h"
@@ -12,16 +12,37 @@ using namespace lumitest;
 
 namespace {
 
-struct State64f {
-  LumiMomentState_64f* p = nullptr;
-  State64f() { EXPECT_EQ(lumiMomentInitAlloc_64f(&p, lumHintAccurate), 0); }
-  ~State64f() { EXPECT_EQ(lumiMomentFree_64f(p), 0); }
+// A heap state of either kind, freed (successfully) at scope exit.
+template <class S, LumStatus (*kAlloc)(S**, LumAccuracyHint), LumStatus (*kFree)(S*), int kHint>
+struct State {
+  S* p = nullptr;
+  State() { EXPECT_EQ(kAlloc(&p, kHint), 0); }
+  ~State() { EXPECT_EQ(kFree(p), 0); }
 };
-struct State64s {
-  LumiMomentState_64s* p = nullptr;
-  State64s() { EXPECT_EQ(lumiMomentInitAlloc_64s(&p, lumHintNone), 0); }
-  ~State64s() { EXPECT_EQ(lumiMomentFree_64s(p), 0); }
+using State64f = State<LumiMomentState_64f, lumiMomentInitAlloc_64f, lumiMomentFree_64f, lumHintAccurate>;
+using State64s = State<LumiMomentState_64s, lumiMomentInitAlloc_64s, lumiMomentFree_64s, lumHintNone>;
+
+// The queries of either state kind under one name.
+template <class S>
+struct Q {
+  static constexpr auto sp = lumiGetSpatialMoment_64f, nsp = lumiGetNormalizedSpatialMoment_64f;
+  static constexpr auto ce = lumiGetCentralMoment_64f, nce = lumiGetNormalizedCentralMoment_64f;
+  static constexpr auto hu = lumiGetHuMoments_64f;
 };
+template <>
+struct Q<LumiMomentState_64s> {
+  static constexpr auto sp = lumiGetSpatialMoment_64s, nsp = lumiGetNormalizedSpatialMoment_64s;
+  static constexpr auto ce = lumiGetCentralMoment_64s, nce = lumiGetNormalizedCentralMoment_64s;
+  static constexpr auto hu = lumiGetHuMoments_64s;
+};
+
+// Calls a query that writes one value; the status must be 0.
+template <class F, class... A>
+Lum64f get(F fn, A... args) {
+  Lum64f v = NAN;
+  EXPECT_EQ(fn(args..., &v), 0);
+  return v;
+}
 
 long double ipow(long double b, int e) {
   long double r = 1;
@@ -38,48 +59,50 @@ long double directMoment(const GuardedImage<T>& im, int c, int i, int j, long do
   return s;
 }
 
-void expectClose(double got, long double want, const char* what, int i, int j) {
-  long double tol = 1e-9L * std::fabs(want) + 1e-6L;
-  EXPECT_LE(std::fabs(got - want), tol) << what << " (" << i << ", " << j << ")";
+// Hu's seven invariants in their published order from normalised central moments n[i][j]. With
+// `bound`, every difference becomes a sum of magnitudes: the size of the terms, which bounds
+// the rounding a computed value may carry.
+std::vector<long double> huOf(const long double n[4][4], bool bound) {
+  auto sub = [&](long double x, long double y) { return bound ? std::fabs(x) + std::fabs(y) : x - y; };
+  auto add = [&](long double x, long double y) { return bound ? std::fabs(x) + std::fabs(y) : x + y; };
+  const long double p = sub(n[3][0], 3 * n[1][2]), q = sub(3 * n[2][1], n[0][3]), a = add(n[3][0], n[1][2]),
+                    b = add(n[2][1], n[0][3]), d = sub(n[2][0], n[0][2]), n11 = n[1][1];
+  return {add(n[2][0], n[0][2]), add(d * d, 4 * n11 * n11), add(p * p, q * q), add(a * a, b * b),
+          add(p * a * sub(a * a, 3 * b * b), q * b * sub(3 * a * a, b * b)), add(d * sub(a * a, b * b), 4 * n11 * a * b),
+          sub(q * a * sub(a * a, 3 * b * b), p * b * sub(3 * a * a, b * b))};
 }
 
-// Checks every query of every channel of a filled 64f state against direct sums.
-template <class T, class Get>
-void checkAgainstDirect(const GuardedImage<T>& im, int use, Get* state, bool exact) {
+// Checks every query of every channel of a filled state against direct sums (the exact integer
+// state must give the unshifted spatial moments exactly), and the Hu invariants against the
+// state's own normalised central moments.
+template <class T, class S>
+void checkAgainstDirect(const GuardedImage<T>& im, int use, const S* st) {
+  constexpr bool exact = std::is_same_v<S, LumiMomentState_64s>;
+  const LumiPoint off{3, -7};
   for (int c = 0; c < use; ++c) {
     long double m00 = directMoment(im, c, 0, 0, 0, 0);
     long double xb = directMoment(im, c, 1, 0, 0, 0) / m00, yb = directMoment(im, c, 0, 1, 0, 0) / m00;
+    long double nce[4][4] = {};  // the state's normalised central moments, once checked
     for (int j = 0; j <= 3; ++j)
       for (int i = 0; i + j <= 3; ++i) {
-        Lum64f v;
-        LumiPoint off{3, -7};
+        SCOPED_TRACE(::testing::Message() << "channel " << c << " order (" << i << ", " << j << ")");
         long double sp = directMoment(im, c, i, j, 0, 0), spo = directMoment(im, c, i, j, off.x, off.y);
-        long double ce = directMoment(im, c, i, j, -xb, -yb);
+        long double ce = directMoment(im, c, i, j, -xb, -yb), tolCe = 1e-7L * std::fabs(sp) + 1e-6L;
         long double norm = std::pow(static_cast<double>(m00), -(i + j + 2) / 2.0);
-        if constexpr (std::is_same_v<Get, LumiMomentState_64f>) {
-          ASSERT_EQ(lumiGetSpatialMoment_64f(state, i, j, c, LumiPoint{0, 0}, &v), 0);
-          expectClose(v, sp, "spatial", i, j);
-          ASSERT_EQ(lumiGetSpatialMoment_64f(state, i, j, c, off, &v), 0);
-          expectClose(v, spo, "spatial with offset", i, j);
-          ASSERT_EQ(lumiGetCentralMoment_64f(state, i, j, c, &v), 0);
-          EXPECT_LE(std::fabs(v - ce), 1e-7L * std::fabs(sp) + 1e-6L) << "central " << i << j;
-          ASSERT_EQ(lumiGetNormalizedSpatialMoment_64f(state, i, j, c, off, &v), 0);
-          expectClose(v, spo * norm, "normalised spatial", i, j);
-          ASSERT_EQ(lumiGetNormalizedCentralMoment_64f(state, i, j, c, &v), 0);
-          EXPECT_LE(std::fabs(v - ce * norm), (1e-7L * std::fabs(sp) + 1e-6L) * norm);
-        } else {
-          ASSERT_EQ(lumiGetSpatialMoment_64s(state, i, j, c, LumiPoint{0, 0}, &v), 0);
-          if (exact) {
-            EXPECT_EQ(v, static_cast<double>(sp)) << "exact spatial " << i << j;
-          }
-          ASSERT_EQ(lumiGetSpatialMoment_64s(state, i, j, c, off, &v), 0);
-          expectClose(v, spo, "spatial with offset", i, j);
-          ASSERT_EQ(lumiGetCentralMoment_64s(state, i, j, c, &v), 0);
-          EXPECT_LE(std::fabs(v - ce), 1e-7L * std::fabs(sp) + 1e-6L) << "central " << i << j;
-          ASSERT_EQ(lumiGetNormalizedCentralMoment_64s(state, i, j, c, &v), 0);
-          EXPECT_LE(std::fabs(v - ce * norm), (1e-7L * std::fabs(sp) + 1e-6L) * norm);
-        }
+        auto close = [](double got, long double want) { EXPECT_LE(std::fabs(got - want), 1e-9L * std::fabs(want) + 1e-6L); };
+        Lum64f v = get(Q<S>::sp, st, i, j, c, LumiPoint{0, 0});
+        if (exact) EXPECT_EQ(v, static_cast<double>(sp));
+        else close(v, sp);
+        close(get(Q<S>::sp, st, i, j, c, off), spo);
+        close(get(Q<S>::nsp, st, i, j, c, off), spo * norm);
+        EXPECT_LE(std::fabs(get(Q<S>::ce, st, i, j, c) - ce), tolCe) << "central";
+        nce[i][j] = get(Q<S>::nce, st, i, j, c);
+        EXPECT_LE(std::fabs(nce[i][j] - ce * norm), tolCe * norm) << "normalised central";
       }
+    Lum64f hu[7];
+    ASSERT_EQ(Q<S>::hu(st, c, hu), 0);
+    auto want = huOf(nce, false), size = huOf(nce, true);
+    for (int k = 0; k < 7; ++k) EXPECT_LE(std::fabs(hu[k] - want[k]), 1e-9L * size[k]) << "Hu " << k << " channel " << c;
   }
 }
 
@@ -93,28 +116,22 @@ TEST(Moments, RandomImagesMatchDirectSums) {
     for (auto* im : {&f1, &f3, &f4}) im->fill([&](int, int, int) { return float(randInt(r, 0, 4000)) / 16; });
     State64f s;
     State64s e;
-    ASSERT_EQ(lumiMoments64f_8u_C1R(a1.ptr(), a1.step(), sz, s.p), 0);
-    checkAgainstDirect(a1, 1, s.p, false);
-    ASSERT_EQ(lumiMoments64f_8u_C3R(a3.ptr(), a3.step(), sz, s.p), 0);
-    checkAgainstDirect(a3, 3, s.p, false);
-    ASSERT_EQ(lumiMoments64f_8u_AC4R(a4.ptr(), a4.step(), sz, s.p), 0);
-    checkAgainstDirect(a4, 3, s.p, false);
-    ASSERT_EQ(lumiMoments64f_32f_C1R(f1.ptr(), f1.step(), sz, s.p), 0);
-    checkAgainstDirect(f1, 1, s.p, false);
-    ASSERT_EQ(lumiMoments64f_32f_C3R(f3.ptr(), f3.step(), sz, s.p), 0);
-    checkAgainstDirect(f3, 3, s.p, false);
-    ASSERT_EQ(lumiMoments64f_32f_AC4R(f4.ptr(), f4.step(), sz, s.p), 0);
-    checkAgainstDirect(f4, 3, s.p, false);
-    ASSERT_EQ(lumiMoments64s_8u_C1R(a1.ptr(), a1.step(), sz, e.p), 0);
-    checkAgainstDirect(a1, 1, e.p, true);
-    ASSERT_EQ(lumiMoments64s_8u_C3R(a3.ptr(), a3.step(), sz, e.p), 0);
-    checkAgainstDirect(a3, 3, e.p, true);
-    ASSERT_EQ(lumiMoments64s_8u_AC4R(a4.ptr(), a4.step(), sz, e.p), 0);
-    checkAgainstDirect(a4, 3, e.p, true);
+    auto run = [&](auto fn, auto& im, int use, auto* state) {
+      ASSERT_EQ(fn(im.ptr(), im.step(), sz, state), 0);
+      checkAgainstDirect(im, use, state);
+      EXPECT_TRUE(im.guardsIntact());
+    };
+    run(lumiMoments64f_8u_C1R, a1, 1, s.p);
+    run(lumiMoments64f_8u_C3R, a3, 3, s.p);
+    run(lumiMoments64f_8u_AC4R, a4, 3, s.p);
+    run(lumiMoments64f_32f_C1R, f1, 1, s.p);
+    run(lumiMoments64f_32f_C3R, f3, 3, s.p);
+    run(lumiMoments64f_32f_AC4R, f4, 3, s.p);
+    run(lumiMoments64s_8u_C1R, a1, 1, e.p);
+    run(lumiMoments64s_8u_C3R, a3, 3, e.p);
+    run(lumiMoments64s_8u_AC4R, a4, 3, e.p);
     Lum64f v;
     EXPECT_EQ(lumiGetSpatialMoment_64s(e.p, 0, 0, 3, LumiPoint{0, 0}, &v), lumStatusChannelIndexErr);
-    for (auto* im : {&a1, &a3, &a4}) EXPECT_TRUE(im->guardsIntact());
-    for (auto* im : {&f1, &f3, &f4}) EXPECT_TRUE(im->guardsIntact());
   }
 }
 
@@ -124,16 +141,10 @@ TEST(Moments, ExactStateOnLargeImage) {
   std::vector<Lum8u> buf(static_cast<std::size_t>(w) * h, 255);
   State64s e;
   ASSERT_EQ(lumiMoments64s_8u_C1R(buf.data(), w, LumiSize{w, h}, e.p), 0);
-  Lum64f v;
-  // sum x^3 over [0, w) = (w (w - 1) / 2)^2
-  const int64_t sx = int64_t(w) * (w - 1) / 2, sx3 = sx * sx;  // all below 2^63
-  const int64_t m30 = sx3 * h * 255;
-  ASSERT_EQ(lumiGetSpatialMoment_64s(e.p, 3, 0, 0, LumiPoint{0, 0}, &v), 0);
-  EXPECT_EQ(v, static_cast<double>(m30));
-  const int64_t sy2 = int64_t(h - 1) * h * (2 * h - 1) / 6;
-  const int64_t m12 = sx * sy2 * 255;
-  ASSERT_EQ(lumiGetSpatialMoment_64s(e.p, 1, 2, 0, LumiPoint{0, 0}, &v), 0);
-  EXPECT_EQ(v, static_cast<double>(m12));
+  // sum x^3 over [0, w) = (w (w - 1) / 2)^2; all values below 2^63
+  const int64_t sx = int64_t(w) * (w - 1) / 2, sy2 = int64_t(h - 1) * h * (2 * h - 1) / 6;
+  EXPECT_EQ(get(lumiGetSpatialMoment_64s, e.p, 3, 0, 0, LumiPoint{0, 0}), static_cast<double>(sx * sx * h * 255));
+  EXPECT_EQ(get(lumiGetSpatialMoment_64s, e.p, 1, 2, 0, LumiPoint{0, 0}), static_cast<double>(sx * sy2 * 255));
 }
 
 // Tall images: row numbers in the tens of thousands make the row sums of order 3 exceed 64-bit
@@ -151,12 +162,9 @@ TEST(Moments, TallImagesKeepHighOrderRowSums) {
       else ASSERT_EQ(lumiMoments64f_32f_C1R(bf.data(), 4 * w, LumiSize{w, h}, s.p), 0);
       for (int j = 0; j <= 3; ++j)
         for (int i = 0; i + j <= 3; ++i) {
-          long double sx = 0;
-          for (int x = 0; x < w; ++x) sx += ipow(x, i);
-          long double want = 255.0L * sx * sy[j];
-          Lum64f v;
-          ASSERT_EQ(lumiGetSpatialMoment_64f(s.p, i, j, 0, LumiPoint{0, 0}, &v), 0);
-          EXPECT_LE(std::fabs(v - want), 1e-13L * want) << "h " << h << " pass " << pass << " (" << i << ", " << j << ")";
+          long double want = 255.0L * (ipow(0, i) + ipow(1, i) + ipow(2, i)) * sy[j];
+          EXPECT_LE(std::fabs(get(lumiGetSpatialMoment_64f, s.p, i, j, 0, LumiPoint{0, 0}) - want), 1e-13L * want)
+              << "h " << h << " pass " << pass << " (" << i << ", " << j << ")";
         }
     }
   }
@@ -168,33 +176,23 @@ TEST(Moments, CentredRectangleAndSinglePixel) {
   im.fill([](int x, int y, int) { return Lum8u(x >= 6 && x < 15 && y >= 5 && y < 10 ? 1 : 0); });
   State64f s;
   ASSERT_EQ(lumiMoments64f_8u_C1R(im.ptr(), im.step(), im.roi(), s.p), 0);
-  Lum64f v;
-  const double a = 9, b = 5, m00 = a * b;
-  ASSERT_EQ(lumiGetSpatialMoment_64f(s.p, 0, 0, 0, LumiPoint{0, 0}, &v), 0);
-  EXPECT_EQ(v, m00);
-  ASSERT_EQ(lumiGetSpatialMoment_64f(s.p, 1, 0, 0, LumiPoint{0, 0}, &v), 0);
-  EXPECT_EQ(v, 10 * m00);  // centre x = 10
-  ASSERT_EQ(lumiGetSpatialMoment_64f(s.p, 0, 1, 0, LumiPoint{0, 0}, &v), 0);
-  EXPECT_EQ(v, 7 * m00);  // centre y = 7
-  const double mu20 = b * a * (a * a - 1) / 12, mu02 = a * b * (b * b - 1) / 12;
-  ASSERT_EQ(lumiGetCentralMoment_64f(s.p, 2, 0, 0, &v), 0);
-  EXPECT_NEAR(v, mu20, 1e-9);
-  ASSERT_EQ(lumiGetCentralMoment_64f(s.p, 0, 2, 0, &v), 0);
-  EXPECT_NEAR(v, mu02, 1e-9);
-  for (auto ij : {std::pair{1, 1}, std::pair{3, 0}, std::pair{2, 1}, std::pair{1, 2}, std::pair{0, 3}, std::pair{1, 0}}) {
-    ASSERT_EQ(lumiGetCentralMoment_64f(s.p, ij.first, ij.second, 0, &v), 0);
-    EXPECT_NEAR(v, 0.0, 1e-8);
-  }
-  ASSERT_EQ(lumiGetNormalizedCentralMoment_64f(s.p, 2, 0, 0, &v), 0);
-  EXPECT_NEAR(v, mu20 / (m00 * m00), 1e-12);
+  const LumiPoint o{0, 0};
+  const double a = 9, b = 5, m00 = a * b, mu20 = b * a * (a * a - 1) / 12, mu02 = a * b * (b * b - 1) / 12;
+  EXPECT_EQ(get(lumiGetSpatialMoment_64f, s.p, 0, 0, 0, o), m00);
+  EXPECT_EQ(get(lumiGetSpatialMoment_64f, s.p, 1, 0, 0, o), 10 * m00);  // centre x = 10
+  EXPECT_EQ(get(lumiGetSpatialMoment_64f, s.p, 0, 1, 0, o), 7 * m00);   // centre y = 7
+  EXPECT_NEAR(get(lumiGetCentralMoment_64f, s.p, 2, 0, 0), mu20, 1e-9);
+  EXPECT_NEAR(get(lumiGetCentralMoment_64f, s.p, 0, 2, 0), mu02, 1e-9);
+  for (auto ij : {std::pair{1, 1}, std::pair{3, 0}, std::pair{2, 1}, std::pair{1, 2}, std::pair{0, 3}, std::pair{1, 0}})
+    EXPECT_NEAR(get(lumiGetCentralMoment_64f, s.p, ij.first, ij.second, 0), 0.0, 1e-8);
+  EXPECT_NEAR(get(lumiGetNormalizedCentralMoment_64f, s.p, 2, 0, 0), mu20 / (m00 * m00), 1e-12);
   Lum64f hu[7];
   ASSERT_EQ(lumiGetHuMoments_64f(s.p, 0, hu), 0);
   EXPECT_NEAR(hu[0], (mu20 + mu02) / (m00 * m00), 1e-12);
   EXPECT_NEAR(hu[1], (mu20 - mu02) * (mu20 - mu02) / (m00 * m00 * m00 * m00), 1e-12);
   for (int k = 2; k < 7; ++k) EXPECT_NEAR(hu[k], 0.0, 1e-12);
   // the spatial moment seen from an offset: the block's centre moves to (10 + 4, 7 - 2)
-  ASSERT_EQ(lumiGetSpatialMoment_64f(s.p, 1, 1, 0, LumiPoint{4, -2}, &v), 0);
-  EXPECT_NEAR(v, 14.0 * 5.0 * m00, 1e-9);
+  EXPECT_NEAR(get(lumiGetSpatialMoment_64f, s.p, 1, 1, 0, LumiPoint{4, -2}), 14.0 * 5.0 * m00, 1e-9);
 
   // one pixel of 200 at (4, 3): m(i, j) = 200 * 4^i * 3^j, every central moment beyond 0 is 0
   GuardedImage<float> one(7, 6, 3);
@@ -202,10 +200,8 @@ TEST(Moments, CentredRectangleAndSinglePixel) {
   ASSERT_EQ(lumiMoments64f_32f_C3R(one.ptr(), one.step(), one.roi(), s.p), 0);
   for (int j = 0; j <= 3; ++j)
     for (int i = 0; i + j <= 3; ++i) {
-      ASSERT_EQ(lumiGetSpatialMoment_64f(s.p, i, j, 2, LumiPoint{0, 0}, &v), 0);
-      EXPECT_EQ(v, 200.0 * std::pow(4.0, i) * std::pow(3.0, j));
-      ASSERT_EQ(lumiGetCentralMoment_64f(s.p, i, j, 2, &v), 0);
-      EXPECT_EQ(v, i + j == 0 ? 200.0 : 0.0);
+      EXPECT_EQ(get(lumiGetSpatialMoment_64f, s.p, i, j, 2, o), 200.0 * std::pow(4.0, i) * std::pow(3.0, j));
+      EXPECT_EQ(get(lumiGetCentralMoment_64f, s.p, i, j, 2), i + j == 0 ? 200.0 : 0.0);
     }
   ASSERT_EQ(lumiGetHuMoments_64f(s.p, 2, hu), 0);
   for (double h : hu) EXPECT_EQ(h, 0.0);
@@ -221,22 +217,23 @@ TEST(Moments, StateLifeCycleAndTags) {
   // a state in caller memory: nothing beyond its 400 bytes is touched
   std::vector<unsigned char> mem(400 + 64, 0xCD);
   auto* st = reinterpret_cast<LumiMomentState_64s*>(mem.data());
+  auto head = [&](int k) {
+    int32_t h[3];
+    std::memcpy(h, mem.data(), 12);
+    return h[k];
+  };
   EXPECT_EQ(lumiMomentInit_64s(nullptr, lumHintFast), lumStatusNullPtrErr);
   ASSERT_EQ(lumiMomentInit_64s(st, lumHintFast), 0);
-  int32_t head[3];
-  std::memcpy(head, mem.data(), 12);
-  EXPECT_EQ(head[0], 34);
-  EXPECT_EQ(head[1], lumHintFast);
-  EXPECT_EQ(head[2], -1);
+  EXPECT_EQ(head(0), 34);
+  EXPECT_EQ(head(1), lumHintFast);
+  EXPECT_EQ(head(2), -1);
   Lum64f v = 5;
   EXPECT_EQ(lumiGetSpatialMoment_64s(st, 0, 0, 0, LumiPoint{0, 0}, &v), lumStatusChannelIndexErr);
   Lum8u px[12] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
   ASSERT_EQ(lumiMoments64s_8u_C3R(px, 12, LumiSize{4, 1}, st), 0);
-  std::memcpy(head, mem.data(), 12);
-  EXPECT_EQ(head[2], 3);
+  EXPECT_EQ(head(2), 3);
   for (std::size_t i = 400; i < mem.size(); ++i) EXPECT_EQ(mem[i], 0xCD);
-  ASSERT_EQ(lumiGetSpatialMoment_64s(st, 1, 0, 1, LumiPoint{0, 0}, &v), 0);
-  EXPECT_EQ(v, 0 * 2 + 1 * 5 + 2 * 8 + 3 * 11);
+  EXPECT_EQ(get(lumiGetSpatialMoment_64s, st, 1, 0, 1, LumiPoint{0, 0}), 0 * 2 + 1 * 5 + 2 * 8 + 3 * 11);
   // a state of the other kind is refused everywhere
   auto* wrong = reinterpret_cast<LumiMomentState_64f*>(st);
   EXPECT_EQ(lumiMoments64f_8u_C1R(px, 12, LumiSize{0, 0}, wrong), lumStatusContextMismatchErr);
@@ -252,7 +249,8 @@ TEST(Moments, ValidationOrder) {
   Lum8u px[64] = {};
   float fx[16] = {};
   Lum64f v = 5, hu[7];
-  EXPECT_EQ(lumiGetSpatialMoment_64f(s.p, 0, 0, 0, LumiPoint{0, 0}, &v), lumStatusChannelIndexErr);
+  const LumiPoint o{0, 0};
+  EXPECT_EQ(lumiGetSpatialMoment_64f(s.p, 0, 0, 0, o, &v), lumStatusChannelIndexErr);
   EXPECT_EQ(lumiMoments64f_8u_C1R(nullptr, 0, LumiSize{0, 0}, s.p), lumStatusNullPtrErr);
   EXPECT_EQ(lumiMoments64f_8u_C1R(px, 0, LumiSize{0, 0}, s.p), lumStatusStepErr);  // steps first
   EXPECT_EQ(lumiMoments64f_8u_C1R(px, 5, LumiSize{0, 1}, s.p), lumStatusSizeErr);
@@ -260,16 +258,15 @@ TEST(Moments, ValidationOrder) {
   EXPECT_EQ(lumiMoments64f_8u_C3R(px, 29, LumiSize{10, 1}, s.p), lumStatusStepBelowRowErr);
   EXPECT_EQ(lumiMoments64f_8u_AC4R(px, 39, LumiSize{10, 1}, s.p), lumStatusStepBelowRowErr);
   EXPECT_EQ(lumiMoments64f_32f_C1R(fx, 39, LumiSize{10, 1}, s.p), lumStatusStepBelowRowErr);
-  EXPECT_EQ(lumiGetSpatialMoment_64f(s.p, 0, 0, 0, LumiPoint{0, 0}, &v), lumStatusChannelIndexErr);
+  EXPECT_EQ(lumiGetSpatialMoment_64f(s.p, 0, 0, 0, o, &v), lumStatusChannelIndexErr);
   ASSERT_EQ(lumiMoments64f_8u_C1R(px, 10, LumiSize{10, 1}, s.p), 0);  // an all-zero image
-  EXPECT_EQ(lumiGetSpatialMoment_64f(s.p, 0, 0, 0, LumiPoint{0, 0}, &v), 0);
-  EXPECT_EQ(v, 0.0);
-  EXPECT_EQ(lumiGetSpatialMoment_64f(s.p, 2, 2, 0, LumiPoint{0, 0}, &v), lumStatusSizeErr);
+  EXPECT_EQ(get(lumiGetSpatialMoment_64f, s.p, 0, 0, 0, o), 0.0);
+  EXPECT_EQ(lumiGetSpatialMoment_64f(s.p, 2, 2, 0, o, &v), lumStatusSizeErr);
   EXPECT_EQ(lumiGetCentralMoment_64f(s.p, -1, 1, 5, &v), lumStatusSizeErr);  // order before channel
   EXPECT_EQ(lumiGetCentralMoment_64f(s.p, 1, 1, 1, &v), lumStatusChannelIndexErr);
   EXPECT_EQ(lumiGetCentralMoment_64f(s.p, 1, 1, -1, &v), lumStatusChannelIndexErr);
   EXPECT_EQ(lumiGetCentralMoment_64f(s.p, 1, 1, 0, &v), lumStatusMomentZeroErr);
-  EXPECT_EQ(lumiGetNormalizedSpatialMoment_64f(s.p, 1, 1, 0, LumiPoint{0, 0}, &v), lumStatusMomentZeroErr);
+  EXPECT_EQ(lumiGetNormalizedSpatialMoment_64f(s.p, 1, 1, 0, o, &v), lumStatusMomentZeroErr);
   EXPECT_EQ(lumiGetNormalizedCentralMoment_64f(s.p, 0, 0, 0, &v), lumStatusMomentZeroErr);
   EXPECT_EQ(lumiGetHuMoments_64f(s.p, 0, hu), lumStatusMomentZeroErr);
   EXPECT_EQ(lumiGetHuMoments_64f(s.p, 0, nullptr), lumStatusNullPtrErr);
