@@ -4,7 +4,6 @@
 //
 // Products and sums are rounded one by one in single precision: the vector kernels must give
 // the scalar kernels' bits, so no multiply-add may be fused.
-#pragma GCC optimize("fp-contract=off")
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/convert/convert.cpp"

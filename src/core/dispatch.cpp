@@ -2,6 +2,8 @@
 // LUMI_SCALAR=1 forces the plain scalar kernels.
 #include <cpuid.h>
 
+#include <atomic>
+
 #include <cstdlib>
 #include <cstring>
 
@@ -54,11 +56,29 @@ int capped(int level) {
   return c < level ? c : level;
 }
 
+int supported() {
+  static const int level = capped(detect());
+  return level;
+}
+
+std::atomic<int> current{-1};  // -1 until first asked: then what the processor supports
+
 }  // namespace
 
 int simdLevel() {
-  static const int level = capped(detect());
-  return level;
+  int l = current.load(std::memory_order_relaxed);
+  if (l < 0) {
+    l = supported();
+    current.store(l, std::memory_order_relaxed);
+  }
+  return l;
+}
+
+int setSimdLevel(int level) {
+  const int before = simdLevel();
+  const int top = supported();
+  current.store(level < 0 ? 0 : level > top ? top : level, std::memory_order_relaxed);
+  return before;
 }
 
 }  // namespace lumi

@@ -3,13 +3,13 @@
 // on these; nothing here is exported.
 #pragma once
 
-#define LUMI_BUILDING_LIBRARY 1
 #include "lumi.h"
 
 #include <omp.h>
 
 #include <cstddef>
 #include <cstdint>
+#include <climits>
 #include <cstring>
 #include <limits>
 #include <type_traits>
@@ -34,6 +34,49 @@ inline T* byteOffset(T* p, std::ptrdiff_t bytes) {
 template <class T>
 inline T* rowAt(T* p, int step, int y) {
   return byteOffset(p, static_cast<std::ptrdiff_t>(step) * y);
+}
+
+// ---- element and byte counts ---------------------------------------------------------------
+// Always in ptrdiff_t: width x channels x element size overflows an int for widths near 2^30.
+inline std::ptrdiff_t elemsOf(int width, int channels) {
+  return static_cast<std::ptrdiff_t>(width) * channels;
+}
+inline std::ptrdiff_t bytesOf(int width, int channels, std::size_t elemBytes) {
+  return elemsOf(width, channels) * static_cast<std::ptrdiff_t>(elemBytes);
+}
+
+// ---- the image view ------------------------------------------------------------------------
+// One image argument as the internals pass it around: first pixel, row step in bytes, ROI size
+// and interleaved channels per pixel. T may be const.
+template <class T>
+struct ImageView {
+  T* data = nullptr;
+  int step = 0;
+  LumiSize size{0, 0};
+  int channels = 1;
+
+  T* row(int y) const { return rowAt(data, step, y); }
+  T* at(int x, int y) const { return row(y) + elemsOf(x, channels); }
+  std::ptrdiff_t rowElems() const { return elemsOf(size.width, channels); }
+  std::ptrdiff_t rowBytes() const { return bytesOf(size.width, channels, sizeof(T)); }
+  ImageView<const T> toConst() const { return {data, step, size, channels}; }
+};
+template <class L, class T>
+inline ImageView<T> viewOf(T* data, int step, LumiSize size) {
+  return {data, step, size, L::kCh};
+}
+
+// ---- walking contiguous images as one long row -----------------------------------------------
+// When every image's step equals the row length (pixelBytes x width), the rows follow each
+// other without padding and the ROI is walked as one row of width x height pixels; otherwise,
+// or when that row would pass INT_MAX bytes, the ROI is returned unchanged.
+template <class... S>
+inline LumiSize coalesceRows(LumiSize roi, std::ptrdiff_t pixelBytes, S... steps) {
+  const std::ptrdiff_t row = static_cast<std::ptrdiff_t>(roi.width) * pixelBytes;
+  if (roi.height <= 1 || !((static_cast<std::ptrdiff_t>(steps) == row) && ...)) return roi;
+  const long long total = static_cast<long long>(roi.width) * roi.height;
+  if (total * pixelBytes > INT_MAX) return roi;
+  return LumiSize{static_cast<int>(total), 1};
 }
 
 // ---- validation --------------------------------------------------------------------------
@@ -74,11 +117,15 @@ constexpr T saturate(V v) {
   }
 }
 
-// ---- run-time dispatch -------------------------------------------------------------------
+// ---- run-time dispatch: see core/simd.h for the tables and pick() -------------------------------------------------------------------
 // 0 = plain scalar kernels, 1 = SSE4, 2 = AVX2, 3 = AVX-512. Decided once per process from
 // the processor and the LUMI_SCALAR environment variable (set to 1 to force the scalar path).
 enum SimdLevel : int { kScalar = 0, kSSE4 = 1, kAVX2 = 2, kAVX3 = 3 };
 int simdLevel();
+// Tests only: runs the rest of the process at min(level, what the processor supports) and
+// returns the level in force before. Not exported; test binaries that call it link the
+// library's objects directly.
+int setSimdLevel(int level);
 
 // Picks the best compiled SIMD variant the processor supports from a table indexed by
 // SimdLevel; null means "use the scalar kernel".
@@ -125,6 +172,13 @@ inline void forRows(int height, bool parallel, Body&& body) {
 // two dimensions, not an area).
 inline bool forkBySum(LumiSize roi, int threshold = 256) {
   return roi.width + roi.height >= threshold;
+}
+
+// The fork rule of neighbourhood operations, by work rather than shape: pixels x taps (the
+// samples each output pixel reads) at least the threshold. A 15x15 median and a copy of the
+// same ROI are not judged alike; taps = 1 gives the plain area rule.
+inline bool forkByWork(LumiSize roi, long long taps, long long threshold) {
+  return static_cast<long long>(roi.width) * roi.height * taps >= threshold;
 }
 
 // Scratch-region pattern: the master thread allocates one block of perThreadBytes for every

@@ -1,6 +1,5 @@
 /* liblumcore: the thread count of parallel regions, the cache-size query and the SSE
    control/status register helpers. */
-#define LUMI_BUILDING_CORE 1
 #include "lumi/core.h"
 
 #include <stdio.h>

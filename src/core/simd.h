@@ -1,16 +1,25 @@
 // Run-time dispatch tables for kernels compiled once per SIMD target with Highway.
 //
-// A kernel file includes "hwy/foreach_target.h" and "hwy/highway.h", writes its vector kernels
-// inside HWY_NAMESPACE, and in its `#if HWY_ONCE` part builds one table per kernel:
+// Per-target code lives in a kernel file's Highway section (or an `-inl.h` it re-includes per
+// target) guarded by LUMI_TABLE_TARGET: only the x86 targets the tables use get the kernel;
+// the other targets Highway compiles (its portable baseline) get an empty stub. The `#if
+// HWY_ONCE` part then holds, per kernel, one chooser that owns the table and the scalar twin:
 //
-//   LUMI_SIMD_TABLE(AddRowFn, kAddRow8u, AddRow<uint8_t>);
-//   if (auto f = lumi::pickSimd(kAddRow8u)) f(...); else scalarAddRow(...);
+//   template <class T> AddRowFn<T> pickAddRow() {
+//     LUMI_SIMD_TABLE(AddRowFn<T>, table, addRow<T>);    // per target: addRow
+//     return pick(table, &addRowScalar<T>);              // plain twin:  addRowScalar
+//   }
 //
-// Entries are indexed by lumi::SimdLevel; targets that were not compiled are null, and
-// pickSimd() returns null when the scalar path is forced or nothing fits the processor.
+// Naming: the per-target kernel is `fooRow` (or `foo`), its plain twin `fooRowScalar`, the
+// chooser `pickFooRow`. Entries are indexed by lumi::SimdLevel; targets that were not compiled
+// are null, and pick() falls back to the twin when the scalar path is forced or nothing fits.
 #pragma once
 
 #include "core/frame.h"
+
+// The targets that enter the tables (evaluated per target inside a Highway section).
+#define LUMI_TABLE_TARGET \
+  (HWY_TARGET == HWY_SSE4 || HWY_TARGET == HWY_AVX2 || HWY_TARGET == HWY_AVX3)
 
 #if HWY_TARGETS & HWY_SSE4
 #define LUMI_CHOOSE_SSE4(...) &N_SSE4::__VA_ARGS__
@@ -31,3 +40,15 @@
 #define LUMI_SIMD_TABLE(TYPE, TABLE, ...)                                            \
   static TYPE const TABLE[4] = {nullptr, LUMI_CHOOSE_SSE4(__VA_ARGS__),              \
                                 LUMI_CHOOSE_AVX2(__VA_ARGS__), LUMI_CHOOSE_AVX3(__VA_ARGS__)}
+
+namespace lumi {
+
+// The best compiled entry the processor (and the current level) allows, else the twin.
+template <class F, std::size_t N>
+inline F pick(F const (&table)[N], F scalar) {
+  for (int l = simdLevel(); l > 0; --l)
+    if (l < static_cast<int>(N) && table[l]) return table[l];
+  return scalar;
+}
+
+}  // namespace lumi

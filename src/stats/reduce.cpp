@@ -2,7 +2,6 @@
 // samples, largest magnitudes, and the four-lane single-precision accumulation of 32f.
 // Products and sums stay separately rounded (no fused multiply-add), so every target
 // accumulates exactly as the scalar kernels do.
-#pragma GCC optimize("fp-contract=off")
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/stats/reduce.cpp"
 #include "hwy/foreach_target.h"

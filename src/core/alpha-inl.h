@@ -1,0 +1,44 @@
+// Leaving the alpha channel of AC4 pixels untouched, for vector kernels: the one way every
+// family stores a vector of interleaved four-channel pixels whose fourth element it must not
+// write. Re-included per target from inside a Highway section (after "hwy/highway.h").
+//
+// A vector that starts on a pixel boundary and holds a multiple of four lanes has its alpha in
+// lanes 3, 7, 11, ...; colourLanes(d) marks the others once per row, storeColour() writes only
+// those (the alpha lanes keep what the destination held). Scalar twins simply loop over the
+// layout's kUse channels.
+#if defined(LUMI_CORE_ALPHA_INL_H_) == defined(HWY_TARGET_TOGGLE)
+#ifdef LUMI_CORE_ALPHA_INL_H_
+#undef LUMI_CORE_ALPHA_INL_H_
+#else
+#define LUMI_CORE_ALPHA_INL_H_
+#endif
+
+#include "hwy/highway.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace lumi {
+namespace HWY_NAMESPACE {
+
+template <class D>
+HWY_INLINE hwy::HWY_NAMESPACE::Mask<D> colourLanes(D d) {
+  namespace hn = hwy::HWY_NAMESPACE;
+  const hn::RebindToUnsigned<D> du;
+  using U = hn::TFromD<decltype(du)>;
+  const auto lane = hn::Iota(du, U{0});
+  return hn::RebindMask(d, hn::Ne(hn::And(lane, hn::Set(du, U{3})), hn::Set(du, U{3})));
+}
+
+// Stores v at p: every lane when keepAlpha is false, else only the colour lanes.
+template <class D, class V>
+HWY_INLINE void storeColour(D d, V v, hwy::HWY_NAMESPACE::TFromD<D>* HWY_RESTRICT p,
+                            bool keepAlpha, hwy::HWY_NAMESPACE::Mask<D> colour) {
+  namespace hn = hwy::HWY_NAMESPACE;
+  if (keepAlpha) v = hn::IfThenElse(colour, v, hn::LoadU(d, p));
+  hn::StoreU(v, d, p);
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace lumi
+HWY_AFTER_NAMESPACE();
+
+#endif
