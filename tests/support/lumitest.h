@@ -24,6 +24,15 @@ inline bool scalarPath() {
   return v && *v && std::strcmp(v, "0") != 0;
 }
 
+// A channel layout: elements per pixel in memory and leading elements written (AC4 leaves
+// the fourth, alpha, as it was).
+struct Layout {
+  const char* name;
+  int ch, use;
+};
+constexpr Layout kC1{"C1", 1, 1}, kC3{"C3", 3, 3}, kC4{"C4", 4, 4}, kAC4{"AC4", 4, 3};
+constexpr Layout kLayouts[4] = {kC1, kC3, kC4, kAC4};
+
 using Rng = std::mt19937;
 inline Rng makeRng(uint32_t salt = 0) { return Rng(0x1234567u ^ salt); }
 
