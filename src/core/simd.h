@@ -17,6 +17,23 @@
 
 #include "core/frame.h"
 
+// Opens and closes a kernel file's per-target section (inside namespace lumi, with hn as the
+// short name of the target's Highway namespace):
+//   LUMI_SIMD_BEGIN
+//   #if LUMI_TABLE_TARGET
+//   ... kernels ...
+//   #endif
+//   LUMI_SIMD_END
+#define LUMI_SIMD_BEGIN    \
+  HWY_BEFORE_NAMESPACE();  \
+  namespace lumi {         \
+  namespace HWY_NAMESPACE { \
+  namespace hn = hwy::HWY_NAMESPACE;
+#define LUMI_SIMD_END \
+  }                   \
+  }                   \
+  HWY_AFTER_NAMESPACE();
+
 // The targets that enter the tables (evaluated per target inside a Highway section).
 #define LUMI_TABLE_TARGET \
   (HWY_TARGET == HWY_SSE4 || HWY_TARGET == HWY_AVX2 || HWY_TARGET == HWY_AVX3)
