@@ -2,15 +2,17 @@
 # Installs every Debian package the build, tests, benchmarks and demo need.
 #   scripts/install-deps.sh          native (x86-64) toolchain and libraries
 #   scripts/install-deps.sh --i386   also the 32-bit x86 libraries for the -m32 build
+#   scripts/install-deps.sh --qemu   also qemu-i386, for machines that run no 32-bit programs
 set -euo pipefail
-want_i386=0
+want_i386=0 want_qemu=0
 [ "${1:-}" = "--i386" ] && want_i386=1
+[ "${1:-}" = "--qemu" ] && want_qemu=1
 
 SUDO=""
 [ "$(id -u)" -ne 0 ] && SUDO="sudo"
 
-native=(cmake g++ make pkg-config libhwy-dev libgtest-dev libgmock-dev libbenchmark-dev libpng-dev libopencv-dev)
-i386=(g++-multilib libhwy-dev:i386 libgtest-dev:i386 libgmock-dev:i386 libgomp1:i386)
+native=(cmake g++ make pkg-config libhwy-dev libgtest-dev libpng-dev libopencv-dev)
+i386=(g++-multilib libhwy-dev:i386 libgtest-dev:i386 libgomp1:i386)
 
 missing() {
   local out=()
@@ -28,6 +30,7 @@ if [ "$want_i386" = 1 ]; then
   fi
   todo="$todo $(missing "${i386[@]}")"
 fi
+[ "$want_qemu" = 1 ] && todo="$todo $(missing qemu-user)"
 todo=$(echo $todo)
 [ -z "$todo" ] && exit 0
 pkgs=${todo//force-update/}
