@@ -1,6 +1,7 @@
 // The internal frame every family builds on: row bands, both threading patterns and the
 // rounding-mode guards. The frame is header-only, so the test compiles it directly.
 #include "core/frame.h"
+#include "core/halo.h"
 
 #include <xmmintrin.h>
 
@@ -63,6 +64,69 @@ TEST(Frame, ForkRuleIsASumOfTheDimensions) {
   EXPECT_FALSE(lumi::forkBySum(LumiSize{100, 155}));
   EXPECT_TRUE(lumi::forkBySum(LumiSize{100, 156}));
   EXPECT_FALSE(lumi::forkBySum(LumiSize{4000, 1}, 4096));
+}
+
+TEST(Frame, ForkByWorkWeighsTapsAndCoalescingNeedsEveryStepTight) {
+  EXPECT_FALSE(lumi::forkByWork({64, 64}, 1, 1 << 16));  // a copy of 64x64 stays serial
+  EXPECT_TRUE(lumi::forkByWork({64, 64}, 225, 1 << 16));  // a 15x15 median of it forks
+  EXPECT_TRUE(lumi::forkByWork({1 << 30, 1 << 30}, 1 << 30, 1LL << 62));  // no overflow
+  EXPECT_FALSE(lumi::forkByWork({1 << 20, 1 << 20}, 1 << 20, 1LL << 62));
+  EXPECT_EQ(lumi::coalesceRows({5, 3}, 12, 60, 60).width, 15);
+  EXPECT_EQ(lumi::coalesceRows({5, 3}, 12, 60, 64).width, 5);
+  EXPECT_EQ(lumi::coalesceRows({1 << 16, 1 << 15}, 4, 1 << 18).height, 1 << 15);  // > INT_MAX bytes
+}
+
+// A 3x5 window sum (rows y-1..y+1, columns x-2..x+2) in place must equal the same sum out of
+// place, whatever the bands: the halo rows keep the source rows the bands overwrite.
+TEST(Frame, InPlaceHaloRowsMatchOutOfPlace) {
+  constexpr int kTop = 1, kBottom = 1, kLeft = 2, kRight = 2;
+  for (int threads : {1, 2, 3}) {
+    ThreadCount tc(threads);
+    for (int h : {1, 2, 5, 17}) {
+      const int w = 13, full = w + kLeft + kRight, step = full * 2;  // padded rows
+      lumitest::Rng rng = lumitest::makeRng(h);
+      std::vector<int16_t> img((h + kTop + kBottom) * full * 2);
+      for (auto& v : img) v = static_cast<int16_t>(lumitest::randInt(rng, -999, 999));
+      std::vector<int16_t> inPlace = img;
+      auto origin = [&](std::vector<int16_t>& b) { return b.data() + kTop * (step / 2) + kLeft; };
+      const lumi::ImageView<const int16_t> src{origin(img), step, {w, h}, 1};
+      std::vector<int> want(w * h);
+      for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x)
+          for (int dy = -kTop; dy <= kBottom; ++dy)
+            for (int dx = -kLeft; dx <= kRight; ++dx) want[y * w + x] += src.row(y + dy)[x + dx];
+
+      const lumi::ImageView<const int16_t> io{origin(inPlace), step, {w, h}, 1};
+      lumi::HaloRows<int16_t> halo(io, kTop, kBottom, kLeft, kRight, true);
+      // Each step binds its own copy to the band and slice; only the prepare step copies the
+      // edge rows, before any band writes.
+      ASSERT_EQ(lumi::forRowsWithScratch(
+                    h, true, halo.scratchBytes(),
+                    [&](int y0, int y1, Lum8u* s) {
+                      lumi::HaloRows<int16_t> mine = halo;
+                      mine.bind(y0, y1, s);
+                      for (int y = y0; y < y1; ++y) {
+                        mine.keep(y);
+                        int16_t* out = const_cast<int16_t*>(io.row(y));
+                        for (int x = 0; x < w; ++x) {
+                          int sum = 0;
+                          for (int dy = -kTop; dy <= kBottom; ++dy)
+                            for (int dx = -kLeft; dx <= kRight; ++dx) sum += mine.row(y + dy)[x + dx];
+                          out[x] = static_cast<int16_t>(sum);
+                        }
+                      }
+                    },
+                    [&](int y0, int y1, Lum8u* s) {
+                      lumi::HaloRows<int16_t> mine = halo;
+                      mine.bind(y0, y1, s);
+                      mine.prepare();
+                    }),
+                lumStatusOk);
+      for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x)
+          ASSERT_EQ(io.row(y)[x], static_cast<int16_t>(want[y * w + x])) << threads << " " << h << " " << x << "," << y;
+    }
+  }
 }
 
 TEST(Frame, ScratchRegionGivesEachThreadItsOwnAlignedSlice) {

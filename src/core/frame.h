@@ -178,16 +178,23 @@ inline bool forkBySum(LumiSize roi, int threshold = 256) {
 // samples each output pixel reads) at least the threshold. A 15x15 median and a copy of the
 // same ROI are not judged alike; taps = 1 gives the plain area rule.
 inline bool forkByWork(LumiSize roi, long long taps, long long threshold) {
-  return static_cast<long long>(roi.width) * roi.height * taps >= threshold;
+  const long long area = static_cast<long long>(roi.width) * roi.height;  // at most 2^62
+  if (area < 1 || taps < 1) return false;
+  return taps >= (threshold + area - 1) / area;  // area x taps >= threshold, without overflow
 }
 
 // Scratch-region pattern: the master thread allocates one block of perThreadBytes for every
 // thread of the team, all threads meet at a barrier, and each runs body(y0, y1, scratch) on
 // its band with its own slice. An allocation failure leaves the destination untouched and
-// gives lumStatusMemAllocErr.
-template <class Body>
+// gives lumStatusMemAllocErr. With a prepare step, every thread first runs
+// prepare(y0, y1, scratch) on its band and the team meets at a second barrier before any body
+// runs: in-place neighbourhood operations copy there the rows their neighbours will overwrite.
+struct NoPrepare {
+  void operator()(int, int, Lum8u*) const {}
+};
+template <class Body, class Prepare = NoPrepare>
 inline LumStatus forRowsWithScratch(int height, bool parallel, std::size_t perThreadBytes,
-                                    Body&& body) {
+                                    Body&& body, Prepare&& prepare = Prepare()) {
   int n = parallel ? regionThreads() : 1;
   if (n > height) n = height;
   if (n < 1) n = 1;
@@ -206,7 +213,12 @@ inline LumStatus forRowsWithScratch(int height, bool parallel, std::size_t perTh
     if (!failed) {
       int y0, y1;
       rowBand(height, omp_get_thread_num(), omp_get_num_threads(), &y0, &y1);
-      if (y0 < y1) body(y0, y1, shared + slice * omp_get_thread_num());
+      Lum8u* mine = shared + slice * omp_get_thread_num();
+      if constexpr (!std::is_same_v<std::decay_t<Prepare>, NoPrepare>) {
+        if (y0 < y1) prepare(y0, y1, mine);
+#pragma omp barrier
+      }
+      if (y0 < y1) body(y0, y1, mine);
     }
   }
   lumsFree(shared);

@@ -42,42 +42,66 @@ using lumi::alignedAlloc;
 using lumi::imageAlloc;
 
 extern "C" {
-LUMI_API Lum8u* lumsMalloc_8u(int len) { return static_cast<Lum8u*>(alignedAlloc(len, 1)); }
-LUMI_API Lum8s* lumsMalloc_8s(int len) { return static_cast<Lum8s*>(alignedAlloc(len, 1)); }
-LUMI_API Lum16u* lumsMalloc_16u(int len) { return static_cast<Lum16u*>(alignedAlloc(len, 2)); }
-LUMI_API Lum16s* lumsMalloc_16s(int len) { return static_cast<Lum16s*>(alignedAlloc(len, 2)); }
-LUMI_API Lum32u* lumsMalloc_32u(int len) { return static_cast<Lum32u*>(alignedAlloc(len, 4)); }
-LUMI_API Lum32s* lumsMalloc_32s(int len) { return static_cast<Lum32s*>(alignedAlloc(len, 4)); }
-LUMI_API Lum32f* lumsMalloc_32f(int len) { return static_cast<Lum32f*>(alignedAlloc(len, 4)); }
-LUMI_API Lum16sc* lumsMalloc_16sc(int len) { return static_cast<Lum16sc*>(alignedAlloc(len, 4)); }
-LUMI_API Lum64s* lumsMalloc_64s(int len) { return static_cast<Lum64s*>(alignedAlloc(len, 8)); }
-LUMI_API Lum32sc* lumsMalloc_32sc(int len) { return static_cast<Lum32sc*>(alignedAlloc(len, 8)); }
-LUMI_API Lum32fc* lumsMalloc_32fc(int len) { return static_cast<Lum32fc*>(alignedAlloc(len, 8)); }
-LUMI_API Lum64fc* lumsMalloc_64fc(int len) { return static_cast<Lum64fc*>(alignedAlloc(len, 16)); }
+#define LUMI_VECTOR_ALLOC(NAME, T) \
+  LUMI_API T* NAME(int len) { return static_cast<T*>(alignedAlloc(len, sizeof(T))); }
+LUMI_VECTOR_ALLOC(lumsMalloc_8u, Lum8u)
+LUMI_VECTOR_ALLOC(lumsMalloc_8s, Lum8s)
+LUMI_VECTOR_ALLOC(lumsMalloc_16u, Lum16u)
+LUMI_VECTOR_ALLOC(lumsMalloc_16s, Lum16s)
+LUMI_VECTOR_ALLOC(lumsMalloc_32u, Lum32u)
+LUMI_VECTOR_ALLOC(lumsMalloc_32s, Lum32s)
+LUMI_VECTOR_ALLOC(lumsMalloc_32f, Lum32f)
+LUMI_VECTOR_ALLOC(lumsMalloc_16sc, Lum16sc)
+LUMI_VECTOR_ALLOC(lumsMalloc_64s, Lum64s)
+LUMI_VECTOR_ALLOC(lumsMalloc_32sc, Lum32sc)
+LUMI_VECTOR_ALLOC(lumsMalloc_32fc, Lum32fc)
+LUMI_VECTOR_ALLOC(lumsMalloc_64fc, Lum64fc)
 
 LUMI_API void lumsFree(void* ptr) {
   if (ptr) std::free(static_cast<void**>(ptr)[-1]);
 }
 LUMI_API void lumiFree(void* ptr) { lumsFree(ptr); }
 
-#define LUMI_IMAGE_ALLOC(T, code, layout, bpp)                                   \
-  LUMI_API T* lumiMalloc_##code##_##layout(int width, int height, int* pStep) { \
-    return imageAlloc<T, bpp>(width, height, pStep);                             \
+// An image of pixels of kCh elements of T (AC4 allocates all four).
+#define LUMI_IMAGE_ALLOC(NAME, T, kCh)                        \
+  LUMI_API T* NAME(int width, int height, int* pStep) {       \
+    return imageAlloc<T, kCh * sizeof(T)>(width, height, pStep); \
   }
-#define LUMI_IMAGE_ALLOC_LAYOUTS(T, code)                 \
-  LUMI_IMAGE_ALLOC(T, code, C1, 1 * sizeof(T))            \
-  LUMI_IMAGE_ALLOC(T, code, C2, 2 * sizeof(T))            \
-  LUMI_IMAGE_ALLOC(T, code, C3, 3 * sizeof(T))            \
-  LUMI_IMAGE_ALLOC(T, code, C4, 4 * sizeof(T))            \
-  LUMI_IMAGE_ALLOC(T, code, AC4, 4 * sizeof(T))
-
-LUMI_IMAGE_ALLOC_LAYOUTS(Lum8u, 8u)
-LUMI_IMAGE_ALLOC_LAYOUTS(Lum16u, 16u)
-LUMI_IMAGE_ALLOC_LAYOUTS(Lum16s, 16s)
-LUMI_IMAGE_ALLOC_LAYOUTS(Lum32s, 32s)
-LUMI_IMAGE_ALLOC_LAYOUTS(Lum32f, 32f)
-LUMI_IMAGE_ALLOC_LAYOUTS(Lum32sc, 32sc)
-LUMI_IMAGE_ALLOC_LAYOUTS(Lum32fc, 32fc)
+LUMI_IMAGE_ALLOC(lumiMalloc_8u_C1, Lum8u, 1)
+LUMI_IMAGE_ALLOC(lumiMalloc_8u_C2, Lum8u, 2)
+LUMI_IMAGE_ALLOC(lumiMalloc_8u_C3, Lum8u, 3)
+LUMI_IMAGE_ALLOC(lumiMalloc_8u_C4, Lum8u, 4)
+LUMI_IMAGE_ALLOC(lumiMalloc_8u_AC4, Lum8u, 4)
+LUMI_IMAGE_ALLOC(lumiMalloc_16u_C1, Lum16u, 1)
+LUMI_IMAGE_ALLOC(lumiMalloc_16u_C2, Lum16u, 2)
+LUMI_IMAGE_ALLOC(lumiMalloc_16u_C3, Lum16u, 3)
+LUMI_IMAGE_ALLOC(lumiMalloc_16u_C4, Lum16u, 4)
+LUMI_IMAGE_ALLOC(lumiMalloc_16u_AC4, Lum16u, 4)
+LUMI_IMAGE_ALLOC(lumiMalloc_16s_C1, Lum16s, 1)
+LUMI_IMAGE_ALLOC(lumiMalloc_16s_C2, Lum16s, 2)
+LUMI_IMAGE_ALLOC(lumiMalloc_16s_C3, Lum16s, 3)
+LUMI_IMAGE_ALLOC(lumiMalloc_16s_C4, Lum16s, 4)
+LUMI_IMAGE_ALLOC(lumiMalloc_16s_AC4, Lum16s, 4)
+LUMI_IMAGE_ALLOC(lumiMalloc_32s_C1, Lum32s, 1)
+LUMI_IMAGE_ALLOC(lumiMalloc_32s_C2, Lum32s, 2)
+LUMI_IMAGE_ALLOC(lumiMalloc_32s_C3, Lum32s, 3)
+LUMI_IMAGE_ALLOC(lumiMalloc_32s_C4, Lum32s, 4)
+LUMI_IMAGE_ALLOC(lumiMalloc_32s_AC4, Lum32s, 4)
+LUMI_IMAGE_ALLOC(lumiMalloc_32f_C1, Lum32f, 1)
+LUMI_IMAGE_ALLOC(lumiMalloc_32f_C2, Lum32f, 2)
+LUMI_IMAGE_ALLOC(lumiMalloc_32f_C3, Lum32f, 3)
+LUMI_IMAGE_ALLOC(lumiMalloc_32f_C4, Lum32f, 4)
+LUMI_IMAGE_ALLOC(lumiMalloc_32f_AC4, Lum32f, 4)
+LUMI_IMAGE_ALLOC(lumiMalloc_32sc_C1, Lum32sc, 1)
+LUMI_IMAGE_ALLOC(lumiMalloc_32sc_C2, Lum32sc, 2)
+LUMI_IMAGE_ALLOC(lumiMalloc_32sc_C3, Lum32sc, 3)
+LUMI_IMAGE_ALLOC(lumiMalloc_32sc_C4, Lum32sc, 4)
+LUMI_IMAGE_ALLOC(lumiMalloc_32sc_AC4, Lum32sc, 4)
+LUMI_IMAGE_ALLOC(lumiMalloc_32fc_C1, Lum32fc, 1)
+LUMI_IMAGE_ALLOC(lumiMalloc_32fc_C2, Lum32fc, 2)
+LUMI_IMAGE_ALLOC(lumiMalloc_32fc_C3, Lum32fc, 3)
+LUMI_IMAGE_ALLOC(lumiMalloc_32fc_C4, Lum32fc, 4)
+LUMI_IMAGE_ALLOC(lumiMalloc_32fc_AC4, Lum32fc, 4)
 
 LUMI_API const LumLibraryVersion* lumiGetLibVersion(void) {
   static const LumLibraryVersion kVersion = {
