@@ -6,12 +6,12 @@
 #define HWY_TARGET_INCLUDE "src/arith/scaled_div.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
-#include "core/frame.h"
-#include "arith/scaled_simd-inl.h"
+#include "core/simd.h"
+#include "core/alpha-inl.h"
+#include "arith/scaled_kernels.h"
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
 namespace scaledv {
 
 // s2 / s1 in 32-bit lanes. A zero divisor is replaced by 2^-60, which drives the quotient of
@@ -20,13 +20,13 @@ namespace scaledv {
 // never negative and are rounded by adding 1.5 x 2^23 (the addition rounds with the current
 // mode, as the conversion instruction would); signed ones use the conversion itself.
 template <class T, bool kScaled>
-HWY_INLINE int DivLoop(const T* s1, const T* s2, T* d, int n, float scaleValue, int ac4,
-                       int* done) {
+HWY_INLINE int divLoop(const T* s1, const T* s2, T* d, std::ptrdiff_t n, float scaleValue,
+                       bool keepAlpha, std::ptrdiff_t* done) {
   const hn::ScalableTag<float> df;
   const hn::RebindToSigned<decltype(df)> di;
   const hn::RebindToUnsigned<decltype(di)> du;
   const hn::Rebind<T, decltype(di)> dh;
-  const int N = static_cast<int>(hn::Lanes(df));
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(df));
   const auto scale = hn::Set(df, scaleValue);
   const auto limit = hn::Set(df, 65536.0f), negLimit = hn::Set(df, -65536.0f);
   const auto tiny = hn::Set(df, 8.673617379884035e-19f);  // 2^-60
@@ -35,16 +35,16 @@ HWY_INLINE int DivLoop(const T* s1, const T* s2, T* d, int n, float scaleValue, 
   const auto zero = hn::Zero(di);
   const auto hi = hn::Set(di, int32_t(std::numeric_limits<T>::max()));
   const auto lo = hn::Set(di, int32_t(std::numeric_limits<T>::min()));
-  const auto colour = ColourLanes(dh);
+  const auto colour = colourLanes(dh);
   // alpha lanes never count as zero divisors
-  const auto alphaBits = ac4 ? hn::IfThenZeroElse(ColourLanes(di), hn::Set(di, 1)) : zero;
+  const auto alphaBits = keepAlpha ? hn::IfThenZeroElse(colourLanes(di), hn::Set(di, 1)) : zero;
   auto lowest = hn::Set(di, 1);
-  int i = 0;
+  std::ptrdiff_t i = 0;
   for (; i + N <= n; i += N) {
     const auto b = hn::PromoteTo(di, hn::LoadU(dh, s1 + i));
     const auto a = hn::PromoteTo(di, hn::LoadU(dh, s2 + i));
     const auto bAbs = std::is_signed_v<T> ? hn::Abs(b) : b;
-    lowest = hn::Min(lowest, ac4 ? hn::Or(bAbs, alphaBits) : bAbs);
+    lowest = hn::Min(lowest, keepAlpha ? hn::Or(bAbs, alphaBits) : bAbs);
     const auto fb = hn::IfThenElse(hn::RebindMask(df, hn::Eq(b, zero)), tiny, hn::ConvertTo(df, b));
     auto q = hn::Div(hn::ConvertTo(df, a), fb);
     if (kScaled) q = hn::Mul(q, scale);
@@ -56,22 +56,25 @@ HWY_INLINE int DivLoop(const T* s1, const T* s2, T* d, int n, float scaleValue, 
     }
     r = std::is_signed_v<T> ? hn::Min(hn::Max(r, lo), hi) : hn::Min(r, hi);
     if constexpr (sizeof(T) == 1)  // in range already: the cheapest narrowing will do
-      StoreKeep(dh, hn::TruncateTo(dh, hn::BitCast(du, r)), d + i, ac4, colour);
+      storeColour(dh, hn::TruncateTo(dh, hn::BitCast(du, r)), d + i, keepAlpha, colour);
     else
-      StoreKeep(dh, hn::DemoteTo(dh, r), d + i, ac4, colour);
+      storeColour(dh, hn::DemoteTo(dh, r), d + i, keepAlpha, colour);
   }
   *done = i;
   return hn::AllFalse(di, hn::Eq(lowest, zero)) ? 0 : 1;
 }
 
+// The per-target kernel of Div (twin: scaled::divRowScalar).
 template <class T>
-HWY_NOINLINE int DivRow(const T* s1, const T* s2, T* d, int n, int sf, int ac4) {
+HWY_NOINLINE int divRow(const T* s1, const T* s2, T* d, std::ptrdiff_t n, const ScaleFactor& sf,
+                        bool keepAlpha) {
   const float scaleValue = scaled::divScale(sf);
-  int i = 0;
-  int flag = sf == 0 ? DivLoop<T, false>(s1, s2, d, n, scaleValue, ac4, &i)
-                     : DivLoop<T, true>(s1, s2, d, n, scaleValue, ac4, &i);
+  std::ptrdiff_t i = 0;
+  int flag = sf.mode == ScaleFactor::kNone
+                 ? divLoop<T, false>(s1, s2, d, n, scaleValue, keepAlpha, &i)
+                 : divLoop<T, true>(s1, s2, d, n, scaleValue, keepAlpha, &i);
   for (; i < n; ++i) {
-    if (ac4 && (i & 3) == 3) continue;
+    if (keepAlpha && (i & 3) == 3) continue;
     flag |= s1[i] == 0;
     d[i] = scaled::divElem(s2[i], s1[i], scaleValue);
   }
@@ -79,28 +82,72 @@ HWY_NOINLINE int DivRow(const T* s1, const T* s2, T* d, int n, int sf, int ac4) 
 }
 
 }  // namespace scaledv
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
 
 #if HWY_ONCE
-#include "core/simd.h"
-
 namespace lumi {
+namespace scaled {
 namespace {
-using scaled::RowFn;
-LUMI_SIMD_TABLE(RowFn<Lum8u>, kDiv8u, scaledv::DivRow<Lum8u>);
-LUMI_SIMD_TABLE(RowFn<Lum16u>, kDiv16u, scaledv::DivRow<Lum16u>);
-LUMI_SIMD_TABLE(RowFn<Lum16s>, kDiv16s, scaledv::DivRow<Lum16s>);
+// Called for kDiv only by the stamps below.
+template <int op, class T>
+RowFn<T> pickScaledRow() {
+  static_assert(op == kDiv, "division kernels only");
+  LUMI_SIMD_TABLE(RowFn<T>, table, scaledv::divRow<T>);
+  return pick(table, &divRowScalar<T>);
+}
 }  // namespace
+}  // namespace scaled
 }  // namespace lumi
 
 extern "C" {
-LUMI_SCALED_IMAGE(Div, lumi::scaled::kDiv, 8u, Lum8u, lumi::kDiv8u)
-LUMI_SCALED_IMAGE(Div, lumi::scaled::kDiv, 16u, Lum16u, lumi::kDiv16u)
-LUMI_SCALED_IMAGE(Div, lumi::scaled::kDiv, 16s, Lum16s, lumi::kDiv16s)
-LUMI_SCALED_CONST(DivC, lumi::scaled::kDiv, 8u, Lum8u, lumi::kDiv8u)
-LUMI_SCALED_CONST(DivC, lumi::scaled::kDiv, 16u, Lum16u, lumi::kDiv16u)
-LUMI_SCALED_CONST(DivC, lumi::scaled::kDiv, 16s, Lum16s, lumi::kDiv16s)
+LUMI_SCALED_IMAGE(lumiDiv_8u_C1RSfs, kDiv, Lum8u, C1)
+LUMI_SCALED_IMAGE_I(lumiDiv_8u_C1IRSfs, kDiv, Lum8u, C1)
+LUMI_SCALED_IMAGE(lumiDiv_8u_C3RSfs, kDiv, Lum8u, C3)
+LUMI_SCALED_IMAGE_I(lumiDiv_8u_C3IRSfs, kDiv, Lum8u, C3)
+LUMI_SCALED_IMAGE(lumiDiv_8u_AC4RSfs, kDiv, Lum8u, AC4)
+LUMI_SCALED_IMAGE_I(lumiDiv_8u_AC4IRSfs, kDiv, Lum8u, AC4)
+LUMI_SCALED_IMAGE(lumiDiv_8u_C4RSfs, kDiv, Lum8u, C4)
+LUMI_SCALED_IMAGE_I(lumiDiv_8u_C4IRSfs, kDiv, Lum8u, C4)
+LUMI_SCALED_IMAGE(lumiDiv_16u_C1RSfs, kDiv, Lum16u, C1)
+LUMI_SCALED_IMAGE_I(lumiDiv_16u_C1IRSfs, kDiv, Lum16u, C1)
+LUMI_SCALED_IMAGE(lumiDiv_16u_C3RSfs, kDiv, Lum16u, C3)
+LUMI_SCALED_IMAGE_I(lumiDiv_16u_C3IRSfs, kDiv, Lum16u, C3)
+LUMI_SCALED_IMAGE(lumiDiv_16u_AC4RSfs, kDiv, Lum16u, AC4)
+LUMI_SCALED_IMAGE_I(lumiDiv_16u_AC4IRSfs, kDiv, Lum16u, AC4)
+LUMI_SCALED_IMAGE(lumiDiv_16u_C4RSfs, kDiv, Lum16u, C4)
+LUMI_SCALED_IMAGE_I(lumiDiv_16u_C4IRSfs, kDiv, Lum16u, C4)
+LUMI_SCALED_IMAGE(lumiDiv_16s_C1RSfs, kDiv, Lum16s, C1)
+LUMI_SCALED_IMAGE_I(lumiDiv_16s_C1IRSfs, kDiv, Lum16s, C1)
+LUMI_SCALED_IMAGE(lumiDiv_16s_C3RSfs, kDiv, Lum16s, C3)
+LUMI_SCALED_IMAGE_I(lumiDiv_16s_C3IRSfs, kDiv, Lum16s, C3)
+LUMI_SCALED_IMAGE(lumiDiv_16s_AC4RSfs, kDiv, Lum16s, AC4)
+LUMI_SCALED_IMAGE_I(lumiDiv_16s_AC4IRSfs, kDiv, Lum16s, AC4)
+LUMI_SCALED_IMAGE(lumiDiv_16s_C4RSfs, kDiv, Lum16s, C4)
+LUMI_SCALED_IMAGE_I(lumiDiv_16s_C4IRSfs, kDiv, Lum16s, C4)
+LUMI_SCALED_CONST(lumiDivC_8u_C1RSfs, kDiv, Lum8u, C1, Lum8u, &value)
+LUMI_SCALED_CONST_I(lumiDivC_8u_C1IRSfs, kDiv, Lum8u, C1, Lum8u, &value)
+LUMI_SCALED_CONST(lumiDivC_8u_C3RSfs, kDiv, Lum8u, C3, const Lum8u*, value)
+LUMI_SCALED_CONST_I(lumiDivC_8u_C3IRSfs, kDiv, Lum8u, C3, const Lum8u*, value)
+LUMI_SCALED_CONST(lumiDivC_8u_AC4RSfs, kDiv, Lum8u, AC4, const Lum8u*, value)
+LUMI_SCALED_CONST_I(lumiDivC_8u_AC4IRSfs, kDiv, Lum8u, AC4, const Lum8u*, value)
+LUMI_SCALED_CONST(lumiDivC_8u_C4RSfs, kDiv, Lum8u, C4, const Lum8u*, value)
+LUMI_SCALED_CONST_I(lumiDivC_8u_C4IRSfs, kDiv, Lum8u, C4, const Lum8u*, value)
+LUMI_SCALED_CONST(lumiDivC_16u_C1RSfs, kDiv, Lum16u, C1, Lum16u, &value)
+LUMI_SCALED_CONST_I(lumiDivC_16u_C1IRSfs, kDiv, Lum16u, C1, Lum16u, &value)
+LUMI_SCALED_CONST(lumiDivC_16u_C3RSfs, kDiv, Lum16u, C3, const Lum16u*, value)
+LUMI_SCALED_CONST_I(lumiDivC_16u_C3IRSfs, kDiv, Lum16u, C3, const Lum16u*, value)
+LUMI_SCALED_CONST(lumiDivC_16u_AC4RSfs, kDiv, Lum16u, AC4, const Lum16u*, value)
+LUMI_SCALED_CONST_I(lumiDivC_16u_AC4IRSfs, kDiv, Lum16u, AC4, const Lum16u*, value)
+LUMI_SCALED_CONST(lumiDivC_16u_C4RSfs, kDiv, Lum16u, C4, const Lum16u*, value)
+LUMI_SCALED_CONST_I(lumiDivC_16u_C4IRSfs, kDiv, Lum16u, C4, const Lum16u*, value)
+LUMI_SCALED_CONST(lumiDivC_16s_C1RSfs, kDiv, Lum16s, C1, Lum16s, &value)
+LUMI_SCALED_CONST_I(lumiDivC_16s_C1IRSfs, kDiv, Lum16s, C1, Lum16s, &value)
+LUMI_SCALED_CONST(lumiDivC_16s_C3RSfs, kDiv, Lum16s, C3, const Lum16s*, value)
+LUMI_SCALED_CONST_I(lumiDivC_16s_C3IRSfs, kDiv, Lum16s, C3, const Lum16s*, value)
+LUMI_SCALED_CONST(lumiDivC_16s_AC4RSfs, kDiv, Lum16s, AC4, const Lum16s*, value)
+LUMI_SCALED_CONST_I(lumiDivC_16s_AC4IRSfs, kDiv, Lum16s, AC4, const Lum16s*, value)
+LUMI_SCALED_CONST(lumiDivC_16s_C4RSfs, kDiv, Lum16s, C4, const Lum16s*, value)
+LUMI_SCALED_CONST_I(lumiDivC_16s_C4IRSfs, kDiv, Lum16s, C4, const Lum16s*, value)
 }
 #endif

@@ -3,14 +3,15 @@
 //
 // Every result is the exact integer result r multiplied by 2^-sf, ties rounded to even, and
 // saturated to the pixel type. Row kernels see a row as n elements (width x channels); the
-// dispatchers own all stepping, validation and the scale-factor shortcuts.
+// dispatchers own all stepping, validation and the scale-factor shortcuts, and resolve the
+// scale factor once per call (core/scale_factor.h).
 #pragma once
 
 #include "core/frame.h"
+#include "core/scale_factor.h"
 
 #include <xmmintrin.h>
 
-#include <cmath>
 #include <cstring>
 #include <limits>
 #include <type_traits>
@@ -20,11 +21,12 @@ namespace scaled {
 
 enum Op : int { kAdd = 0, kSub = 1, kMul = 2, kDiv = 3 };
 
-// Row kernel: d[i] = s1[i] (op) s2[i], scaled; Sub gives s2 - s1 and Div s2 / s1. With ac4
-// set, every fourth element (the alpha of a four-channel pixel) of d is left alone. Returns
-// nonzero when a division met a zero divisor in a written element.
+// Row kernel: d[i] = s1[i] (op) s2[i], scaled; Sub gives s2 - s1 and Div s2 / s1. With
+// keepAlpha set, every fourth element (the alpha of a four-channel pixel) of d is left alone.
+// Returns nonzero when a division met a zero divisor in a written element.
 template <class T>
-using RowFn = int (*)(const T* s1, const T* s2, T* d, int n, int sf, int ac4);
+using RowFn = int (*)(const T* s1, const T* s2, T* d, std::ptrdiff_t n, const ScaleFactor& sf,
+                      bool keepAlpha);
 
 // The largest scale factor at which some result can still round to a nonzero value; beyond it
 // every result is zero and the destination is simply cleared.
@@ -34,10 +36,12 @@ constexpr int upperLimit(int op) {
   else if constexpr (std::is_same_v<T, Lum16u>) return op == kAdd ? 17 : op == kSub ? 16 : 32;
   else return op == kMul ? 30 : 16;
 }
-// From this scale factor down the left shift saturates every nonzero result.
+
+// The scale factor of one call: a left shift by the type's width saturates every nonzero
+// result, and right shifts never pass the upper limit (the dispatchers clear the ROI beyond).
 template <class T>
-constexpr int boundBelow() {
-  return sizeof(T) == 1 ? -8 : -16;
+inline ScaleFactor resolveSf(int sf) {
+  return ScaleFactor::resolve(sf, 8 * sizeof(T), 62);
 }
 
 // ---- per-element rules ---------------------------------------------------------------------
@@ -54,33 +58,16 @@ inline int64_t exact(T a, T b) {
   }
 }
 
-// r x 2^-sf for sf >= 1, ties to even (r >> sf is a floor, so this holds for negatives too).
-inline int64_t roundShift(int64_t r, int sf) {
-  const int64_t half = int64_t(1) << (sf - 1);
-  return (r + half - 1 + ((r >> sf) & 1)) >> sf;
-}
-
-// One element with any scale factor up to the member's upper limit.
+// One element with any resolved scale factor.
 template <int op, class T>
-inline T scaledElem(T a, T b, int sf) {
-  int64_t r = exact<op, T>(a, b);
-  if (sf > 0) {
-    r = roundShift(r, sf);
-  } else if (sf < 0) {
-    const int k = sf < -24 ? 24 : -sf;  // 2^24 already saturates any nonzero result
-    r *= int64_t(1) << k;
-  }
-  return saturate<T>(r);
+inline T scaledElem(T a, T b, const ScaleFactor& sf) {
+  return saturate<T>(sf.apply(exact<op, T>(a, b)));
 }
 
 // Division: the single-precision quotient times 2^-sf, converted with the current rounding
 // mode of the SSE unit (round to nearest, ties to even, unless the caller changed it). Scale
 // factors beyond +-40 give the same results as +-40 (every quotient is then 0 or saturated).
-inline float divScale(int sf) {
-  if (sf > 40) sf = 40;
-  if (sf < -40) sf = -40;
-  return std::ldexp(1.0f, -sf);
-}
+inline float divScale(const ScaleFactor& sf) { return sf.factor32(40); }
 template <class T>
 inline T divByZero(T dividend) {
   using Lim = std::numeric_limits<T>;
@@ -94,49 +81,22 @@ inline T divElem(T dividend, T divisor, float scale) {
   return saturate<T>(_mm_cvtss_si32(_mm_set_ss(q)));
 }
 
-// ---- scalar row kernels ----------------------------------------------------------------------
-enum Mode : int { kPlain, kHalf1, kRound, kShift, kBound };
-
-template <class T>
-inline int modeOf(int sf) {
-  if (sf == 0) return kPlain;
-  if (sf == 1) return kHalf1;
-  if (sf > 1) return kRound;
-  return sf >= boundBelow<T>() + 1 ? kShift : kBound;
-}
-
-template <int op, class T, int mode>
-void scalarLoop(const T* s1, const T* s2, T* d, int n, int sf, int ac4) {
-  using Lim = std::numeric_limits<T>;
-  for (int i = 0; i < n; ++i) {
-    if (ac4 && (i & 3) == 3) continue;
-    int64_t r = exact<op, T>(s1[i], s2[i]);
-    if constexpr (mode == kHalf1) r = (r + ((r >> 1) & 1)) >> 1;
-    if constexpr (mode == kRound) r = roundShift(r, sf);
-    if constexpr (mode == kShift) r *= int64_t(1) << -sf;
-    if constexpr (mode == kBound) r = r > 0 ? Lim::max() : r < 0 ? Lim::min() : 0;
-    d[i] = saturate<T>(r);
-  }
-}
-
+// ---- scalar twins ----------------------------------------------------------------------------
 template <int op, class T>
-int scalarRow(const T* s1, const T* s2, T* d, int n, int sf, int ac4) {
-  switch (modeOf<T>(sf)) {
-    case kPlain: scalarLoop<op, T, kPlain>(s1, s2, d, n, sf, ac4); break;
-    case kHalf1: scalarLoop<op, T, kHalf1>(s1, s2, d, n, sf, ac4); break;
-    case kRound: scalarLoop<op, T, kRound>(s1, s2, d, n, sf, ac4); break;
-    case kShift: scalarLoop<op, T, kShift>(s1, s2, d, n, sf, ac4); break;
-    default: scalarLoop<op, T, kBound>(s1, s2, d, n, sf, ac4); break;
-  }
+int scaledRowScalar(const T* s1, const T* s2, T* d, std::ptrdiff_t n, const ScaleFactor& sf,
+                    bool keepAlpha) {
+  for (std::ptrdiff_t i = 0; i < n; ++i)
+    if (!(keepAlpha && (i & 3) == 3)) d[i] = scaledElem<op, T>(s1[i], s2[i], sf);
   return 0;
 }
 
 template <class T>
-int scalarDivRow(const T* s1, const T* s2, T* d, int n, int sf, int ac4) {
+int divRowScalar(const T* s1, const T* s2, T* d, std::ptrdiff_t n, const ScaleFactor& sf,
+                 bool keepAlpha) {
   const float scale = divScale(sf);
   int zero = 0;
-  for (int i = 0; i < n; ++i) {
-    if (ac4 && (i & 3) == 3) continue;
+  for (std::ptrdiff_t i = 0; i < n; ++i) {
+    if (keepAlpha && (i & 3) == 3) continue;
     zero |= s1[i] == 0;
     d[i] = divElem(s2[i], s1[i], scale);
   }
@@ -149,8 +109,15 @@ int scalarDivRow(const T* s1, const T* s2, T* d, int n, int sf, int ac4) {
 constexpr int kChunk = 3072;
 
 template <class L>
-constexpr int ac4Of() {
+constexpr bool keepsAlpha() {
   return L::kUse != L::kCh;
+}
+
+// Writes the colour channels of one row of width pixels (all channels unless AC4).
+template <class T, class L, class F>
+inline void forColour(T* row, int width, F&& f) {
+  for (std::ptrdiff_t x = 0; x < elemsOf(width, L::kCh); x += L::kCh)
+    for (int c = 0; c < L::kUse; ++c) f(x + c);
 }
 
 // Clears the ROI (only the colour channels of AC4). Refuses a step below one, as the fill of
@@ -160,12 +127,8 @@ LumStatus zeroFill(T* d, int dstep, LumiSize roi) {
   if (dstep < 1) return lumStatusStepErr;
   for (int y = 0; y < roi.height; ++y) {
     T* row = rowAt(d, dstep, y);
-    if constexpr (L::kUse == L::kCh) {
-      std::memset(row, 0, sizeof(T) * static_cast<std::size_t>(roi.width) * L::kCh);
-    } else {
-      for (int x = 0; x < roi.width; ++x)
-        for (int c = 0; c < L::kUse; ++c) row[x * L::kCh + c] = 0;
-    }
+    if constexpr (L::kUse == L::kCh) std::memset(row, 0, bytesOf(roi.width, L::kCh, sizeof(T)));
+    else forColour<T, L>(row, roi.width, [&](std::ptrdiff_t i) { row[i] = 0; });
   }
   return lumStatusOk;
 }
@@ -177,42 +140,31 @@ void copyRoi(const T* s, int sstep, T* d, int dstep, LumiSize roi) {
   for (int y = 0; y < roi.height; ++y) {
     const T* in = rowAt(s, sstep, y);
     T* out = rowAt(d, dstep, y);
-    if constexpr (L::kUse == L::kCh) {
-      std::memmove(out, in, sizeof(T) * static_cast<std::size_t>(roi.width) * L::kCh);
-    } else {
-      for (int x = 0; x < roi.width; ++x)
-        for (int c = 0; c < L::kUse; ++c) out[x * L::kCh + c] = in[x * L::kCh + c];
-    }
+    if constexpr (L::kUse == L::kCh) std::memmove(out, in, bytesOf(roi.width, L::kCh, sizeof(T)));
+    else forColour<T, L>(out, roi.width, [&](std::ptrdiff_t i) { out[i] = in[i]; });
   }
-}
-
-template <int op, class T>
-RowFn<T> chooseRow(RowFn<T> simd) {
-  if (simd) return simd;
-  if constexpr (op == kDiv) return &scalarDivRow<T>;
-  else return &scalarRow<op, T>;
 }
 
 // Image (op) image. Validation: pointers, sizes, then the steps where the member checks them.
 template <int op, class T, class L>
 LumStatus imageOp(const T* s1, int st1, const T* s2, int st2, T* d, int dst, LumiSize roi,
-                  int sf, bool checkSteps, bool mayFork, RowFn<T> simd) {
+                  int sf, bool checkSteps, bool mayFork, RowFn<T> fn) {
   if (anyNull(s1, s2, d)) return lumStatusNullPtrErr;
   if (badSize(roi)) return lumStatusSizeErr;
   if (checkSteps && badStep(st1, st2, dst)) return lumStatusStepErr;
   if (op != kDiv && sf > upperLimit<T>(op)) return zeroFill<T, L>(d, dst, roi);
-  const RowFn<T> fn = chooseRow<op, T>(simd);
-  const int n = roi.width * L::kCh;
+  const ScaleFactor scale = resolveSf<T>(sf);
+  const std::ptrdiff_t n = elemsOf(roi.width, L::kCh);
   if constexpr (op == kDiv) {
     FirstStatus status;
     for (int y = 0; y < roi.height; ++y)
-      if (fn(rowAt(s1, st1, y), rowAt(s2, st2, y), rowAt(d, dst, y), n, sf, ac4Of<L>()))
+      if (fn(rowAt(s1, st1, y), rowAt(s2, st2, y), rowAt(d, dst, y), n, scale, keepsAlpha<L>()))
         status.add(lumStatusDivByZeroWarn);
     return status.value;
   }
   forRows(roi.height, mayFork && forkBySum(roi), [&](int y0, int y1) {
     for (int y = y0; y < y1; ++y)
-      fn(rowAt(s1, st1, y), rowAt(s2, st2, y), rowAt(d, dst, y), n, sf, ac4Of<L>());
+      fn(rowAt(s1, st1, y), rowAt(s2, st2, y), rowAt(d, dst, y), n, scale, keepsAlpha<L>());
   });
   return lumStatusOk;
 }
@@ -222,7 +174,7 @@ LumStatus imageOp(const T* s1, int st1, const T* s2, int st2, T* d, int dst, Lum
 // first operand for SubC and DivC (src - value, src / value) and as the second otherwise.
 template <int op, class T, class L>
 LumStatus constOp(const T* src, int sst, const T* vals, T* d, int dst, LumiSize roi, int sf,
-                  bool checkSteps, bool mayFork, RowFn<T> simd) {
+                  bool checkSteps, bool mayFork, RowFn<T> fn) {
   if (anyNull(src, vals, d)) return lumStatusNullPtrErr;
   if (badSize(roi)) return lumStatusSizeErr;
   if (checkSteps && badStep(sst, dst)) return lumStatusStepErr;
@@ -239,34 +191,28 @@ LumStatus constOp(const T* src, int sst, const T* vals, T* d, int dst, LumiSize 
   if (op == kMul && allZero) return zeroFill<T, L>(d, dst, roi);
   if (op != kDiv && sf > upperLimit<T>(op)) return zeroFill<T, L>(d, dst, roi);
 
-  const RowFn<T> fn = chooseRow<op, T>(simd);
-  const int n = roi.width * L::kCh;
+  const ScaleFactor scale = resolveSf<T>(sf);
+  const std::ptrdiff_t n = elemsOf(roi.width, L::kCh);
   T crow[kChunk];  // as much of the pattern as one chunk of the row needs
   const T alpha = 1;
   for (int i = 0, c = 0; i < n && i < kChunk; ++i, c = c + 1 == L::kCh ? 0 : c + 1)
-    crow[i] = ac4Of<L>() && c == 3 ? alpha : vals[c];
+    crow[i] = keepsAlpha<L>() && c == 3 ? alpha : vals[c];
   constexpr bool constFirst = op == kSub || op == kDiv;
   forRows(roi.height, mayFork && forkBySum(roi), [&](int y0, int y1) {
     for (int y = y0; y < y1; ++y) {
       const T* in = rowAt(src, sst, y);
       T* out = rowAt(d, dst, y);
-      for (int off = 0; off < n; off += kChunk) {
-        const int len = n - off < kChunk ? n - off : kChunk;
-        if (constFirst) fn(crow, in + off, out + off, len, sf, ac4Of<L>());
-        else fn(in + off, crow, out + off, len, sf, ac4Of<L>());
+      for (std::ptrdiff_t off = 0; off < n; off += kChunk) {
+        const std::ptrdiff_t len = n - off < kChunk ? n - off : kChunk;
+        if (constFirst) fn(crow, in + off, out + off, len, scale, keepsAlpha<L>());
+        else fn(in + off, crow, out + off, len, scale, keepsAlpha<L>());
       }
     }
   });
   return lumStatusOk;
 }
 
-
 // ---- member properties -----------------------------------------------------------------------
-template <class L>
-constexpr bool isC1() {
-  return L::kCh == 1;
-}
-
 // Which members test their steps (after the sizes) is fixed per member and deliberately
 // irregular: add and subtract never do, nor does any 16u member or 8u multiply; division of
 // 8u and 16s does when not in place; the 16s multiplies do for some layouts only.
@@ -284,73 +230,55 @@ constexpr bool checksSteps() {
 // threads.
 template <int op, class T, class L, bool kConst>
 constexpr bool forks() {
-  return isC1<L>() && !std::is_same_v<T, Lum16u> && (op == kAdd || (op == kMul && !kConst));
+  return L::kCh == 1 && !std::is_same_v<T, Lum16u> && (op == kAdd || (op == kMul && !kConst));
 }
 
 template <int op, class T, class L, bool kInPlace>
 LumStatus imageMember(const T* s1, int st1, const T* s2, int st2, T* d, int dst, LumiSize roi,
-                      int sf, RowFn<T> simd) {
+                      int sf, RowFn<T> fn) {
   return imageOp<op, T, L>(s1, st1, s2, st2, d, dst, roi, sf,
                            checksSteps<op, T, L, false, kInPlace>(), forks<op, T, L, false>(),
-                           simd);
+                           fn);
 }
 template <int op, class T, class L, bool kInPlace>
 LumStatus constMember(const T* src, int sst, const T* vals, T* d, int dst, LumiSize roi, int sf,
-                      RowFn<T> simd) {
+                      RowFn<T> fn) {
   return constOp<op, T, L>(src, sst, vals, d, dst, roi, sf,
-                           checksSteps<op, T, L, true, kInPlace>(), forks<op, T, L, true>(), simd);
+                           checksSteps<op, T, L, true, kInPlace>(), forks<op, T, L, true>(), fn);
 }
 
 }  // namespace scaled
 }  // namespace lumi
 
-// ---- export stamps: all eight layouts of one operation and type ------------------------------
-#define LUMI_SCALED_IMAGE_L(OP, OPC, TC, T, L, TABLE)                                          \
-  LUMI_API LumStatus lumi##OP##_##TC##_##L##RSfs(const T* pSrc1, int src1Step, const T* pSrc2, \
-                                                 int src2Step, T* pDst, int dstStep,           \
-                                                 LumiSize roiSize, int scaleFactor) {          \
-    return lumi::scaled::imageMember<OPC, T, lumi::L, false>(                                 \
+// ---- export stamps ---------------------------------------------------------------------------
+// One line per exported member; OP names the operation, which the including source chooses a
+// row kernel for with its pickScaledRow<OP, T>().
+#define LUMI_SCALED_IMAGE(NAME, OP, T, L)                                                     \
+  LUMI_API LumStatus NAME(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, \
+                          int dstStep, LumiSize roiSize, int scaleFactor) {                    \
+    return lumi::scaled::imageMember<lumi::scaled::OP, T, lumi::L, false>(                    \
         pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roiSize, scaleFactor,                \
-        lumi::pickSimd(TABLE));                                                                \
-  }                                                                                            \
-  LUMI_API LumStatus lumi##OP##_##TC##_##L##IRSfs(const T* pSrc, int srcStep, T* pSrcDst,      \
-                                                  int srcDstStep, LumiSize roiSize,            \
-                                                  int scaleFactor) {                           \
-    return lumi::scaled::imageMember<OPC, T, lumi::L, true>(                                  \
+        lumi::scaled::pickScaledRow<lumi::scaled::OP, T>());                                  \
+  }
+#define LUMI_SCALED_IMAGE_I(NAME, OP, T, L)                                                    \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep,              \
+                          LumiSize roiSize, int scaleFactor) {                                 \
+    return lumi::scaled::imageMember<lumi::scaled::OP, T, lumi::L, true>(                     \
         pSrc, srcStep, pSrcDst, srcDstStep, pSrcDst, srcDstStep, roiSize, scaleFactor,        \
-        lumi::pickSimd(TABLE));                                                                \
+        lumi::scaled::pickScaledRow<lumi::scaled::OP, T>());                                  \
   }
-#define LUMI_SCALED_IMAGE(OP, OPC, TC, T, TABLE)   \
-  LUMI_SCALED_IMAGE_L(OP, OPC, TC, T, C1, TABLE)   \
-  LUMI_SCALED_IMAGE_L(OP, OPC, TC, T, C3, TABLE)   \
-  LUMI_SCALED_IMAGE_L(OP, OPC, TC, T, AC4, TABLE)  \
-  LUMI_SCALED_IMAGE_L(OP, OPC, TC, T, C4, TABLE)
-
-#define LUMI_SCALED_CONST_L(OP, OPC, TC, T, L, NV, TABLE)                                      \
-  LUMI_API LumStatus lumi##OP##_##TC##_##L##RSfs(const T* pSrc, int srcStep, const T value[NV], \
-                                                 T* pDst, int dstStep, LumiSize roiSize,        \
-                                                 int scaleFactor) {                             \
-    return lumi::scaled::constMember<OPC, T, lumi::L, false>(                                  \
-        pSrc, srcStep, value, pDst, dstStep, roiSize, scaleFactor, lumi::pickSimd(TABLE));      \
-  }                                                                                             \
-  LUMI_API LumStatus lumi##OP##_##TC##_##L##IRSfs(const T value[NV], T* pSrcDst, int srcDstStep, \
-                                                  LumiSize roiSize, int scaleFactor) {          \
-    return lumi::scaled::constMember<OPC, T, lumi::L, true>(pSrcDst, srcDstStep, value, pSrcDst, \
-                                                            srcDstStep, roiSize, scaleFactor,   \
-                                                            lumi::pickSimd(TABLE));             \
+// VT is how the constant is passed: T for C1, const T[n] otherwise (VP its address).
+#define LUMI_SCALED_CONST(NAME, OP, T, L, VT, VP)                                              \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, VT value, T* pDst, int dstStep,          \
+                          LumiSize roiSize, int scaleFactor) {                                 \
+    return lumi::scaled::constMember<lumi::scaled::OP, T, lumi::L, false>(                    \
+        pSrc, srcStep, VP, pDst, dstStep, roiSize, scaleFactor,                               \
+        lumi::scaled::pickScaledRow<lumi::scaled::OP, T>());                                  \
   }
-#define LUMI_SCALED_CONST(OP, OPC, TC, T, TABLE)                                                \
-  LUMI_API LumStatus lumi##OP##_##TC##_C1RSfs(const T* pSrc, int srcStep, T value, T* pDst,     \
-                                              int dstStep, LumiSize roiSize, int scaleFactor) { \
-    return lumi::scaled::constMember<OPC, T, lumi::C1, false>(                                 \
-        pSrc, srcStep, &value, pDst, dstStep, roiSize, scaleFactor, lumi::pickSimd(TABLE));     \
-  }                                                                                             \
-  LUMI_API LumStatus lumi##OP##_##TC##_C1IRSfs(T value, T* pSrcDst, int srcDstStep,             \
-                                               LumiSize roiSize, int scaleFactor) {             \
-    return lumi::scaled::constMember<OPC, T, lumi::C1, true>(pSrcDst, srcDstStep, &value,       \
-                                                             pSrcDst, srcDstStep, roiSize,      \
-                                                             scaleFactor, lumi::pickSimd(TABLE)); \
-  }                                                                                             \
-  LUMI_SCALED_CONST_L(OP, OPC, TC, T, C3, 3, TABLE)                                             \
-  LUMI_SCALED_CONST_L(OP, OPC, TC, T, AC4, 3, TABLE)                                            \
-  LUMI_SCALED_CONST_L(OP, OPC, TC, T, C4, 4, TABLE)
+#define LUMI_SCALED_CONST_I(NAME, OP, T, L, VT, VP)                                            \
+  LUMI_API LumStatus NAME(VT value, T* pSrcDst, int srcDstStep, LumiSize roiSize,              \
+                          int scaleFactor) {                                                   \
+    return lumi::scaled::constMember<lumi::scaled::OP, T, lumi::L, true>(                     \
+        pSrcDst, srcDstStep, VP, pSrcDst, srcDstStep, roiSize, scaleFactor,                   \
+        lumi::scaled::pickScaledRow<lumi::scaled::OP, T>());                                  \
+  }
