@@ -4,13 +4,11 @@
 #define HWY_TARGET_INCLUDE "src/threshold/compare.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
-#include "core/frame.h"
-#include "threshold/threshold_kernels.h"
+#include "core/simd.h"
+#include "threshold/threshold_kernels-inl.h"
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
 
 // Writes one byte per lane of the mask: 0xFF where it is set.
 template <class D, class M>
@@ -31,28 +29,27 @@ template <class T, int kRel>
 HWY_INLINE void compareRowRel(const T* a, const T* b, bool bPattern, uint8_t* out, int n,
                               T eps) {
   const hn::ScalableTag<T> d;
-  thrv::patternRow(
+  patternRow(
       d, n,
-      [&](int i, int off) HWY_ATTR {
+      [&](std::ptrdiff_t i, int off) HWY_ATTR {
         const auto x = hn::LoadU(d, a + i);
         const auto y = hn::LoadU(d, b + (bPattern ? off : i));
         if constexpr (kRel == thr::kRelLt) storeMaskBytes(d, hn::Lt(x, y), out + i);
-        else if constexpr (kRel == thr::kRelLe) storeMaskBytes(d, thrv::lessEq(x, y), out + i);
+        else if constexpr (kRel == thr::kRelLe) storeMaskBytes(d, lessEq(x, y), out + i);
         else if constexpr (kRel == thr::kRelEq) storeMaskBytes(d, hn::Eq(x, y), out + i);
-        else if constexpr (kRel == thr::kRelGe) storeMaskBytes(d, thrv::lessEq(y, x), out + i);
+        else if constexpr (kRel == thr::kRelGe) storeMaskBytes(d, lessEq(y, x), out + i);
         else if constexpr (kRel == thr::kRelGt) storeMaskBytes(d, hn::Lt(y, x), out + i);
         else if constexpr (hwy::IsFloat<T>())
           storeMaskBytes(d, hn::Le(hn::Abs(hn::Sub(x, y)), hn::Set(d, eps)), out + i);
       },
-      [&](int i, int off) {
+      [&](std::ptrdiff_t i, int off) {
         out[i] = thr::relationHolds<T>(kRel, a[i], b[bPattern ? off : i], eps) ? 0xFF : 0;
       });
 }
 
 // Per-element masks of n elements; b is an image row, or a pattern when bPattern is set.
 template <class T>
-void CompareRowSimd(const T* a, const T* b, bool bPattern, uint8_t* out, int n, int rel,
-                    T eps) {
+void compareRow(const T* a, const T* b, bool bPattern, uint8_t* out, int n, int rel, T eps) {
   switch (rel) {
     case thr::kRelLt: return compareRowRel<T, thr::kRelLt>(a, b, bPattern, out, n, eps);
     case thr::kRelLe: return compareRowRel<T, thr::kRelLe>(a, b, bPattern, out, n, eps);
@@ -64,7 +61,7 @@ void CompareRowSimd(const T* a, const T* b, bool bPattern, uint8_t* out, int n, 
 }
 
 // Pixel masks from per-element masks: 0xFF only where the first `use` of `ch` channels are.
-void AllChannelsSimd(const uint8_t* m, uint8_t* out, int pixels, int ch, int use) {
+void allChannels(const uint8_t* m, uint8_t* out, int pixels, int ch, int use) {
   const hn::ScalableTag<uint8_t> d;
   const int N = static_cast<int>(hn::Lanes(d));
   int x = 0;
@@ -90,99 +87,104 @@ void AllChannelsSimd(const uint8_t* m, uint8_t* out, int pixels, int ch, int use
   }
 }
 
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
 
 #if HWY_ONCE
-#include "core/simd.h"
-
 namespace lumi {
 namespace {
 
 template <class T>
 using CompareRowFn = void (*)(const T*, const T*, bool, uint8_t*, int, int, T);
-LUMI_SIMD_TABLE(CompareRowFn<Lum8u>, kCompare8u, CompareRowSimd<Lum8u>);
-LUMI_SIMD_TABLE(CompareRowFn<Lum16s>, kCompare16s, CompareRowSimd<Lum16s>);
-LUMI_SIMD_TABLE(CompareRowFn<Lum32f>, kCompare32f, CompareRowSimd<Lum32f>);
 using AllChannelsFn = void (*)(const uint8_t*, uint8_t*, int, int, int);
-LUMI_SIMD_TABLE(AllChannelsFn, kAllChannels, AllChannelsSimd);
 
 template <class T>
-CompareRowFn<T> compareSimd() {
-  if constexpr (std::is_same_v<T, Lum8u>) return pickSimd(kCompare8u);
-  else if constexpr (std::is_same_v<T, Lum16s>) return pickSimd(kCompare16s);
-  else return pickSimd(kCompare32f);
+void compareRowScalar(const T* a, const T* b, bool bPattern, uint8_t* out, int n, int rel,
+                      T eps) {
+  thr::withConstant<6>(rel, [&](auto r) {
+    for (int i = 0; i < n; ++i)
+      out[i] = thr::relationHolds<T>(r.value, a[i], b[bPattern ? i % thr::kPatternLen : i], eps)
+                   ? 0xFF
+                   : 0;
+  });
 }
 
-// Pixels per block of the multi-channel vector path; block * channels is a multiple of the
-// pattern length, so a constant's pattern restarts cleanly at every block.
+void allChannelsScalar(const uint8_t* m, uint8_t* out, int pixels, int ch, int use) {
+  for (int x = 0; x < pixels; ++x) {
+    uint8_t r = 0xFF;
+    for (int c = 0; c < use; ++c) r &= m[x * ch + c];
+    out[x] = r;
+  }
+}
+
+template <class T>
+CompareRowFn<T> pickCompareRow() {
+  LUMI_SIMD_TABLE(CompareRowFn<T>, table, compareRow<T>);
+  return pick(table, &compareRowScalar<T>);
+}
+
+AllChannelsFn pickAllChannels() {
+  LUMI_SIMD_TABLE(AllChannelsFn, table, allChannels);
+  return pick(table, &allChannelsScalar);
+}
+
+// Pixels per block of the multi-channel rows; block * channels is a multiple of the pattern
+// length, so a constant's pattern restarts cleanly at every block.
 constexpr int kBlockPixels = 960;
 static_assert(kBlockPixels * 3 % thr::kPatternLen == 0 && kBlockPixels * 4 % thr::kPatternLen == 0,
               "block must hold whole patterns");
 
 // b/bStep: the second image, or (bStep ignored) the per-channel constants when bConst.
+// Multi-channel rows are compared element by element a block at a time, then every pixel's
+// channels are combined.
 template <class T, class L>
 void runCompare(const T* a, int aStep, const T* b, int bStep, bool bConst, Lum8u* dst,
                 int dstStep, LumiSize roi, int rel, T eps) {
-  auto f = compareSimd<T>();
-  auto all = pickSimd(kAllChannels);
-  if (f && all) {
-    thr::Pattern<T> pat;
-    if (bConst) thr::fillPattern(pat, b, L::kCh, L::kUse);
-    alignas(64) uint8_t tmp[kBlockPixels * 4];
-    for (int y = 0; y < roi.height; ++y) {
-      const T* ar = rowAt(a, aStep, y);
-      const T* br = bConst ? pat.v : rowAt(b, bStep, y);
-      Lum8u* o = rowAt(dst, dstStep, y);
-      if (L::kCh == 1) {
-        f(ar, br, bConst, o, roi.width, rel, eps);
-        continue;
-      }
-      for (int x = 0; x < roi.width; x += kBlockPixels) {
-        const int cnt = roi.width - x < kBlockPixels ? roi.width - x : kBlockPixels;
-        const std::ptrdiff_t e = static_cast<std::ptrdiff_t>(x) * L::kCh;
-        f(ar + e, bConst ? br : br + e, bConst, tmp, cnt * L::kCh, rel, eps);
-        all(tmp, o + x, cnt, L::kCh, L::kUse);
-      }
+  const auto f = pickCompareRow<T>();
+  const auto all = pickAllChannels();
+  thr::Pattern<T> pat;
+  if (bConst) thr::fillPattern(pat, b, L::kCh, L::kUse);
+  alignas(64) uint8_t tmp[kBlockPixels * 4];
+  for (int y = 0; y < roi.height; ++y) {
+    const T* ar = rowAt(a, aStep, y);
+    const T* br = bConst ? pat.v : rowAt(b, bStep, y);
+    Lum8u* o = rowAt(dst, dstStep, y);
+    if (L::kCh == 1) {
+      f(ar, br, bConst, o, roi.width, rel, eps);
+      continue;
     }
-    return;
+    for (int x = 0; x < roi.width; x += kBlockPixels) {
+      const int cnt = roi.width - x < kBlockPixels ? roi.width - x : kBlockPixels;
+      const std::ptrdiff_t e = elemsOf(x, L::kCh);
+      f(ar + e, bConst ? br : br + e, bConst, tmp, cnt * L::kCh, rel, eps);
+      all(tmp, o + x, cnt, L::kCh, L::kUse);
+    }
   }
-  thr::withConstant<6>(rel, [&](auto r) {
-    for (int y = 0; y < roi.height; ++y) {
-      const T* ar = rowAt(a, aStep, y);
-      const T* br = bConst ? b : rowAt(b, bStep, y);
-      Lum8u* o = rowAt(dst, dstStep, y);
-      for (int x = 0; x < roi.width; ++x) {
-        bool all = true;
-        for (int c = 0; c < L::kUse; ++c)
-          all = all && thr::relationHolds<T>(r.value, ar[x * L::kCh + c],
-                                             bConst ? br[c] : br[x * L::kCh + c], eps);
-        o[x] = all ? 0xFF : 0;
-      }
-    }
-  });
 }
 
-// Pointers, steps, size; an operation outside 0..4 then succeeds without writing.
+// Pointers, steps, size (b holds constants and has no step when bConst).
+template <class T>
+LumStatus checkCompare(const T* a, int aStep, const T* b, int bStep, bool bConst, Lum8u* dst,
+                       int dstStep, LumiSize roi) {
+  return bConst ? thr::checkStepsThenSize(anyNull(a, b, dst), roi, aStep, dstStep)
+                : thr::checkStepsThenSize(anyNull(a, b, dst), roi, aStep, bStep, dstStep);
+}
+
+// The images; an operation outside 0..4 then succeeds without writing.
 template <class T, class L>
 LumStatus compareImpl(const T* a, int aStep, const T* b, int bStep, bool bConst, Lum8u* dst,
                       int dstStep, LumiSize roi, LumCompareOp op) {
-  if (anyNull(a, b, dst)) return lumStatusNullPtrErr;
-  if (bConst ? badStep(aStep, dstStep) : badStep(aStep, bStep, dstStep)) return lumStatusStepErr;
-  if (badSize(roi)) return lumStatusSizeErr;
+  if (LumStatus st = checkCompare(a, aStep, b, bStep, bConst, dst, dstStep, roi)) return st;
   if (op < lumCmpLess || op > lumCmpGreater) return lumStatusOk;
   runCompare<T, L>(a, aStep, b, bStep, bConst, dst, dstStep, roi, op, T());
   return lumStatusOk;
 }
 
-// Pointers, steps, size, then a tolerance that is not at least zero (NaN included).
+// The images, then a tolerance that is not at least zero (NaN included).
 template <class L>
 LumStatus compareEpsImpl(const Lum32f* a, int aStep, const Lum32f* b, int bStep, bool bConst,
                          Lum8u* dst, int dstStep, LumiSize roi, Lum32f eps) {
-  if (anyNull(a, b, dst)) return lumStatusNullPtrErr;
-  if (bConst ? badStep(aStep, dstStep) : badStep(aStep, bStep, dstStep)) return lumStatusStepErr;
-  if (badSize(roi)) return lumStatusSizeErr;
+  if (LumStatus st = checkCompare(a, aStep, b, bStep, bConst, dst, dstStep, roi)) return st;
   if (!(eps >= 0.0f)) return lumStatusEpsilonErr;
   runCompare<Lum32f, L>(a, aStep, b, bStep, bConst, dst, dstStep, roi, thr::kRelEqEps, eps);
   return lumStatusOk;
@@ -191,59 +193,71 @@ LumStatus compareEpsImpl(const Lum32f* a, int aStep, const Lum32f* b, int bStep,
 }  // namespace
 }  // namespace lumi
 
-using lumi::C1;
-using lumi::C3;
-using lumi::AC4;
-using lumi::C4;
-
+// ---- exported functions -----------------------------------------------------------------------
+// K: C1 takes the constant by value (SCALAR), the others an array (ARRAY).
 #define LUMI_CMP_SCALAR(T) T
 #define LUMI_CMP_ARRAY(T) const T*
 #define LUMI_CMP_ADDR_SCALAR(x) &x
 #define LUMI_CMP_ADDR_ARRAY(x) x
 
-#define LUMI_COMPARE(tc, T, L, KIND)                                                            \
-  LUMI_API LumStatus lumiCompare_##tc##_##L##R(const T* pSrc1, int src1Step, const T* pSrc2,    \
-                                               int src2Step, Lum8u* pDst, int dstStep,          \
-                                               LumiSize roi, LumCompareOp op) {                 \
-    return lumi::compareImpl<T, L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst, dstStep,      \
-                                   roi, op);                                                    \
-  }                                                                                             \
-  LUMI_API LumStatus lumiCompareC_##tc##_##L##R(const T* pSrc, int srcStep,                     \
-                                                LUMI_CMP_##KIND(T) value, Lum8u* pDst,          \
-                                                int dstStep, LumiSize roi, LumCompareOp op) {   \
-    return lumi::compareImpl<T, L>(pSrc, srcStep, LUMI_CMP_ADDR_##KIND(value), 0, true, pDst,   \
-                                   dstStep, roi, op);                                           \
+#define LUMI_COMPARE(NAME, T, L)                                                               \
+  LUMI_API LumStatus NAME(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step,          \
+                          Lum8u* pDst, int dstStep, LumiSize roi, LumCompareOp op) {           \
+    return lumi::compareImpl<T, lumi::L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst, dstStep,   \
+                                         roi, op);                                                  \
   }
-
-#define LUMI_COMPARE_EPS(L, KIND)                                                               \
-  LUMI_API LumStatus lumiCompareEqualEps_32f_##L##R(const Lum32f* pSrc1, int src1Step,          \
-                                                    const Lum32f* pSrc2, int src2Step,          \
-                                                    Lum8u* pDst, int dstStep, LumiSize roi,     \
-                                                    Lum32f eps) {                               \
-    return lumi::compareEpsImpl<L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst, dstStep, roi, \
-                                   eps);                                                        \
-  }                                                                                             \
-  LUMI_API LumStatus lumiCompareEqualEpsC_32f_##L##R(const Lum32f* pSrc, int srcStep,           \
-                                                     LUMI_CMP_##KIND(Lum32f) value, Lum8u* pDst, \
-                                                     int dstStep, LumiSize roi, Lum32f eps) {   \
-    return lumi::compareEpsImpl<L>(pSrc, srcStep, LUMI_CMP_ADDR_##KIND(value), 0, true, pDst,   \
-                                   dstStep, roi, eps);                                          \
+#define LUMI_COMPARE_C(NAME, T, L, K)                                                          \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LUMI_CMP_##K(T) value, Lum8u* pDst,      \
+                          int dstStep, LumiSize roi, LumCompareOp op) {                        \
+    return lumi::compareImpl<T, lumi::L>(pSrc, srcStep, LUMI_CMP_ADDR_##K(value), 0, true, \
+                                         pDst, dstStep, roi, op);                                    \
   }
-
-#define LUMI_COMPARE_TYPE(tc, T)   \
-  LUMI_COMPARE(tc, T, C1, SCALAR)  \
-  LUMI_COMPARE(tc, T, C3, ARRAY)   \
-  LUMI_COMPARE(tc, T, C4, ARRAY)   \
-  LUMI_COMPARE(tc, T, AC4, ARRAY)
+#define LUMI_COMPARE_EPS(NAME, L)                                                              \
+  LUMI_API LumStatus NAME(const Lum32f* pSrc1, int src1Step, const Lum32f* pSrc2,              \
+                          int src2Step, Lum8u* pDst, int dstStep, LumiSize roi, Lum32f eps) {  \
+    return lumi::compareEpsImpl<lumi::L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst, dstStep,   \
+                                         roi, eps);                                                 \
+  }
+#define LUMI_COMPARE_EPS_C(NAME, L, K)                                                         \
+  LUMI_API LumStatus NAME(const Lum32f* pSrc, int srcStep, LUMI_CMP_##K(Lum32f) value,         \
+                          Lum8u* pDst, int dstStep, LumiSize roi, Lum32f eps) {                \
+    return lumi::compareEpsImpl<lumi::L>(pSrc, srcStep, LUMI_CMP_ADDR_##K(value), 0, true, \
+                                         pDst, dstStep, roi, eps);                                   \
+  }
 
 extern "C" {
-LUMI_COMPARE_TYPE(8u, Lum8u)
-LUMI_COMPARE_TYPE(16s, Lum16s)
-LUMI_COMPARE_TYPE(32f, Lum32f)
-LUMI_COMPARE_EPS(C1, SCALAR)
-LUMI_COMPARE_EPS(C3, ARRAY)
-LUMI_COMPARE_EPS(C4, ARRAY)
-LUMI_COMPARE_EPS(AC4, ARRAY)
+LUMI_COMPARE(lumiCompare_8u_C1R, Lum8u, C1)
+LUMI_COMPARE_C(lumiCompareC_8u_C1R, Lum8u, C1, SCALAR)
+LUMI_COMPARE(lumiCompare_8u_C3R, Lum8u, C3)
+LUMI_COMPARE_C(lumiCompareC_8u_C3R, Lum8u, C3, ARRAY)
+LUMI_COMPARE(lumiCompare_8u_C4R, Lum8u, C4)
+LUMI_COMPARE_C(lumiCompareC_8u_C4R, Lum8u, C4, ARRAY)
+LUMI_COMPARE(lumiCompare_8u_AC4R, Lum8u, AC4)
+LUMI_COMPARE_C(lumiCompareC_8u_AC4R, Lum8u, AC4, ARRAY)
+LUMI_COMPARE(lumiCompare_16s_C1R, Lum16s, C1)
+LUMI_COMPARE_C(lumiCompareC_16s_C1R, Lum16s, C1, SCALAR)
+LUMI_COMPARE(lumiCompare_16s_C3R, Lum16s, C3)
+LUMI_COMPARE_C(lumiCompareC_16s_C3R, Lum16s, C3, ARRAY)
+LUMI_COMPARE(lumiCompare_16s_C4R, Lum16s, C4)
+LUMI_COMPARE_C(lumiCompareC_16s_C4R, Lum16s, C4, ARRAY)
+LUMI_COMPARE(lumiCompare_16s_AC4R, Lum16s, AC4)
+LUMI_COMPARE_C(lumiCompareC_16s_AC4R, Lum16s, AC4, ARRAY)
+LUMI_COMPARE(lumiCompare_32f_C1R, Lum32f, C1)
+LUMI_COMPARE_C(lumiCompareC_32f_C1R, Lum32f, C1, SCALAR)
+LUMI_COMPARE(lumiCompare_32f_C3R, Lum32f, C3)
+LUMI_COMPARE_C(lumiCompareC_32f_C3R, Lum32f, C3, ARRAY)
+LUMI_COMPARE(lumiCompare_32f_C4R, Lum32f, C4)
+LUMI_COMPARE_C(lumiCompareC_32f_C4R, Lum32f, C4, ARRAY)
+LUMI_COMPARE(lumiCompare_32f_AC4R, Lum32f, AC4)
+LUMI_COMPARE_C(lumiCompareC_32f_AC4R, Lum32f, AC4, ARRAY)
+LUMI_COMPARE_EPS(lumiCompareEqualEps_32f_C1R, C1)
+LUMI_COMPARE_EPS_C(lumiCompareEqualEpsC_32f_C1R, C1, SCALAR)
+LUMI_COMPARE_EPS(lumiCompareEqualEps_32f_C3R, C3)
+LUMI_COMPARE_EPS_C(lumiCompareEqualEpsC_32f_C3R, C3, ARRAY)
+LUMI_COMPARE_EPS(lumiCompareEqualEps_32f_C4R, C4)
+LUMI_COMPARE_EPS_C(lumiCompareEqualEpsC_32f_C4R, C4, ARRAY)
+LUMI_COMPARE_EPS(lumiCompareEqualEps_32f_AC4R, AC4)
+LUMI_COMPARE_EPS_C(lumiCompareEqualEpsC_32f_AC4R, AC4, ARRAY)
 }
 
 #endif  // HWY_ONCE

@@ -4,130 +4,99 @@
 #define HWY_TARGET_INCLUDE "src/threshold/logic.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
-#include "core/frame.h"
-#include "threshold/threshold_kernels.h"
+#include "core/simd.h"
+#include "threshold/threshold_kernels-inl.h"
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
 
 template <class U, int kOp>
-HWY_INLINE void logicRowsOp(const U* a, int aStep, const U* b, int bStep, bool bPattern, U* dst,
-                            int dstStep, int n, int height, const U* keep) {
+HWY_INLINE void logicRowsOp(const thr::ElemRows<U>& r) {
   const hn::ScalableTag<U> d;
-  for (int y = 0; y < height; ++y) {
-    const U* ar = rowAt(a, aStep, y);
-    const U* br = bPattern ? b : rowAt(b, bStep, y);
-    U* o = rowAt(dst, dstStep, y);
-    thrv::patternRow(
-        d, n,
-        [&](int i, int off) HWY_ATTR {
-          const auto x = hn::LoadU(d, ar + i);
-          const auto v = hn::LoadU(d, br + (bPattern ? off : i));
-          hn::Vec<decltype(d)> r;
-          if constexpr (kOp == thr::kAnd) r = hn::And(x, v);
-          else if constexpr (kOp == thr::kOr) r = hn::Or(x, v);
-          else r = hn::Xor(x, v);
-          thrv::storeKeeping(d, r, o + i, keep, off);
-        },
-        [&](int i, int off) {
-          if (thr::keepLane(keep, sizeof(U), off)) return;
-          o[i] = thr::logicSample<U>(kOp, ar[i], br[bPattern ? off : i]);
-        });
-  }
+  const bool bPattern = r.bStep == 0;
+  patternRows(
+      d, r,
+      [&](const U* a, const U* b, std::ptrdiff_t i, int off) HWY_ATTR {
+        const auto x = hn::LoadU(d, a + i);
+        const auto v = hn::LoadU(d, bPattern ? b + off : b + i);
+        if constexpr (kOp == thr::kAnd) return hn::And(x, v);
+        else if constexpr (kOp == thr::kOr) return hn::Or(x, v);
+        else return hn::Xor(x, v);
+      },
+      [&](const U* a, const U* b, std::ptrdiff_t i, int off) {
+        return thr::logicSample<U>(kOp, a[i], bPattern ? b[off] : b[i]);
+      });
 }
 
-// Rows of n elements; b is an image, or a pattern of constants when bPattern is set.
+// b is an image, or a pattern of constants when r.bStep is 0.
 template <class U>
-void LogicRowsSimd(const U* a, int aStep, const U* b, int bStep, bool bPattern, U* dst,
-                   int dstStep, int n, int height, int op, const U* keep) {
+void logicRows(const thr::ElemRows<U>& r, int op) {
   switch (op) {
-    case thr::kAnd:
-      return logicRowsOp<U, thr::kAnd>(a, aStep, b, bStep, bPattern, dst, dstStep, n, height,
-                                       keep);
-    case thr::kOr:
-      return logicRowsOp<U, thr::kOr>(a, aStep, b, bStep, bPattern, dst, dstStep, n, height,
-                                      keep);
-    default:
-      return logicRowsOp<U, thr::kXor>(a, aStep, b, bStep, bPattern, dst, dstStep, n, height,
-                                       keep);
+    case thr::kAnd: return logicRowsOp<U, thr::kAnd>(r);
+    case thr::kOr: return logicRowsOp<U, thr::kOr>(r);
+    default: return logicRowsOp<U, thr::kXor>(r);
   }
 }
 
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
 
 #if HWY_ONCE
-#include "core/simd.h"
-
 namespace lumi {
 namespace {
 
 template <class U>
-using LogicRowsFn = void (*)(const U*, int, const U*, int, bool, U*, int, int, int, int,
-                             const U*);
-LUMI_SIMD_TABLE(LogicRowsFn<uint8_t>, kLogic8, LogicRowsSimd<uint8_t>);
-LUMI_SIMD_TABLE(LogicRowsFn<uint16_t>, kLogic16, LogicRowsSimd<uint16_t>);
-LUMI_SIMD_TABLE(LogicRowsFn<uint32_t>, kLogic32, LogicRowsSimd<uint32_t>);
+using LogicRowsFn = void (*)(const thr::ElemRows<U>&, int);
 
 template <class U>
-LogicRowsFn<U> logicSimd() {
-  if constexpr (sizeof(U) == 1) return pickSimd(kLogic8);
-  else if constexpr (sizeof(U) == 2) return pickSimd(kLogic16);
-  else return pickSimd(kLogic32);
+void logicRowsScalar(const thr::ElemRows<U>& r, int op) {
+  const bool bPattern = r.bStep == 0;
+  thr::withConstant<3>(op, [&](auto k) {
+    thr::forElements(r, [&](const U* a, const U* b, U* o, std::ptrdiff_t i, int c) {
+      o[i] = thr::logicSample<U>(k.value, a[i], bPattern ? b[c] : b[i]);
+    });
+  });
 }
 
-// Logic is on bits only, so every type runs as the unsigned type of its width.
+template <class U>
+LogicRowsFn<U> pickLogicRows() {
+  LUMI_SIMD_TABLE(LogicRowsFn<U>, table, logicRows<U>);
+  return pick(table, &logicRowsScalar<U>);
+}
+
+// Logic is on bits only, so every type runs as the unsigned type of its width. b is the
+// second image, or (bStep 0) the per-channel constants.
 template <class T, class L>
-void runLogic(const T* a, int aStep, const T* b, int bStep, bool bConst, T* dst, int dstStep,
-              LumiSize roi, int op) {
+void runLogic(const T* a, int aStep, const T* b, int bStep, T* dst, int dstStep, LumiSize roi,
+              int op) {
   using U = std::make_unsigned_t<T>;
-  const U* ua = reinterpret_cast<const U*>(a);
   const U* ub = reinterpret_cast<const U*>(b);
-  U* ud = reinterpret_cast<U*>(dst);
-  if (auto f = logicSimd<U>()) {
-    thr::Pattern<U> pat, keep;
-    if (bConst) thr::fillPattern(pat, ub, L::kCh, L::kUse);
-    const bool alpha = L::kUse < L::kCh;
-    if (alpha) thr::fillKeep(keep, L::kCh, L::kUse);
-    f(ua, aStep, bConst ? pat.v : ub, bStep, bConst, ud, dstStep, roi.width * L::kCh,
-      roi.height, op, alpha ? keep.v : nullptr);
-    return;
+  thr::Pattern<U> pat;
+  if (!bStep) {
+    thr::fillPattern(pat, ub, L::kCh, L::kUse);
+    ub = pat.v;
   }
-  thr::withConstant<3>(op, [&](auto k) {
-    for (int y = 0; y < roi.height; ++y) {
-      const U* ar = rowAt(ua, aStep, y);
-      const U* br = bConst ? ub : rowAt(ub, bStep, y);
-      U* o = rowAt(ud, dstStep, y);
-      for (int x = 0; x < roi.width; ++x)
-        for (int c = 0; c < L::kUse; ++c) {
-          const int i = x * L::kCh + c;
-          o[i] = thr::logicSample<U>(k.value, ar[i], bConst ? br[c] : br[i]);
-        }
-    }
-  });
+  pickLogicRows<U>()(thr::elemRows<L>(reinterpret_cast<const U*>(a), aStep, ub, bStep,
+                                      reinterpret_cast<U*>(dst), dstStep, roi),
+                     op);
 }
 
 // Pointers, steps, then the size.
 template <class T, class L>
 LumStatus logicImpl(const T* a, int aStep, const T* b, int bStep, T* dst, int dstStep,
                     LumiSize roi, int op) {
-  if (anyNull(a, b, dst)) return lumStatusNullPtrErr;
-  if (badStep(aStep, bStep, dstStep)) return lumStatusStepErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  runLogic<T, L>(a, aStep, b, bStep, false, dst, dstStep, roi, op);
+  if (LumStatus st = thr::checkStepsThenSize(anyNull(a, b, dst), roi, aStep, bStep, dstStep))
+    return st;
+  runLogic<T, L>(a, aStep, b, bStep, dst, dstStep, roi, op);
   return lumStatusOk;
 }
 
 template <class T, class L>
 LumStatus logicConstImpl(const T* a, int aStep, const T* value, T* dst, int dstStep,
                          LumiSize roi, int op) {
-  if (anyNull(a, value, dst)) return lumStatusNullPtrErr;
-  if (badStep(aStep, dstStep)) return lumStatusStepErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  runLogic<T, L>(a, aStep, value, 0, true, dst, dstStep, roi, op);
+  if (LumStatus st = thr::checkStepsThenSize(anyNull(a, value, dst), roi, aStep, dstStep))
+    return st;
+  runLogic<T, L>(a, aStep, value, 0, dst, dstStep, roi, op);
   return lumStatusOk;
 }
 
@@ -141,75 +110,205 @@ LumStatus notImpl(const Lum8u* src, int srcStep, Lum8u* dst, int dstStep, LumiSi
 }  // namespace
 }  // namespace lumi
 
-using lumi::C1;
-using lumi::C3;
-using lumi::AC4;
-using lumi::C4;
-
+// ---- exported functions -----------------------------------------------------------------------
+// K: C1 takes the constant by value (SCALAR), the others an array (ARRAY).
 #define LUMI_LOGIC_SCALAR(T) T
 #define LUMI_LOGIC_ARRAY(T) const T*
 #define LUMI_LOGIC_ADDR_SCALAR(x) &x
 #define LUMI_LOGIC_ADDR_ARRAY(x) x
 
-#define LUMI_LOGIC(Op, OPCODE, tc, T, L, KIND)                                                  \
-  LUMI_API LumStatus lumi##Op##_##tc##_##L##R(const T* pSrc1, int src1Step, const T* pSrc2,     \
-                                              int src2Step, T* pDst, int dstStep,               \
-                                              LumiSize roi) {                                   \
-    return lumi::logicImpl<T, L>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roi, OPCODE); \
-  }                                                                                             \
-  LUMI_API LumStatus lumi##Op##_##tc##_##L##IR(const T* pSrc, int srcStep, T* pSrcDst,          \
-                                               int srcDstStep, LumiSize roi) {                  \
-    return lumi::logicImpl<T, L>(pSrc, srcStep, pSrcDst, srcDstStep, pSrcDst, srcDstStep, roi,  \
-                                 OPCODE);                                                       \
-  }                                                                                             \
-  LUMI_API LumStatus lumi##Op##C_##tc##_##L##R(const T* pSrc, int srcStep,                      \
-                                               LUMI_LOGIC_##KIND(T) value, T* pDst,             \
-                                               int dstStep, LumiSize roi) {                     \
-    return lumi::logicConstImpl<T, L>(pSrc, srcStep, LUMI_LOGIC_ADDR_##KIND(value), pDst,       \
-                                      dstStep, roi, OPCODE);                                    \
-  }                                                                                             \
-  LUMI_API LumStatus lumi##Op##C_##tc##_##L##IR(LUMI_LOGIC_##KIND(T) value, T* pSrcDst,         \
-                                                int srcDstStep, LumiSize roi) {                 \
-    return lumi::logicConstImpl<T, L>(pSrcDst, srcDstStep, LUMI_LOGIC_ADDR_##KIND(value),       \
-                                      pSrcDst, srcDstStep, roi, OPCODE);                        \
+#define LUMI_LOGIC(NAME, OP, T, L)                                                            \
+  LUMI_API LumStatus NAME(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step,         \
+                          T* pDst, int dstStep, LumiSize roi) {                               \
+    return lumi::logicImpl<T, lumi::L>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roi,  \
+                                       lumi::thr::OP);                                        \
   }
-
-#define LUMI_LOGIC_LAYOUTS(Op, OPCODE, tc, T) \
-  LUMI_LOGIC(Op, OPCODE, tc, T, C1, SCALAR)   \
-  LUMI_LOGIC(Op, OPCODE, tc, T, C3, ARRAY)    \
-  LUMI_LOGIC(Op, OPCODE, tc, T, C4, ARRAY)    \
-  LUMI_LOGIC(Op, OPCODE, tc, T, AC4, ARRAY)
-
-#define LUMI_LOGIC_TYPES(Op, OPCODE)               \
-  LUMI_LOGIC_LAYOUTS(Op, OPCODE, 8u, Lum8u)        \
-  LUMI_LOGIC_LAYOUTS(Op, OPCODE, 16u, Lum16u)      \
-  LUMI_LOGIC_LAYOUTS(Op, OPCODE, 32s, Lum32s)
-
-#define LUMI_NOT(L)                                                                             \
-  LUMI_API LumStatus lumiNot_8u_##L##R(const Lum8u* pSrc, int srcStep, Lum8u* pDst,             \
-                                       int dstStep, LumiSize roi) {                             \
-    return lumi::notImpl<L>(pSrc, srcStep, pDst, dstStep, roi);                                 \
-  }                                                                                             \
-  LUMI_API LumStatus lumiNot_8u_##L##IR(Lum8u* pSrcDst, int srcDstStep, LumiSize roi) {         \
-    return lumi::notImpl<L>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, roi);                     \
+#define LUMI_LOGIC_I(NAME, OP, T, L)                                                          \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep,             \
+                          LumiSize roi) {                                                     \
+    return lumi::logicImpl<T, lumi::L>(pSrc, srcStep, pSrcDst, srcDstStep, pSrcDst,           \
+                                       srcDstStep, roi, lumi::thr::OP);                       \
+  }
+#define LUMI_LOGIC_C(NAME, OP, T, L, K)                                                       \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LUMI_LOGIC_##K(T) value, T* pDst,       \
+                          int dstStep, LumiSize roi) {                                        \
+    return lumi::logicConstImpl<T, lumi::L>(pSrc, srcStep, LUMI_LOGIC_ADDR_##K(value), pDst,  \
+                                            dstStep, roi, lumi::thr::OP);                     \
+  }
+#define LUMI_LOGIC_CI(NAME, OP, T, L, K)                                                      \
+  LUMI_API LumStatus NAME(LUMI_LOGIC_##K(T) value, T* pSrcDst, int srcDstStep, LumiSize roi) { \
+    return lumi::logicConstImpl<T, lumi::L>(pSrcDst, srcDstStep, LUMI_LOGIC_ADDR_##K(value),  \
+                                            pSrcDst, srcDstStep, roi, lumi::thr::OP);         \
+  }
+#define LUMI_NOT(NAME, L)                                                                     \
+  LUMI_API LumStatus NAME(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep,           \
+                          LumiSize roi) {                                                     \
+    return lumi::notImpl<lumi::L>(pSrc, srcStep, pDst, dstStep, roi);                         \
+  }
+#define LUMI_NOT_I(NAME, L)                                                                   \
+  LUMI_API LumStatus NAME(Lum8u* pSrcDst, int srcDstStep, LumiSize roi) {                     \
+    return lumi::notImpl<lumi::L>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, roi);             \
   }
 
 extern "C" {
-LUMI_LOGIC_TYPES(And, lumi::thr::kAnd)
-LUMI_LOGIC_TYPES(Or, lumi::thr::kOr)
-LUMI_LOGIC_TYPES(Xor, lumi::thr::kXor)
-LUMI_NOT(C1)
-LUMI_NOT(C3)
-LUMI_NOT(C4)
-LUMI_NOT(AC4)
+LUMI_LOGIC(lumiAnd_8u_C1R, kAnd, Lum8u, C1)
+LUMI_LOGIC_I(lumiAnd_8u_C1IR, kAnd, Lum8u, C1)
+LUMI_LOGIC_C(lumiAndC_8u_C1R, kAnd, Lum8u, C1, SCALAR)
+LUMI_LOGIC_CI(lumiAndC_8u_C1IR, kAnd, Lum8u, C1, SCALAR)
+LUMI_LOGIC(lumiAnd_8u_C3R, kAnd, Lum8u, C3)
+LUMI_LOGIC_I(lumiAnd_8u_C3IR, kAnd, Lum8u, C3)
+LUMI_LOGIC_C(lumiAndC_8u_C3R, kAnd, Lum8u, C3, ARRAY)
+LUMI_LOGIC_CI(lumiAndC_8u_C3IR, kAnd, Lum8u, C3, ARRAY)
+LUMI_LOGIC(lumiAnd_8u_C4R, kAnd, Lum8u, C4)
+LUMI_LOGIC_I(lumiAnd_8u_C4IR, kAnd, Lum8u, C4)
+LUMI_LOGIC_C(lumiAndC_8u_C4R, kAnd, Lum8u, C4, ARRAY)
+LUMI_LOGIC_CI(lumiAndC_8u_C4IR, kAnd, Lum8u, C4, ARRAY)
+LUMI_LOGIC(lumiAnd_8u_AC4R, kAnd, Lum8u, AC4)
+LUMI_LOGIC_I(lumiAnd_8u_AC4IR, kAnd, Lum8u, AC4)
+LUMI_LOGIC_C(lumiAndC_8u_AC4R, kAnd, Lum8u, AC4, ARRAY)
+LUMI_LOGIC_CI(lumiAndC_8u_AC4IR, kAnd, Lum8u, AC4, ARRAY)
+LUMI_LOGIC(lumiAnd_16u_C1R, kAnd, Lum16u, C1)
+LUMI_LOGIC_I(lumiAnd_16u_C1IR, kAnd, Lum16u, C1)
+LUMI_LOGIC_C(lumiAndC_16u_C1R, kAnd, Lum16u, C1, SCALAR)
+LUMI_LOGIC_CI(lumiAndC_16u_C1IR, kAnd, Lum16u, C1, SCALAR)
+LUMI_LOGIC(lumiAnd_16u_C3R, kAnd, Lum16u, C3)
+LUMI_LOGIC_I(lumiAnd_16u_C3IR, kAnd, Lum16u, C3)
+LUMI_LOGIC_C(lumiAndC_16u_C3R, kAnd, Lum16u, C3, ARRAY)
+LUMI_LOGIC_CI(lumiAndC_16u_C3IR, kAnd, Lum16u, C3, ARRAY)
+LUMI_LOGIC(lumiAnd_16u_C4R, kAnd, Lum16u, C4)
+LUMI_LOGIC_I(lumiAnd_16u_C4IR, kAnd, Lum16u, C4)
+LUMI_LOGIC_C(lumiAndC_16u_C4R, kAnd, Lum16u, C4, ARRAY)
+LUMI_LOGIC_CI(lumiAndC_16u_C4IR, kAnd, Lum16u, C4, ARRAY)
+LUMI_LOGIC(lumiAnd_16u_AC4R, kAnd, Lum16u, AC4)
+LUMI_LOGIC_I(lumiAnd_16u_AC4IR, kAnd, Lum16u, AC4)
+LUMI_LOGIC_C(lumiAndC_16u_AC4R, kAnd, Lum16u, AC4, ARRAY)
+LUMI_LOGIC_CI(lumiAndC_16u_AC4IR, kAnd, Lum16u, AC4, ARRAY)
+LUMI_LOGIC(lumiAnd_32s_C1R, kAnd, Lum32s, C1)
+LUMI_LOGIC_I(lumiAnd_32s_C1IR, kAnd, Lum32s, C1)
+LUMI_LOGIC_C(lumiAndC_32s_C1R, kAnd, Lum32s, C1, SCALAR)
+LUMI_LOGIC_CI(lumiAndC_32s_C1IR, kAnd, Lum32s, C1, SCALAR)
+LUMI_LOGIC(lumiAnd_32s_C3R, kAnd, Lum32s, C3)
+LUMI_LOGIC_I(lumiAnd_32s_C3IR, kAnd, Lum32s, C3)
+LUMI_LOGIC_C(lumiAndC_32s_C3R, kAnd, Lum32s, C3, ARRAY)
+LUMI_LOGIC_CI(lumiAndC_32s_C3IR, kAnd, Lum32s, C3, ARRAY)
+LUMI_LOGIC(lumiAnd_32s_C4R, kAnd, Lum32s, C4)
+LUMI_LOGIC_I(lumiAnd_32s_C4IR, kAnd, Lum32s, C4)
+LUMI_LOGIC_C(lumiAndC_32s_C4R, kAnd, Lum32s, C4, ARRAY)
+LUMI_LOGIC_CI(lumiAndC_32s_C4IR, kAnd, Lum32s, C4, ARRAY)
+LUMI_LOGIC(lumiAnd_32s_AC4R, kAnd, Lum32s, AC4)
+LUMI_LOGIC_I(lumiAnd_32s_AC4IR, kAnd, Lum32s, AC4)
+LUMI_LOGIC_C(lumiAndC_32s_AC4R, kAnd, Lum32s, AC4, ARRAY)
+LUMI_LOGIC_CI(lumiAndC_32s_AC4IR, kAnd, Lum32s, AC4, ARRAY)
+LUMI_LOGIC(lumiOr_8u_C1R, kOr, Lum8u, C1)
+LUMI_LOGIC_I(lumiOr_8u_C1IR, kOr, Lum8u, C1)
+LUMI_LOGIC_C(lumiOrC_8u_C1R, kOr, Lum8u, C1, SCALAR)
+LUMI_LOGIC_CI(lumiOrC_8u_C1IR, kOr, Lum8u, C1, SCALAR)
+LUMI_LOGIC(lumiOr_8u_C3R, kOr, Lum8u, C3)
+LUMI_LOGIC_I(lumiOr_8u_C3IR, kOr, Lum8u, C3)
+LUMI_LOGIC_C(lumiOrC_8u_C3R, kOr, Lum8u, C3, ARRAY)
+LUMI_LOGIC_CI(lumiOrC_8u_C3IR, kOr, Lum8u, C3, ARRAY)
+LUMI_LOGIC(lumiOr_8u_C4R, kOr, Lum8u, C4)
+LUMI_LOGIC_I(lumiOr_8u_C4IR, kOr, Lum8u, C4)
+LUMI_LOGIC_C(lumiOrC_8u_C4R, kOr, Lum8u, C4, ARRAY)
+LUMI_LOGIC_CI(lumiOrC_8u_C4IR, kOr, Lum8u, C4, ARRAY)
+LUMI_LOGIC(lumiOr_8u_AC4R, kOr, Lum8u, AC4)
+LUMI_LOGIC_I(lumiOr_8u_AC4IR, kOr, Lum8u, AC4)
+LUMI_LOGIC_C(lumiOrC_8u_AC4R, kOr, Lum8u, AC4, ARRAY)
+LUMI_LOGIC_CI(lumiOrC_8u_AC4IR, kOr, Lum8u, AC4, ARRAY)
+LUMI_LOGIC(lumiOr_16u_C1R, kOr, Lum16u, C1)
+LUMI_LOGIC_I(lumiOr_16u_C1IR, kOr, Lum16u, C1)
+LUMI_LOGIC_C(lumiOrC_16u_C1R, kOr, Lum16u, C1, SCALAR)
+LUMI_LOGIC_CI(lumiOrC_16u_C1IR, kOr, Lum16u, C1, SCALAR)
+LUMI_LOGIC(lumiOr_16u_C3R, kOr, Lum16u, C3)
+LUMI_LOGIC_I(lumiOr_16u_C3IR, kOr, Lum16u, C3)
+LUMI_LOGIC_C(lumiOrC_16u_C3R, kOr, Lum16u, C3, ARRAY)
+LUMI_LOGIC_CI(lumiOrC_16u_C3IR, kOr, Lum16u, C3, ARRAY)
+LUMI_LOGIC(lumiOr_16u_C4R, kOr, Lum16u, C4)
+LUMI_LOGIC_I(lumiOr_16u_C4IR, kOr, Lum16u, C4)
+LUMI_LOGIC_C(lumiOrC_16u_C4R, kOr, Lum16u, C4, ARRAY)
+LUMI_LOGIC_CI(lumiOrC_16u_C4IR, kOr, Lum16u, C4, ARRAY)
+LUMI_LOGIC(lumiOr_16u_AC4R, kOr, Lum16u, AC4)
+LUMI_LOGIC_I(lumiOr_16u_AC4IR, kOr, Lum16u, AC4)
+LUMI_LOGIC_C(lumiOrC_16u_AC4R, kOr, Lum16u, AC4, ARRAY)
+LUMI_LOGIC_CI(lumiOrC_16u_AC4IR, kOr, Lum16u, AC4, ARRAY)
+LUMI_LOGIC(lumiOr_32s_C1R, kOr, Lum32s, C1)
+LUMI_LOGIC_I(lumiOr_32s_C1IR, kOr, Lum32s, C1)
+LUMI_LOGIC_C(lumiOrC_32s_C1R, kOr, Lum32s, C1, SCALAR)
+LUMI_LOGIC_CI(lumiOrC_32s_C1IR, kOr, Lum32s, C1, SCALAR)
+LUMI_LOGIC(lumiOr_32s_C3R, kOr, Lum32s, C3)
+LUMI_LOGIC_I(lumiOr_32s_C3IR, kOr, Lum32s, C3)
+LUMI_LOGIC_C(lumiOrC_32s_C3R, kOr, Lum32s, C3, ARRAY)
+LUMI_LOGIC_CI(lumiOrC_32s_C3IR, kOr, Lum32s, C3, ARRAY)
+LUMI_LOGIC(lumiOr_32s_C4R, kOr, Lum32s, C4)
+LUMI_LOGIC_I(lumiOr_32s_C4IR, kOr, Lum32s, C4)
+LUMI_LOGIC_C(lumiOrC_32s_C4R, kOr, Lum32s, C4, ARRAY)
+LUMI_LOGIC_CI(lumiOrC_32s_C4IR, kOr, Lum32s, C4, ARRAY)
+LUMI_LOGIC(lumiOr_32s_AC4R, kOr, Lum32s, AC4)
+LUMI_LOGIC_I(lumiOr_32s_AC4IR, kOr, Lum32s, AC4)
+LUMI_LOGIC_C(lumiOrC_32s_AC4R, kOr, Lum32s, AC4, ARRAY)
+LUMI_LOGIC_CI(lumiOrC_32s_AC4IR, kOr, Lum32s, AC4, ARRAY)
+LUMI_LOGIC(lumiXor_8u_C1R, kXor, Lum8u, C1)
+LUMI_LOGIC_I(lumiXor_8u_C1IR, kXor, Lum8u, C1)
+LUMI_LOGIC_C(lumiXorC_8u_C1R, kXor, Lum8u, C1, SCALAR)
+LUMI_LOGIC_CI(lumiXorC_8u_C1IR, kXor, Lum8u, C1, SCALAR)
+LUMI_LOGIC(lumiXor_8u_C3R, kXor, Lum8u, C3)
+LUMI_LOGIC_I(lumiXor_8u_C3IR, kXor, Lum8u, C3)
+LUMI_LOGIC_C(lumiXorC_8u_C3R, kXor, Lum8u, C3, ARRAY)
+LUMI_LOGIC_CI(lumiXorC_8u_C3IR, kXor, Lum8u, C3, ARRAY)
+LUMI_LOGIC(lumiXor_8u_C4R, kXor, Lum8u, C4)
+LUMI_LOGIC_I(lumiXor_8u_C4IR, kXor, Lum8u, C4)
+LUMI_LOGIC_C(lumiXorC_8u_C4R, kXor, Lum8u, C4, ARRAY)
+LUMI_LOGIC_CI(lumiXorC_8u_C4IR, kXor, Lum8u, C4, ARRAY)
+LUMI_LOGIC(lumiXor_8u_AC4R, kXor, Lum8u, AC4)
+LUMI_LOGIC_I(lumiXor_8u_AC4IR, kXor, Lum8u, AC4)
+LUMI_LOGIC_C(lumiXorC_8u_AC4R, kXor, Lum8u, AC4, ARRAY)
+LUMI_LOGIC_CI(lumiXorC_8u_AC4IR, kXor, Lum8u, AC4, ARRAY)
+LUMI_LOGIC(lumiXor_16u_C1R, kXor, Lum16u, C1)
+LUMI_LOGIC_I(lumiXor_16u_C1IR, kXor, Lum16u, C1)
+LUMI_LOGIC_C(lumiXorC_16u_C1R, kXor, Lum16u, C1, SCALAR)
+LUMI_LOGIC_CI(lumiXorC_16u_C1IR, kXor, Lum16u, C1, SCALAR)
+LUMI_LOGIC(lumiXor_16u_C3R, kXor, Lum16u, C3)
+LUMI_LOGIC_I(lumiXor_16u_C3IR, kXor, Lum16u, C3)
+LUMI_LOGIC_C(lumiXorC_16u_C3R, kXor, Lum16u, C3, ARRAY)
+LUMI_LOGIC_CI(lumiXorC_16u_C3IR, kXor, Lum16u, C3, ARRAY)
+LUMI_LOGIC(lumiXor_16u_C4R, kXor, Lum16u, C4)
+LUMI_LOGIC_I(lumiXor_16u_C4IR, kXor, Lum16u, C4)
+LUMI_LOGIC_C(lumiXorC_16u_C4R, kXor, Lum16u, C4, ARRAY)
+LUMI_LOGIC_CI(lumiXorC_16u_C4IR, kXor, Lum16u, C4, ARRAY)
+LUMI_LOGIC(lumiXor_16u_AC4R, kXor, Lum16u, AC4)
+LUMI_LOGIC_I(lumiXor_16u_AC4IR, kXor, Lum16u, AC4)
+LUMI_LOGIC_C(lumiXorC_16u_AC4R, kXor, Lum16u, AC4, ARRAY)
+LUMI_LOGIC_CI(lumiXorC_16u_AC4IR, kXor, Lum16u, AC4, ARRAY)
+LUMI_LOGIC(lumiXor_32s_C1R, kXor, Lum32s, C1)
+LUMI_LOGIC_I(lumiXor_32s_C1IR, kXor, Lum32s, C1)
+LUMI_LOGIC_C(lumiXorC_32s_C1R, kXor, Lum32s, C1, SCALAR)
+LUMI_LOGIC_CI(lumiXorC_32s_C1IR, kXor, Lum32s, C1, SCALAR)
+LUMI_LOGIC(lumiXor_32s_C3R, kXor, Lum32s, C3)
+LUMI_LOGIC_I(lumiXor_32s_C3IR, kXor, Lum32s, C3)
+LUMI_LOGIC_C(lumiXorC_32s_C3R, kXor, Lum32s, C3, ARRAY)
+LUMI_LOGIC_CI(lumiXorC_32s_C3IR, kXor, Lum32s, C3, ARRAY)
+LUMI_LOGIC(lumiXor_32s_C4R, kXor, Lum32s, C4)
+LUMI_LOGIC_I(lumiXor_32s_C4IR, kXor, Lum32s, C4)
+LUMI_LOGIC_C(lumiXorC_32s_C4R, kXor, Lum32s, C4, ARRAY)
+LUMI_LOGIC_CI(lumiXorC_32s_C4IR, kXor, Lum32s, C4, ARRAY)
+LUMI_LOGIC(lumiXor_32s_AC4R, kXor, Lum32s, AC4)
+LUMI_LOGIC_I(lumiXor_32s_AC4IR, kXor, Lum32s, AC4)
+LUMI_LOGIC_C(lumiXorC_32s_AC4R, kXor, Lum32s, AC4, ARRAY)
+LUMI_LOGIC_CI(lumiXorC_32s_AC4IR, kXor, Lum32s, AC4, ARRAY)
+LUMI_NOT(lumiNot_8u_C1R, C1)
+LUMI_NOT_I(lumiNot_8u_C1IR, C1)
+LUMI_NOT(lumiNot_8u_C3R, C3)
+LUMI_NOT_I(lumiNot_8u_C3IR, C3)
+LUMI_NOT(lumiNot_8u_C4R, C4)
+LUMI_NOT_I(lumiNot_8u_C4IR, C4)
+LUMI_NOT(lumiNot_8u_AC4R, AC4)
+LUMI_NOT_I(lumiNot_8u_AC4IR, AC4)
 
 // Rewrites negative samples from two's complement into sign-and-magnitude form: the sign bit
 // stays set and the low 31 bits hold the magnitude (the most negative value keeps its code).
 // Non-negative samples are unchanged.
 LUMI_API LumStatus lumiComplement_32s_C1IR(Lum32s* pSrcDst, int srcDstStep, LumiSize roi) {
-  if (!pSrcDst) return lumStatusNullPtrErr;
-  if (lumi::badStep(srcDstStep)) return lumStatusStepErr;
-  if (lumi::badSize(roi)) return lumStatusSizeErr;
+  if (LumStatus st = lumi::thr::checkStepsThenSize(!pSrcDst, roi, srcDstStep)) return st;
   for (int y = 0; y < roi.height; ++y) {
     Lum32s* p = lumi::rowAt(pSrcDst, srcDstStep, y);
     for (int x = 0; x < roi.width; ++x) {

@@ -4,61 +4,50 @@
 #define HWY_TARGET_INCLUDE "src/threshold/shift.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
-#include "core/frame.h"
-#include "threshold/threshold_kernels.h"
+#include "core/simd.h"
+#include "threshold/threshold_kernels-inl.h"
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
 
-// Rows of n elements shifted by one count in 1 .. bits - 1; keep flags the lanes to leave.
+// Rows shifted by one count in 1 .. bits - 1.
 template <class T>
-void ShiftRowsSimd(const T* src, int srcStep, T* dst, int dstStep, int n, int height, bool left,
-                   int count, const T* keep) {
+void shiftRows(const thr::ElemRows<T>& r, bool left, int count) {
   const hn::ScalableTag<T> d;
-  for (int y = 0; y < height; ++y) {
-    const T* s = rowAt(src, srcStep, y);
-    T* o = rowAt(dst, dstStep, y);
-    thrv::patternRow(
-        d, n,
-        [&](int i, int off) HWY_ATTR {
-          const auto x = hn::LoadU(d, s + i);
-          const auto r = left ? hn::ShiftLeftSame(x, count) : hn::ShiftRightSame(x, count);
-          thrv::storeKeeping(d, r, o + i, keep, off);
-        },
-        [&](int i, int off) {
-          if (thr::keepLane(keep, sizeof(T), off)) return;
-          o[i] = thr::shiftSample<T>(left, s[i], count);
-        });
-  }
+  patternRows(
+      d, r,
+      [&](const T* s, const T*, std::ptrdiff_t i, int) HWY_ATTR {
+        const auto x = hn::LoadU(d, s + i);
+        return left ? hn::ShiftLeftSame(x, count) : hn::ShiftRightSame(x, count);
+      },
+      [&](const T* s, const T*, std::ptrdiff_t i, int) {
+        return thr::shiftSample<T>(left, s[i], count);
+      });
 }
 
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
 
 #if HWY_ONCE
-#include "core/simd.h"
+#include <cstring>
 
 namespace lumi {
 namespace {
 
 template <class T>
-using ShiftRowsFn = void (*)(const T*, int, T*, int, int, int, bool, int, const T*);
-LUMI_SIMD_TABLE(ShiftRowsFn<Lum8u>, kShift8u, ShiftRowsSimd<Lum8u>);
-LUMI_SIMD_TABLE(ShiftRowsFn<Lum8s>, kShift8s, ShiftRowsSimd<Lum8s>);
-LUMI_SIMD_TABLE(ShiftRowsFn<Lum16u>, kShift16u, ShiftRowsSimd<Lum16u>);
-LUMI_SIMD_TABLE(ShiftRowsFn<Lum16s>, kShift16s, ShiftRowsSimd<Lum16s>);
-LUMI_SIMD_TABLE(ShiftRowsFn<Lum32s>, kShift32s, ShiftRowsSimd<Lum32s>);
+using ShiftRowsFn = void (*)(const thr::ElemRows<T>&, bool, int);
 
 template <class T>
-ShiftRowsFn<T> shiftSimd() {
-  if constexpr (std::is_same_v<T, Lum8u>) return pickSimd(kShift8u);
-  else if constexpr (std::is_same_v<T, Lum8s>) return pickSimd(kShift8s);
-  else if constexpr (std::is_same_v<T, Lum16u>) return pickSimd(kShift16u);
-  else if constexpr (std::is_same_v<T, Lum16s>) return pickSimd(kShift16s);
-  else return pickSimd(kShift32s);
+void shiftRowsScalar(const thr::ElemRows<T>& r, bool left, int count) {
+  thr::forElements(r, [&](const T* s, const T*, T* o, std::ptrdiff_t i, int) {
+    o[i] = thr::shiftSample<T>(left, s[i], count);
+  });
+}
+
+template <class T>
+ShiftRowsFn<T> pickShiftRows() {
+  LUMI_SIMD_TABLE(ShiftRowsFn<T>, table, shiftRows<T>);
+  return pick(table, &shiftRowsScalar<T>);
 }
 
 constexpr int kZeroFill = -1;
@@ -74,112 +63,128 @@ int effectiveCount(bool left, Lum32u count) {
   return kZeroFill;
 }
 
-template <class T>
-void copyRows(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int elems) {
-  const std::size_t bytes = static_cast<std::size_t>(elems) * sizeof(T);
-  for (int y = 0; y < roi.height; ++y) {
-    const T* s = rowAt(src, srcStep, y);
-    T* o = rowAt(dst, dstStep, y);
-    if (s != o) std::memmove(o, s, bytes);
-  }
-}
-
-template <class T>
-void zeroRows(T* dst, int dstStep, LumiSize roi, int elems) {
-  const std::size_t bytes = static_cast<std::size_t>(elems) * sizeof(T);
-  for (int y = 0; y < roi.height; ++y) std::memset(rowAt(dst, dstStep, y), 0, bytes);
-}
-
 template <class T, class L>
 LumStatus shiftImpl(const T* src, int srcStep, const Lum32u* counts, T* dst, int dstStep,
                     LumiSize roi, bool left) {
-  if (anyNull(src, counts, dst)) return lumStatusNullPtrErr;
-  if (badStep(srcStep, dstStep)) return lumStatusStepErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-
+  if (LumStatus st = thr::checkStepsThenSize(anyNull(src, counts, dst), roi, srcStep, dstStep))
+    return st;
   int eff[4];
   bool uniform = true;
   for (int c = 0; c < L::kUse; ++c) {
     eff[c] = effectiveCount<T>(left, counts[c]);
     uniform = uniform && eff[c] == eff[0];
   }
-  const int n = roi.width * L::kCh;
-  const bool alpha = L::kUse < L::kCh;
-  if (uniform && !alpha) {
-    // Equal counts on every channel: one run of width * channels samples.
-    if (eff[0] == 0) {
-      copyRows(src, srcStep, dst, dstStep, roi, n);
-    } else if (eff[0] == kZeroFill) {
-      zeroRows(dst, dstStep, roi, n);
-    } else if (auto f = shiftSimd<T>()) {
-      f(src, srcStep, dst, dstStep, n, roi.height, left, eff[0], nullptr);
-    } else {
-      thr::eachRow(src, srcStep, dst, dstStep, roi.height, [&](const T* s, T* o) {
-        for (int i = 0; i < n; ++i) o[i] = thr::shiftSample<T>(left, s[i], eff[0]);
-      });
-    }
-    return lumStatusOk;
-  }
+  const thr::ElemRows<T> r =
+      thr::elemRows<L>(src, srcStep, nullptr, 0, dst, dstStep, roi);
   if (uniform && eff[0] > 0) {
-    if (auto f = shiftSimd<T>()) {
-      thr::Pattern<T> keep;
-      thr::fillKeep(keep, L::kCh, L::kUse);
-      f(src, srcStep, dst, dstStep, n, roi.height, left, eff[0], keep.v);
-      return lumStatusOk;
+    pickShiftRows<T>()(r, left, eff[0]);
+  } else if (uniform && !r.keepAlpha()) {
+    // Equal counts that copy or clear every sample of a row.
+    const std::size_t bytes = static_cast<std::size_t>(r.n) * sizeof(T);
+    for (int y = 0; y < r.height; ++y) {
+      const T* s = rowAt(src, srcStep, y);
+      T* o = rowAt(dst, dstStep, y);
+      if (eff[0] == kZeroFill)
+        std::memset(o, 0, bytes);
+      else if (s != o)
+        std::memmove(o, s, bytes);
     }
+  } else {
+    // Counts differing per channel, or a copy / zero fill that must spare the alpha channel.
+    thr::forElements(r, [&](const T* s, const T*, T* o, std::ptrdiff_t i, int c) {
+      o[i] = eff[c] == kZeroFill ? T(0) : thr::shiftSample<T>(left, s[i], eff[c]);
+    });
   }
-  // Counts differing per channel, or a copy / zero fill that must spare the alpha channel.
-  thr::eachRow(src, srcStep, dst, dstStep, roi.height, [&](const T* s, T* o) {
-    for (int x = 0; x < roi.width; ++x)
-      for (int c = 0; c < L::kUse; ++c) {
-        const int i = x * L::kCh + c;
-        o[i] = eff[c] == kZeroFill ? T(0) : thr::shiftSample<T>(left, s[i], eff[c]);
-      }
-  });
   return lumStatusOk;
 }
 
 }  // namespace
 }  // namespace lumi
 
-using lumi::C1;
-using lumi::C3;
-using lumi::AC4;
-using lumi::C4;
-
+// ---- exported functions -----------------------------------------------------------------------
+// K: C1 takes the count by value (SCALAR), the others an array of counts (ARRAY).
 #define LUMI_SHIFT_SCALAR Lum32u
 #define LUMI_SHIFT_ARRAY const Lum32u*
 #define LUMI_SHIFT_ADDR_SCALAR(x) &x
 #define LUMI_SHIFT_ADDR_ARRAY(x) x
 
-#define LUMI_SHIFT(Op, LEFT, tc, T, L, KIND)                                                    \
-  LUMI_API LumStatus lumi##Op##_##tc##_##L##R(const T* pSrc, int srcStep,                       \
-                                              LUMI_SHIFT_##KIND value, T* pDst, int dstStep,    \
-                                              LumiSize roi) {                                   \
-    return lumi::shiftImpl<T, L>(pSrc, srcStep, LUMI_SHIFT_ADDR_##KIND(value), pDst, dstStep,   \
-                                 roi, LEFT);                                                    \
-  }                                                                                             \
-  LUMI_API LumStatus lumi##Op##_##tc##_##L##IR(LUMI_SHIFT_##KIND value, T* pSrcDst,             \
-                                               int srcDstStep, LumiSize roi) {                  \
-    return lumi::shiftImpl<T, L>(pSrcDst, srcDstStep, LUMI_SHIFT_ADDR_##KIND(value), pSrcDst,   \
-                                 srcDstStep, roi, LEFT);                                        \
+#define LUMI_SHIFT(NAME, LEFT, T, L, K)                                                        \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LUMI_SHIFT_##K value, T* pDst,           \
+                          int dstStep, LumiSize roi) {                                         \
+    return lumi::shiftImpl<T, lumi::L>(pSrc, srcStep, LUMI_SHIFT_ADDR_##K(value), pDst,        \
+                                       dstStep, roi, LEFT);                                    \
+  }
+#define LUMI_SHIFT_I(NAME, LEFT, T, L, K)                                                      \
+  LUMI_API LumStatus NAME(LUMI_SHIFT_##K value, T* pSrcDst, int srcDstStep, LumiSize roi) {    \
+    return lumi::shiftImpl<T, lumi::L>(pSrcDst, srcDstStep, LUMI_SHIFT_ADDR_##K(value),        \
+                                       pSrcDst, srcDstStep, roi, LEFT);                        \
   }
 
-#define LUMI_SHIFT_LAYOUTS(Op, LEFT, tc, T) \
-  LUMI_SHIFT(Op, LEFT, tc, T, C1, SCALAR)   \
-  LUMI_SHIFT(Op, LEFT, tc, T, C3, ARRAY)    \
-  LUMI_SHIFT(Op, LEFT, tc, T, C4, ARRAY)    \
-  LUMI_SHIFT(Op, LEFT, tc, T, AC4, ARRAY)
-
 extern "C" {
-LUMI_SHIFT_LAYOUTS(LShiftC, true, 8u, Lum8u)
-LUMI_SHIFT_LAYOUTS(LShiftC, true, 16u, Lum16u)
-LUMI_SHIFT_LAYOUTS(LShiftC, true, 32s, Lum32s)
-LUMI_SHIFT_LAYOUTS(RShiftC, false, 8u, Lum8u)
-LUMI_SHIFT_LAYOUTS(RShiftC, false, 8s, Lum8s)
-LUMI_SHIFT_LAYOUTS(RShiftC, false, 16u, Lum16u)
-LUMI_SHIFT_LAYOUTS(RShiftC, false, 16s, Lum16s)
-LUMI_SHIFT_LAYOUTS(RShiftC, false, 32s, Lum32s)
+LUMI_SHIFT(lumiLShiftC_8u_C1R, true, Lum8u, C1, SCALAR)
+LUMI_SHIFT_I(lumiLShiftC_8u_C1IR, true, Lum8u, C1, SCALAR)
+LUMI_SHIFT(lumiLShiftC_8u_C3R, true, Lum8u, C3, ARRAY)
+LUMI_SHIFT_I(lumiLShiftC_8u_C3IR, true, Lum8u, C3, ARRAY)
+LUMI_SHIFT(lumiLShiftC_8u_C4R, true, Lum8u, C4, ARRAY)
+LUMI_SHIFT_I(lumiLShiftC_8u_C4IR, true, Lum8u, C4, ARRAY)
+LUMI_SHIFT(lumiLShiftC_8u_AC4R, true, Lum8u, AC4, ARRAY)
+LUMI_SHIFT_I(lumiLShiftC_8u_AC4IR, true, Lum8u, AC4, ARRAY)
+LUMI_SHIFT(lumiLShiftC_16u_C1R, true, Lum16u, C1, SCALAR)
+LUMI_SHIFT_I(lumiLShiftC_16u_C1IR, true, Lum16u, C1, SCALAR)
+LUMI_SHIFT(lumiLShiftC_16u_C3R, true, Lum16u, C3, ARRAY)
+LUMI_SHIFT_I(lumiLShiftC_16u_C3IR, true, Lum16u, C3, ARRAY)
+LUMI_SHIFT(lumiLShiftC_16u_C4R, true, Lum16u, C4, ARRAY)
+LUMI_SHIFT_I(lumiLShiftC_16u_C4IR, true, Lum16u, C4, ARRAY)
+LUMI_SHIFT(lumiLShiftC_16u_AC4R, true, Lum16u, AC4, ARRAY)
+LUMI_SHIFT_I(lumiLShiftC_16u_AC4IR, true, Lum16u, AC4, ARRAY)
+LUMI_SHIFT(lumiLShiftC_32s_C1R, true, Lum32s, C1, SCALAR)
+LUMI_SHIFT_I(lumiLShiftC_32s_C1IR, true, Lum32s, C1, SCALAR)
+LUMI_SHIFT(lumiLShiftC_32s_C3R, true, Lum32s, C3, ARRAY)
+LUMI_SHIFT_I(lumiLShiftC_32s_C3IR, true, Lum32s, C3, ARRAY)
+LUMI_SHIFT(lumiLShiftC_32s_C4R, true, Lum32s, C4, ARRAY)
+LUMI_SHIFT_I(lumiLShiftC_32s_C4IR, true, Lum32s, C4, ARRAY)
+LUMI_SHIFT(lumiLShiftC_32s_AC4R, true, Lum32s, AC4, ARRAY)
+LUMI_SHIFT_I(lumiLShiftC_32s_AC4IR, true, Lum32s, AC4, ARRAY)
+LUMI_SHIFT(lumiRShiftC_8u_C1R, false, Lum8u, C1, SCALAR)
+LUMI_SHIFT_I(lumiRShiftC_8u_C1IR, false, Lum8u, C1, SCALAR)
+LUMI_SHIFT(lumiRShiftC_8u_C3R, false, Lum8u, C3, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_8u_C3IR, false, Lum8u, C3, ARRAY)
+LUMI_SHIFT(lumiRShiftC_8u_C4R, false, Lum8u, C4, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_8u_C4IR, false, Lum8u, C4, ARRAY)
+LUMI_SHIFT(lumiRShiftC_8u_AC4R, false, Lum8u, AC4, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_8u_AC4IR, false, Lum8u, AC4, ARRAY)
+LUMI_SHIFT(lumiRShiftC_8s_C1R, false, Lum8s, C1, SCALAR)
+LUMI_SHIFT_I(lumiRShiftC_8s_C1IR, false, Lum8s, C1, SCALAR)
+LUMI_SHIFT(lumiRShiftC_8s_C3R, false, Lum8s, C3, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_8s_C3IR, false, Lum8s, C3, ARRAY)
+LUMI_SHIFT(lumiRShiftC_8s_C4R, false, Lum8s, C4, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_8s_C4IR, false, Lum8s, C4, ARRAY)
+LUMI_SHIFT(lumiRShiftC_8s_AC4R, false, Lum8s, AC4, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_8s_AC4IR, false, Lum8s, AC4, ARRAY)
+LUMI_SHIFT(lumiRShiftC_16u_C1R, false, Lum16u, C1, SCALAR)
+LUMI_SHIFT_I(lumiRShiftC_16u_C1IR, false, Lum16u, C1, SCALAR)
+LUMI_SHIFT(lumiRShiftC_16u_C3R, false, Lum16u, C3, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_16u_C3IR, false, Lum16u, C3, ARRAY)
+LUMI_SHIFT(lumiRShiftC_16u_C4R, false, Lum16u, C4, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_16u_C4IR, false, Lum16u, C4, ARRAY)
+LUMI_SHIFT(lumiRShiftC_16u_AC4R, false, Lum16u, AC4, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_16u_AC4IR, false, Lum16u, AC4, ARRAY)
+LUMI_SHIFT(lumiRShiftC_16s_C1R, false, Lum16s, C1, SCALAR)
+LUMI_SHIFT_I(lumiRShiftC_16s_C1IR, false, Lum16s, C1, SCALAR)
+LUMI_SHIFT(lumiRShiftC_16s_C3R, false, Lum16s, C3, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_16s_C3IR, false, Lum16s, C3, ARRAY)
+LUMI_SHIFT(lumiRShiftC_16s_C4R, false, Lum16s, C4, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_16s_C4IR, false, Lum16s, C4, ARRAY)
+LUMI_SHIFT(lumiRShiftC_16s_AC4R, false, Lum16s, AC4, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_16s_AC4IR, false, Lum16s, AC4, ARRAY)
+LUMI_SHIFT(lumiRShiftC_32s_C1R, false, Lum32s, C1, SCALAR)
+LUMI_SHIFT_I(lumiRShiftC_32s_C1IR, false, Lum32s, C1, SCALAR)
+LUMI_SHIFT(lumiRShiftC_32s_C3R, false, Lum32s, C3, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_32s_C3IR, false, Lum32s, C3, ARRAY)
+LUMI_SHIFT(lumiRShiftC_32s_C4R, false, Lum32s, C4, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_32s_C4IR, false, Lum32s, C4, ARRAY)
+LUMI_SHIFT(lumiRShiftC_32s_AC4R, false, Lum32s, AC4, ARRAY)
+LUMI_SHIFT_I(lumiRShiftC_32s_AC4IR, false, Lum32s, AC4, ARRAY)
 }
 
 #endif  // HWY_ONCE

@@ -3,106 +3,85 @@
 #define HWY_TARGET_INCLUDE "src/threshold/threshold.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
-#include "core/frame.h"
-#include "threshold/threshold_kernels.h"
+#include "core/simd.h"
+#include "threshold/threshold_kernels-inl.h"
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
 
-// One kernel per element type for every mode and layout: rows are runs of width * channels
+// One kernel per element type and mode for every layout: rows are runs of width * channels
 // elements and the per-channel thresholds and values arrive as patterns.
 template <class T, int kMode>
-HWY_INLINE void thresholdRowsMode(const T* src, int srcStep, T* dst, int dstStep, int n,
-                                  int height, const T* t1, const T* v1, const T* t2,
-                                  const T* v2, const T* keep) {
+HWY_INLINE void thresholdRowsMode(const thr::ElemRows<T>& r, const thr::ThresholdPatterns<T>& p) {
   const hn::ScalableTag<T> d;
-  for (int y = 0; y < height; ++y) {
-    const T* s = rowAt(src, srcStep, y);
-    T* o = rowAt(dst, dstStep, y);
-    thrv::patternRow(
-        d, n,
-        [&](int i, int off) HWY_ATTR {
-          const auto x = hn::LoadU(d, s + i);
-          const auto a = hn::Load(d, t1 + off);
-          hn::Vec<decltype(d)> r;
-          if constexpr (kMode == thr::kClampGT) {
-            if constexpr (std::is_floating_point_v<T>)
-              r = hn::IfThenElse(hn::Lt(x, a), x, a);
-            else
-              r = hn::Min(x, a);
-          } else if constexpr (kMode == thr::kClampLT) {
-            if constexpr (std::is_floating_point_v<T>)
-              r = hn::IfThenElse(hn::Lt(a, x), x, a);
-            else
-              r = hn::Max(x, a);
-          } else if constexpr (kMode == thr::kValGT) {
-            r = hn::IfThenElse(hn::Lt(a, x), hn::Load(d, v1 + off), x);
-          } else if constexpr (kMode == thr::kValLT) {
-            r = hn::IfThenElse(thrv::lessEq(a, x), x, hn::Load(d, v1 + off));
-          } else {
-            const auto b = hn::Load(d, t2 + off);
-            const auto upper = hn::IfThenElse(hn::Lt(b, x), hn::Load(d, v2 + off), x);
-            r = hn::IfThenElse(thrv::lessEq(a, x), upper, hn::Load(d, v1 + off));
-          }
-          thrv::storeKeeping(d, r, o + i, keep, off);
-        },
-        [&](int i, int off) {
-          if (thr::keepLane(keep, sizeof(T), off)) return;
-          constexpr bool kValue = kMode != thr::kClampGT && kMode != thr::kClampLT;
-          constexpr bool kTwo = kMode == thr::kValLTGT;
-          o[i] = thr::thresholdSample<T>(kMode, s[i], t1[off], kValue ? v1[off] : T(),
-                                         kTwo ? t2[off] : T(), kTwo ? v2[off] : T());
-        });
-  }
+  const T* t1 = p.t1.v;
+  const T* v1 = p.v1.v;
+  const T* t2 = p.t2.v;
+  const T* v2 = p.v2.v;
+  patternRows(
+      d, r,
+      [&](const T* s, const T*, std::ptrdiff_t i, int off) HWY_ATTR {
+        const auto x = hn::LoadU(d, s + i);
+        const auto a = hn::Load(d, t1 + off);
+        if constexpr (kMode == thr::kClampGT) {
+          if constexpr (std::is_floating_point_v<T>)
+            return hn::IfThenElse(hn::Lt(x, a), x, a);
+          else
+            return hn::Min(x, a);
+        } else if constexpr (kMode == thr::kClampLT) {
+          if constexpr (std::is_floating_point_v<T>)
+            return hn::IfThenElse(hn::Lt(a, x), x, a);
+          else
+            return hn::Max(x, a);
+        } else if constexpr (kMode == thr::kValGT) {
+          return hn::IfThenElse(hn::Lt(a, x), hn::Load(d, v1 + off), x);
+        } else if constexpr (kMode == thr::kValLT) {
+          return hn::IfThenElse(lessEq(a, x), x, hn::Load(d, v1 + off));
+        } else {
+          const auto b = hn::Load(d, t2 + off);
+          const auto upper = hn::IfThenElse(hn::Lt(b, x), hn::Load(d, v2 + off), x);
+          return hn::IfThenElse(lessEq(a, x), upper, hn::Load(d, v1 + off));
+        }
+      },
+      [&](const T* s, const T*, std::ptrdiff_t i, int off) {
+        return thr::thresholdSample<T>(kMode, s[i], t1[off], v1[off], t2[off], v2[off]);
+      });
 }
 
 template <class T>
-void ThresholdRowsSimd(const T* src, int srcStep, T* dst, int dstStep, int n, int height,
-                       int mode, const T* t1, const T* v1, const T* t2, const T* v2,
-                       const T* keep) {
+void thresholdRows(const thr::ElemRows<T>& r, int mode, const thr::ThresholdPatterns<T>& p) {
   switch (mode) {
-    case thr::kClampGT:
-      return thresholdRowsMode<T, thr::kClampGT>(src, srcStep, dst, dstStep, n, height, t1, v1,
-                                                 t2, v2, keep);
-    case thr::kClampLT:
-      return thresholdRowsMode<T, thr::kClampLT>(src, srcStep, dst, dstStep, n, height, t1, v1,
-                                                 t2, v2, keep);
-    case thr::kValGT:
-      return thresholdRowsMode<T, thr::kValGT>(src, srcStep, dst, dstStep, n, height, t1, v1,
-                                               t2, v2, keep);
-    case thr::kValLT:
-      return thresholdRowsMode<T, thr::kValLT>(src, srcStep, dst, dstStep, n, height, t1, v1,
-                                               t2, v2, keep);
-    default:
-      return thresholdRowsMode<T, thr::kValLTGT>(src, srcStep, dst, dstStep, n, height, t1, v1,
-                                                 t2, v2, keep);
+    case thr::kClampGT: return thresholdRowsMode<T, thr::kClampGT>(r, p);
+    case thr::kClampLT: return thresholdRowsMode<T, thr::kClampLT>(r, p);
+    case thr::kValGT: return thresholdRowsMode<T, thr::kValGT>(r, p);
+    case thr::kValLT: return thresholdRowsMode<T, thr::kValLT>(r, p);
+    default: return thresholdRowsMode<T, thr::kValLTGT>(r, p);
   }
 }
 
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
 
 #if HWY_ONCE
-#include "core/simd.h"
-
 namespace lumi {
 namespace {
 
 template <class T>
-using ThresholdRowsFn = void (*)(const T*, int, T*, int, int, int, int, const T*, const T*,
-                                 const T*, const T*, const T*);
-LUMI_SIMD_TABLE(ThresholdRowsFn<Lum8u>, kThreshold8u, ThresholdRowsSimd<Lum8u>);
-LUMI_SIMD_TABLE(ThresholdRowsFn<Lum16s>, kThreshold16s, ThresholdRowsSimd<Lum16s>);
-LUMI_SIMD_TABLE(ThresholdRowsFn<Lum32f>, kThreshold32f, ThresholdRowsSimd<Lum32f>);
+using ThresholdRowsFn = void (*)(const thr::ElemRows<T>&, int, const thr::ThresholdPatterns<T>&);
 
 template <class T>
-ThresholdRowsFn<T> thresholdSimd() {
-  if constexpr (std::is_same_v<T, Lum8u>) return pickSimd(kThreshold8u);
-  else if constexpr (std::is_same_v<T, Lum16s>) return pickSimd(kThreshold16s);
-  else return pickSimd(kThreshold32f);
+void thresholdRowsScalar(const thr::ElemRows<T>& r, int mode, const thr::ThresholdPatterns<T>& p) {
+  thr::withConstant<5>(mode, [&](auto m) {
+    thr::forElements(r, [&](const T* s, const T*, T* o, std::ptrdiff_t i, int c) {
+      o[i] = thr::thresholdSample<T>(m.value, s[i], p.t1.v[c], p.v1.v[c], p.t2.v[c], p.v2.v[c]);
+    });
+  });
+}
+
+template <class T>
+ThresholdRowsFn<T> pickThresholdRows() {
+  LUMI_SIMD_TABLE(ThresholdRowsFn<T>, table, thresholdRows<T>);
+  return pick(table, &thresholdRowsScalar<T>);
 }
 
 // Applies `mode` to the processed channels of every pixel. t1/v1 are the (lower) threshold
@@ -110,43 +89,26 @@ ThresholdRowsFn<T> thresholdSimd() {
 template <class T, class L>
 void runThreshold(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int mode,
                   const T* t1, const T* v1, const T* t2, const T* v2) {
+  thr::ThresholdPatterns<T> p;
   const T zero[4] = {};
-  if (!v1) v1 = zero;
-  if (!t2) t2 = zero;
-  if (!v2) v2 = zero;
-  const int n = roi.width * L::kCh;
-  if (auto f = thresholdSimd<T>()) {
-    thr::Pattern<T> pt1, pv1, pt2, pv2, keep;
-    thr::fillPattern(pt1, t1, L::kCh, L::kUse);
-    if (mode != thr::kClampGT && mode != thr::kClampLT) thr::fillPattern(pv1, v1, L::kCh, L::kUse);
-    if (mode == thr::kValLTGT) {
-      thr::fillPattern(pt2, t2, L::kCh, L::kUse);
-      thr::fillPattern(pv2, v2, L::kCh, L::kUse);
-    }
-    const bool alpha = L::kUse < L::kCh;
-    if (alpha) thr::fillKeep(keep, L::kCh, L::kUse);
-    f(src, srcStep, dst, dstStep, n, roi.height, mode, pt1.v, pv1.v, pt2.v, pv2.v,
-      alpha ? keep.v : nullptr);
-    return;
-  }
-  thr::withConstant<5>(mode, [&](auto m) {
-    thr::eachRow(src, srcStep, dst, dstStep, roi.height, [&](const T* s, T* o) {
-      for (int x = 0; x < roi.width; ++x)
-        for (int c = 0; c < L::kUse; ++c) {
-          const int i = x * L::kCh + c;
-          o[i] = thr::thresholdSample<T>(m.value, s[i], t1[c], v1[c], t2[c], v2[c]);
-        }
-    });
-  });
+  thr::fillPattern(p.t1, t1, L::kCh, L::kUse);
+  thr::fillPattern(p.v1, v1 ? v1 : zero, L::kCh, L::kUse);
+  thr::fillPattern(p.t2, t2 ? t2 : zero, L::kCh, L::kUse);
+  thr::fillPattern(p.v2, v2 ? v2 : zero, L::kCh, L::kUse);
+  pickThresholdRows<T>()(thr::elemRows<L>(src, srcStep, nullptr, 0, dst, dstStep, roi), mode, p);
 }
 
-// Clamp: pointers, size, steps, threshold array, and the comparison last.
+// Every form checks the pointers, the size and the steps first.
+template <class T>
+LumStatus checkImages(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
+  return thr::checkSizeThenSteps(anyNull(src, dst), roi, srcStep, dstStep);
+}
+
+// Clamp: the images, the threshold array, and the comparison last.
 template <class T, class L>
 LumStatus clampImpl(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, const T* t,
                     LumCompareOp cmp) {
-  if (anyNull(src, dst)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  if (badStep(srcStep, dstStep)) return lumStatusStepErr;
+  if (LumStatus st = checkImages(src, srcStep, dst, dstStep, roi)) return st;
   if (!t) return lumStatusNullPtrErr;
   if (cmp != lumCmpLess && cmp != lumCmpGreater) return lumStatusUnsupportedModeErr;
   runThreshold<T, L>(src, srcStep, dst, dstStep, roi,
@@ -155,41 +117,24 @@ LumStatus clampImpl(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi
   return lumStatusOk;
 }
 
-// Replace: the comparison first, then pointers, size, steps and the arrays.
+// Replace: the comparison first, then the images and the arrays.
 template <class T, class L>
 LumStatus replaceImpl(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi,
                       const T* t, const T* v, LumCompareOp cmp) {
   if (cmp != lumCmpLess && cmp != lumCmpGreater) return lumStatusUnsupportedModeErr;
-  if (anyNull(src, dst)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  if (badStep(srcStep, dstStep)) return lumStatusStepErr;
+  if (LumStatus st = checkImages(src, srcStep, dst, dstStep, roi)) return st;
   if (anyNull(t, v)) return lumStatusNullPtrErr;
   runThreshold<T, L>(src, srcStep, dst, dstStep, roi,
                      cmp == lumCmpGreater ? thr::kValGT : thr::kValLT, t, v, nullptr, nullptr);
   return lumStatusOk;
 }
 
-// Four-channel replace in a fixed direction: pointers, size, steps, arrays.
-template <class T>
-LumStatus replaceC4Impl(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi,
-                        const T* t, const T* v, bool greater) {
-  if (anyNull(src, dst)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  if (badStep(srcStep, dstStep)) return lumStatusStepErr;
-  if (anyNull(t, v)) return lumStatusNullPtrErr;
-  runThreshold<T, C4>(src, srcStep, dst, dstStep, roi, greater ? thr::kValGT : thr::kValLT, t,
-                      v, nullptr, nullptr);
-  return lumStatusOk;
-}
-
-// Two-sided: pointers, size, steps, arrays, then every channel's upper threshold must be at
-// least its lower one (written as "upper >= lower" so that a NaN threshold fails too).
+// Two-sided: the images, the arrays, then every channel's upper threshold must be at least
+// its lower one (written as "upper >= lower" so that a NaN threshold fails too).
 template <class T, class L>
 LumStatus twoSidedImpl(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi,
                        const T* tLT, const T* vLT, const T* tGT, const T* vGT) {
-  if (anyNull(src, dst)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  if (badStep(srcStep, dstStep)) return lumStatusStepErr;
+  if (LumStatus st = checkImages(src, srcStep, dst, dstStep, roi)) return st;
   if (anyNull(tLT, vLT, tGT, vGT)) return lumStatusNullPtrErr;
   for (int c = 0; c < L::kUse; ++c)
     if (!(tGT[c] >= tLT[c])) return lumStatusThresholdOrderErr;
@@ -200,126 +145,187 @@ LumStatus twoSidedImpl(const T* src, int srcStep, T* dst, int dstStep, LumiSize 
 }  // namespace
 }  // namespace lumi
 
-// ---- exported wrappers ------------------------------------------------------------------
-using lumi::C1;
-using lumi::C3;
-using lumi::AC4;
-using lumi::C4;
-
-// C1 takes scalars by value, C3 and AC4 take arrays of three.
+// ---- exported functions -----------------------------------------------------------------------
+// K: C1 takes scalars by value (SCALAR), the others arrays (ARRAY). IO: R reads pSrc and writes
+// pDst, IR works in place on p. The fixed-direction forms (GT, LT, GTVal, LTVal and the C4
+// replace) pass their comparison, which then always passes its check.
 #define LUMI_THR_SCALAR(T) T
 #define LUMI_THR_ARRAY(T) const T*
 #define LUMI_THR_ADDR_SCALAR(x) &x
 #define LUMI_THR_ADDR_ARRAY(x) x
+#define LUMI_THR_IO_R(T) const T *pSrc, int srcStep, T *pDst, int dstStep
+#define LUMI_THR_IO_IR(T) T *p, int step
+#define LUMI_THR_ARGS_R pSrc, srcStep, pDst, dstStep
+#define LUMI_THR_ARGS_IR p, step, p, step
 
-#define LUMI_THRESHOLD_FAMILY(tc, T, L, KIND)                                                   \
-  LUMI_API LumStatus lumiThreshold_##tc##_##L##R(const T* pSrc, int srcStep, T* pDst,           \
-                                                 int dstStep, LumiSize roi,                     \
-                                                 LUMI_THR_##KIND(T) t, LumCompareOp cmp) {      \
-    return lumi::clampImpl<T, L>(pSrc, srcStep, pDst, dstStep, roi, LUMI_THR_ADDR_##KIND(t),    \
-                                 cmp);                                                          \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_##tc##_##L##IR(T* p, int step, LumiSize roi,                 \
-                                                  LUMI_THR_##KIND(T) t, LumCompareOp cmp) {     \
-    return lumiThreshold_##tc##_##L##R(p, step, p, step, roi, t, cmp);                          \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_GT_##tc##_##L##R(const T* pSrc, int srcStep, T* pDst,        \
-                                                    int dstStep, LumiSize roi,                  \
-                                                    LUMI_THR_##KIND(T) t) {                     \
-    return lumiThreshold_##tc##_##L##R(pSrc, srcStep, pDst, dstStep, roi, t, lumCmpGreater);    \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_GT_##tc##_##L##IR(T* p, int step, LumiSize roi,              \
-                                                     LUMI_THR_##KIND(T) t) {                    \
-    return lumiThreshold_##tc##_##L##R(p, step, p, step, roi, t, lumCmpGreater);                \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_LT_##tc##_##L##R(const T* pSrc, int srcStep, T* pDst,        \
-                                                    int dstStep, LumiSize roi,                  \
-                                                    LUMI_THR_##KIND(T) t) {                     \
-    return lumiThreshold_##tc##_##L##R(pSrc, srcStep, pDst, dstStep, roi, t, lumCmpLess);       \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_LT_##tc##_##L##IR(T* p, int step, LumiSize roi,              \
-                                                     LUMI_THR_##KIND(T) t) {                    \
-    return lumiThreshold_##tc##_##L##R(p, step, p, step, roi, t, lumCmpLess);                   \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_Val_##tc##_##L##R(const T* pSrc, int srcStep, T* pDst,       \
-                                                     int dstStep, LumiSize roi,                 \
-                                                     LUMI_THR_##KIND(T) t,                      \
-                                                     LUMI_THR_##KIND(T) v, LumCompareOp cmp) {  \
-    return lumi::replaceImpl<T, L>(pSrc, srcStep, pDst, dstStep, roi, LUMI_THR_ADDR_##KIND(t),  \
-                                   LUMI_THR_ADDR_##KIND(v), cmp);                               \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_Val_##tc##_##L##IR(T* p, int step, LumiSize roi,             \
-                                                      LUMI_THR_##KIND(T) t,                     \
-                                                      LUMI_THR_##KIND(T) v, LumCompareOp cmp) { \
-    return lumiThreshold_Val_##tc##_##L##R(p, step, p, step, roi, t, v, cmp);                   \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_GTVal_##tc##_##L##R(const T* pSrc, int srcStep, T* pDst,     \
-                                                       int dstStep, LumiSize roi,               \
-                                                       LUMI_THR_##KIND(T) t,                    \
-                                                       LUMI_THR_##KIND(T) v) {                  \
-    return lumiThreshold_Val_##tc##_##L##R(pSrc, srcStep, pDst, dstStep, roi, t, v,             \
-                                           lumCmpGreater);                                      \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_GTVal_##tc##_##L##IR(T* p, int step, LumiSize roi,           \
-                                                        LUMI_THR_##KIND(T) t,                   \
-                                                        LUMI_THR_##KIND(T) v) {                 \
-    return lumiThreshold_Val_##tc##_##L##R(p, step, p, step, roi, t, v, lumCmpGreater);         \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_LTVal_##tc##_##L##R(const T* pSrc, int srcStep, T* pDst,     \
-                                                       int dstStep, LumiSize roi,               \
-                                                       LUMI_THR_##KIND(T) t,                    \
-                                                       LUMI_THR_##KIND(T) v) {                  \
-    return lumiThreshold_Val_##tc##_##L##R(pSrc, srcStep, pDst, dstStep, roi, t, v,             \
-                                           lumCmpLess);                                         \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_LTVal_##tc##_##L##IR(T* p, int step, LumiSize roi,           \
-                                                        LUMI_THR_##KIND(T) t,                   \
-                                                        LUMI_THR_##KIND(T) v) {                 \
-    return lumiThreshold_Val_##tc##_##L##R(p, step, p, step, roi, t, v, lumCmpLess);            \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_LTValGTVal_##tc##_##L##R(                                    \
-      const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize roi, LUMI_THR_##KIND(T) tLT,   \
-      LUMI_THR_##KIND(T) vLT, LUMI_THR_##KIND(T) tGT, LUMI_THR_##KIND(T) vGT) {                 \
-    return lumi::twoSidedImpl<T, L>(pSrc, srcStep, pDst, dstStep, roi,                          \
-                                    LUMI_THR_ADDR_##KIND(tLT), LUMI_THR_ADDR_##KIND(vLT),       \
-                                    LUMI_THR_ADDR_##KIND(tGT), LUMI_THR_ADDR_##KIND(vGT));      \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_LTValGTVal_##tc##_##L##IR(                                   \
-      T* p, int step, LumiSize roi, LUMI_THR_##KIND(T) tLT, LUMI_THR_##KIND(T) vLT,             \
-      LUMI_THR_##KIND(T) tGT, LUMI_THR_##KIND(T) vGT) {                                         \
-    return lumiThreshold_LTValGTVal_##tc##_##L##R(p, step, p, step, roi, tLT, vLT, tGT, vGT);   \
+#define LUMI_CLAMP(NAME, T, L, K, IO)                                                          \
+  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) t,               \
+                          LumCompareOp cmp) {                                                  \
+    return lumi::clampImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(t), cmp);    \
   }
-
-#define LUMI_THRESHOLD_C4(tc, T)                                                                \
-  LUMI_API LumStatus lumiThreshold_GTVal_##tc##_C4R(const T* pSrc, int srcStep, T* pDst,        \
-                                                    int dstStep, LumiSize roi, const T* t,      \
-                                                    const T* v) {                               \
-    return lumi::replaceC4Impl<T>(pSrc, srcStep, pDst, dstStep, roi, t, v, true);               \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_GTVal_##tc##_C4IR(T* p, int step, LumiSize roi, const T* t,  \
-                                                     const T* v) {                              \
-    return lumi::replaceC4Impl<T>(p, step, p, step, roi, t, v, true);                           \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_LTVal_##tc##_C4R(const T* pSrc, int srcStep, T* pDst,        \
-                                                    int dstStep, LumiSize roi, const T* t,      \
-                                                    const T* v) {                               \
-    return lumi::replaceC4Impl<T>(pSrc, srcStep, pDst, dstStep, roi, t, v, false);              \
-  }                                                                                             \
-  LUMI_API LumStatus lumiThreshold_LTVal_##tc##_C4IR(T* p, int step, LumiSize roi, const T* t,  \
-                                                     const T* v) {                              \
-    return lumi::replaceC4Impl<T>(p, step, p, step, roi, t, v, false);                          \
+#define LUMI_CLAMP_TO(NAME, T, L, K, IO, CMP)                                                  \
+  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) t) {             \
+    return lumi::clampImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(t), CMP);    \
   }
-
-#define LUMI_THRESHOLD_TYPE(tc, T)            \
-  LUMI_THRESHOLD_FAMILY(tc, T, C1, SCALAR)    \
-  LUMI_THRESHOLD_FAMILY(tc, T, C3, ARRAY)     \
-  LUMI_THRESHOLD_FAMILY(tc, T, AC4, ARRAY)    \
-  LUMI_THRESHOLD_C4(tc, T)
+#define LUMI_REPLACE(NAME, T, L, K, IO)                                                        \
+  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) t,               \
+                          LUMI_THR_##K(T) v, LumCompareOp cmp) {                               \
+    return lumi::replaceImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(t),        \
+                                         LUMI_THR_ADDR_##K(v), cmp);                           \
+  }
+#define LUMI_REPLACE_TO(NAME, T, L, K, IO, CMP)                                                \
+  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) t,               \
+                          LUMI_THR_##K(T) v) {                                                 \
+    return lumi::replaceImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(t),        \
+                                         LUMI_THR_ADDR_##K(v), CMP);                           \
+  }
+#define LUMI_TWO_SIDED(NAME, T, L, K, IO)                                                      \
+  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) tLT,             \
+                          LUMI_THR_##K(T) vLT, LUMI_THR_##K(T) tGT, LUMI_THR_##K(T) vGT) {     \
+    return lumi::twoSidedImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(tLT),     \
+                                          LUMI_THR_ADDR_##K(vLT), LUMI_THR_ADDR_##K(tGT),      \
+                                          LUMI_THR_ADDR_##K(vGT));                             \
+  }
 
 extern "C" {
-LUMI_THRESHOLD_TYPE(8u, Lum8u)
-LUMI_THRESHOLD_TYPE(16s, Lum16s)
-LUMI_THRESHOLD_TYPE(32f, Lum32f)
+LUMI_CLAMP(lumiThreshold_8u_C1R, Lum8u, C1, SCALAR, R)
+LUMI_CLAMP(lumiThreshold_8u_C1IR, Lum8u, C1, SCALAR, IR)
+LUMI_CLAMP_TO(lumiThreshold_GT_8u_C1R, Lum8u, C1, SCALAR, R, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_GT_8u_C1IR, Lum8u, C1, SCALAR, IR, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_LT_8u_C1R, Lum8u, C1, SCALAR, R, lumCmpLess)
+LUMI_CLAMP_TO(lumiThreshold_LT_8u_C1IR, Lum8u, C1, SCALAR, IR, lumCmpLess)
+LUMI_REPLACE(lumiThreshold_Val_8u_C1R, Lum8u, C1, SCALAR, R)
+LUMI_REPLACE(lumiThreshold_Val_8u_C1IR, Lum8u, C1, SCALAR, IR)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_8u_C1R, Lum8u, C1, SCALAR, R, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_8u_C1IR, Lum8u, C1, SCALAR, IR, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_8u_C1R, Lum8u, C1, SCALAR, R, lumCmpLess)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_8u_C1IR, Lum8u, C1, SCALAR, IR, lumCmpLess)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_8u_C1R, Lum8u, C1, SCALAR, R)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_8u_C1IR, Lum8u, C1, SCALAR, IR)
+LUMI_CLAMP(lumiThreshold_8u_C3R, Lum8u, C3, ARRAY, R)
+LUMI_CLAMP(lumiThreshold_8u_C3IR, Lum8u, C3, ARRAY, IR)
+LUMI_CLAMP_TO(lumiThreshold_GT_8u_C3R, Lum8u, C3, ARRAY, R, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_GT_8u_C3IR, Lum8u, C3, ARRAY, IR, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_LT_8u_C3R, Lum8u, C3, ARRAY, R, lumCmpLess)
+LUMI_CLAMP_TO(lumiThreshold_LT_8u_C3IR, Lum8u, C3, ARRAY, IR, lumCmpLess)
+LUMI_REPLACE(lumiThreshold_Val_8u_C3R, Lum8u, C3, ARRAY, R)
+LUMI_REPLACE(lumiThreshold_Val_8u_C3IR, Lum8u, C3, ARRAY, IR)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_8u_C3R, Lum8u, C3, ARRAY, R, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_8u_C3IR, Lum8u, C3, ARRAY, IR, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_8u_C3R, Lum8u, C3, ARRAY, R, lumCmpLess)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_8u_C3IR, Lum8u, C3, ARRAY, IR, lumCmpLess)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_8u_C3R, Lum8u, C3, ARRAY, R)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_8u_C3IR, Lum8u, C3, ARRAY, IR)
+LUMI_CLAMP(lumiThreshold_8u_AC4R, Lum8u, AC4, ARRAY, R)
+LUMI_CLAMP(lumiThreshold_8u_AC4IR, Lum8u, AC4, ARRAY, IR)
+LUMI_CLAMP_TO(lumiThreshold_GT_8u_AC4R, Lum8u, AC4, ARRAY, R, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_GT_8u_AC4IR, Lum8u, AC4, ARRAY, IR, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_LT_8u_AC4R, Lum8u, AC4, ARRAY, R, lumCmpLess)
+LUMI_CLAMP_TO(lumiThreshold_LT_8u_AC4IR, Lum8u, AC4, ARRAY, IR, lumCmpLess)
+LUMI_REPLACE(lumiThreshold_Val_8u_AC4R, Lum8u, AC4, ARRAY, R)
+LUMI_REPLACE(lumiThreshold_Val_8u_AC4IR, Lum8u, AC4, ARRAY, IR)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_8u_AC4R, Lum8u, AC4, ARRAY, R, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_8u_AC4IR, Lum8u, AC4, ARRAY, IR, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_8u_AC4R, Lum8u, AC4, ARRAY, R, lumCmpLess)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_8u_AC4IR, Lum8u, AC4, ARRAY, IR, lumCmpLess)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_8u_AC4R, Lum8u, AC4, ARRAY, R)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_8u_AC4IR, Lum8u, AC4, ARRAY, IR)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_8u_C4R, Lum8u, C4, ARRAY, R, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_8u_C4IR, Lum8u, C4, ARRAY, IR, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_8u_C4R, Lum8u, C4, ARRAY, R, lumCmpLess)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_8u_C4IR, Lum8u, C4, ARRAY, IR, lumCmpLess)
+LUMI_CLAMP(lumiThreshold_16s_C1R, Lum16s, C1, SCALAR, R)
+LUMI_CLAMP(lumiThreshold_16s_C1IR, Lum16s, C1, SCALAR, IR)
+LUMI_CLAMP_TO(lumiThreshold_GT_16s_C1R, Lum16s, C1, SCALAR, R, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_GT_16s_C1IR, Lum16s, C1, SCALAR, IR, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_LT_16s_C1R, Lum16s, C1, SCALAR, R, lumCmpLess)
+LUMI_CLAMP_TO(lumiThreshold_LT_16s_C1IR, Lum16s, C1, SCALAR, IR, lumCmpLess)
+LUMI_REPLACE(lumiThreshold_Val_16s_C1R, Lum16s, C1, SCALAR, R)
+LUMI_REPLACE(lumiThreshold_Val_16s_C1IR, Lum16s, C1, SCALAR, IR)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_16s_C1R, Lum16s, C1, SCALAR, R, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_16s_C1IR, Lum16s, C1, SCALAR, IR, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_16s_C1R, Lum16s, C1, SCALAR, R, lumCmpLess)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_16s_C1IR, Lum16s, C1, SCALAR, IR, lumCmpLess)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_16s_C1R, Lum16s, C1, SCALAR, R)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_16s_C1IR, Lum16s, C1, SCALAR, IR)
+LUMI_CLAMP(lumiThreshold_16s_C3R, Lum16s, C3, ARRAY, R)
+LUMI_CLAMP(lumiThreshold_16s_C3IR, Lum16s, C3, ARRAY, IR)
+LUMI_CLAMP_TO(lumiThreshold_GT_16s_C3R, Lum16s, C3, ARRAY, R, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_GT_16s_C3IR, Lum16s, C3, ARRAY, IR, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_LT_16s_C3R, Lum16s, C3, ARRAY, R, lumCmpLess)
+LUMI_CLAMP_TO(lumiThreshold_LT_16s_C3IR, Lum16s, C3, ARRAY, IR, lumCmpLess)
+LUMI_REPLACE(lumiThreshold_Val_16s_C3R, Lum16s, C3, ARRAY, R)
+LUMI_REPLACE(lumiThreshold_Val_16s_C3IR, Lum16s, C3, ARRAY, IR)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_16s_C3R, Lum16s, C3, ARRAY, R, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_16s_C3IR, Lum16s, C3, ARRAY, IR, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_16s_C3R, Lum16s, C3, ARRAY, R, lumCmpLess)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_16s_C3IR, Lum16s, C3, ARRAY, IR, lumCmpLess)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_16s_C3R, Lum16s, C3, ARRAY, R)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_16s_C3IR, Lum16s, C3, ARRAY, IR)
+LUMI_CLAMP(lumiThreshold_16s_AC4R, Lum16s, AC4, ARRAY, R)
+LUMI_CLAMP(lumiThreshold_16s_AC4IR, Lum16s, AC4, ARRAY, IR)
+LUMI_CLAMP_TO(lumiThreshold_GT_16s_AC4R, Lum16s, AC4, ARRAY, R, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_GT_16s_AC4IR, Lum16s, AC4, ARRAY, IR, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_LT_16s_AC4R, Lum16s, AC4, ARRAY, R, lumCmpLess)
+LUMI_CLAMP_TO(lumiThreshold_LT_16s_AC4IR, Lum16s, AC4, ARRAY, IR, lumCmpLess)
+LUMI_REPLACE(lumiThreshold_Val_16s_AC4R, Lum16s, AC4, ARRAY, R)
+LUMI_REPLACE(lumiThreshold_Val_16s_AC4IR, Lum16s, AC4, ARRAY, IR)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_16s_AC4R, Lum16s, AC4, ARRAY, R, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_16s_AC4IR, Lum16s, AC4, ARRAY, IR, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_16s_AC4R, Lum16s, AC4, ARRAY, R, lumCmpLess)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_16s_AC4IR, Lum16s, AC4, ARRAY, IR, lumCmpLess)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_16s_AC4R, Lum16s, AC4, ARRAY, R)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_16s_AC4IR, Lum16s, AC4, ARRAY, IR)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_16s_C4R, Lum16s, C4, ARRAY, R, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_16s_C4IR, Lum16s, C4, ARRAY, IR, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_16s_C4R, Lum16s, C4, ARRAY, R, lumCmpLess)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_16s_C4IR, Lum16s, C4, ARRAY, IR, lumCmpLess)
+LUMI_CLAMP(lumiThreshold_32f_C1R, Lum32f, C1, SCALAR, R)
+LUMI_CLAMP(lumiThreshold_32f_C1IR, Lum32f, C1, SCALAR, IR)
+LUMI_CLAMP_TO(lumiThreshold_GT_32f_C1R, Lum32f, C1, SCALAR, R, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_GT_32f_C1IR, Lum32f, C1, SCALAR, IR, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_LT_32f_C1R, Lum32f, C1, SCALAR, R, lumCmpLess)
+LUMI_CLAMP_TO(lumiThreshold_LT_32f_C1IR, Lum32f, C1, SCALAR, IR, lumCmpLess)
+LUMI_REPLACE(lumiThreshold_Val_32f_C1R, Lum32f, C1, SCALAR, R)
+LUMI_REPLACE(lumiThreshold_Val_32f_C1IR, Lum32f, C1, SCALAR, IR)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_32f_C1R, Lum32f, C1, SCALAR, R, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_32f_C1IR, Lum32f, C1, SCALAR, IR, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_32f_C1R, Lum32f, C1, SCALAR, R, lumCmpLess)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_32f_C1IR, Lum32f, C1, SCALAR, IR, lumCmpLess)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_32f_C1R, Lum32f, C1, SCALAR, R)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_32f_C1IR, Lum32f, C1, SCALAR, IR)
+LUMI_CLAMP(lumiThreshold_32f_C3R, Lum32f, C3, ARRAY, R)
+LUMI_CLAMP(lumiThreshold_32f_C3IR, Lum32f, C3, ARRAY, IR)
+LUMI_CLAMP_TO(lumiThreshold_GT_32f_C3R, Lum32f, C3, ARRAY, R, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_GT_32f_C3IR, Lum32f, C3, ARRAY, IR, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_LT_32f_C3R, Lum32f, C3, ARRAY, R, lumCmpLess)
+LUMI_CLAMP_TO(lumiThreshold_LT_32f_C3IR, Lum32f, C3, ARRAY, IR, lumCmpLess)
+LUMI_REPLACE(lumiThreshold_Val_32f_C3R, Lum32f, C3, ARRAY, R)
+LUMI_REPLACE(lumiThreshold_Val_32f_C3IR, Lum32f, C3, ARRAY, IR)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_32f_C3R, Lum32f, C3, ARRAY, R, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_32f_C3IR, Lum32f, C3, ARRAY, IR, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_32f_C3R, Lum32f, C3, ARRAY, R, lumCmpLess)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_32f_C3IR, Lum32f, C3, ARRAY, IR, lumCmpLess)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_32f_C3R, Lum32f, C3, ARRAY, R)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_32f_C3IR, Lum32f, C3, ARRAY, IR)
+LUMI_CLAMP(lumiThreshold_32f_AC4R, Lum32f, AC4, ARRAY, R)
+LUMI_CLAMP(lumiThreshold_32f_AC4IR, Lum32f, AC4, ARRAY, IR)
+LUMI_CLAMP_TO(lumiThreshold_GT_32f_AC4R, Lum32f, AC4, ARRAY, R, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_GT_32f_AC4IR, Lum32f, AC4, ARRAY, IR, lumCmpGreater)
+LUMI_CLAMP_TO(lumiThreshold_LT_32f_AC4R, Lum32f, AC4, ARRAY, R, lumCmpLess)
+LUMI_CLAMP_TO(lumiThreshold_LT_32f_AC4IR, Lum32f, AC4, ARRAY, IR, lumCmpLess)
+LUMI_REPLACE(lumiThreshold_Val_32f_AC4R, Lum32f, AC4, ARRAY, R)
+LUMI_REPLACE(lumiThreshold_Val_32f_AC4IR, Lum32f, AC4, ARRAY, IR)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_32f_AC4R, Lum32f, AC4, ARRAY, R, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_32f_AC4IR, Lum32f, AC4, ARRAY, IR, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_32f_AC4R, Lum32f, AC4, ARRAY, R, lumCmpLess)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_32f_AC4IR, Lum32f, AC4, ARRAY, IR, lumCmpLess)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_32f_AC4R, Lum32f, AC4, ARRAY, R)
+LUMI_TWO_SIDED(lumiThreshold_LTValGTVal_32f_AC4IR, Lum32f, AC4, ARRAY, IR)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_32f_C4R, Lum32f, C4, ARRAY, R, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_GTVal_32f_C4IR, Lum32f, C4, ARRAY, IR, lumCmpGreater)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_32f_C4R, Lum32f, C4, ARRAY, R, lumCmpLess)
+LUMI_REPLACE_TO(lumiThreshold_LTVal_32f_C4IR, Lum32f, C4, ARRAY, IR, lumCmpLess)
 }
 
 #endif  // HWY_ONCE

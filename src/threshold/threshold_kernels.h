@@ -1,19 +1,15 @@
-// Shared pieces of the threshold, compare, logic and shift kernels.
+// Shared pieces of the threshold, compare, logic and shift families (plain C++, included once;
+// the vector row loops are in threshold_kernels-inl.h).
 //
 // Multi-channel rows are processed as one run of width * channels elements. Per-channel
-// constants (thresholds, values, logic constants, the alpha lanes that must be kept) become a
-// per-position pattern: element k of a block uses pattern[k]. The vector loops consume three
-// vectors per step, so the pattern repeats every three vectors; kPatternLen covers three
-// vectors of the widest target (64 lanes of 8 bits) and is a multiple of every channel count
-// (1, 3, 4), so one pattern serves every target.
-//
-// The first part of this header is plain C++ (included once); the second part is compiled
-// once per SIMD target, following the re-inclusion protocol of the per-target kernel files.
+// constants (thresholds, values, logic constants) become a per-position pattern: element k of
+// a block uses pattern[k]. The vector loops consume three vectors per step, so the pattern
+// repeats every three vectors; kPatternLen covers three vectors of the widest target (64 lanes
+// of 8 bits) and is a multiple of every channel count (1, 3, 4), so one pattern serves every
+// target, and pattern[c] is channel c's constant for the scalar twins.
+#pragma once
 
-#ifndef LUMI_THRESHOLD_KERNELS_H_
-#define LUMI_THRESHOLD_KERNELS_H_
-
-#include <cstring>
+#include <cstddef>
 #include <type_traits>
 #include <utility>
 
@@ -40,23 +36,68 @@ inline void fillPattern(Pattern<T>& p, const T* vals, int ch, int use, T fill = 
   }
 }
 
-// All-ones in the lanes the kernels must leave as the destination held them (AC4 alpha),
-// zero elsewhere.
-template <class T>
-inline void fillKeep(Pattern<T>& p, int ch, int use) {
-  for (int k = 0; k < kPatternLen; ++k) {
-    if (k % ch < use)
-      std::memset(&p.v[k], 0, sizeof(T));
-    else
-      std::memset(&p.v[k], 0xFF, sizeof(T));
+// ---- the rows one call works on ---------------------------------------------------------------
+
+// Rows of n = width x channels elements: a source a, an optional second operand b (an image,
+// or a pattern of constants when bStep is 0) and a destination. ch and use are the layout's
+// channels in memory and written; use < ch (AC4) leaves every fourth element as it was.
+template <class T, class O = T>
+struct ElemRows {
+  const T* a;
+  int aStep;
+  const T* b;
+  int bStep;
+  O* dst;
+  int dstStep;
+  std::ptrdiff_t n;
+  int height;
+  int ch, use;
+  bool keepAlpha() const { return use < ch; }
+};
+
+// The rows of layout L with one source (and a pattern or nothing as b): a contiguous image is
+// walked as one long row.
+template <class L, class T, class O>
+inline ElemRows<T, O> elemRows(const T* a, int aStep, const std::remove_const_t<T>* b, int bStep,
+                               O* dst, int dstStep, LumiSize roi) {
+  const LumiSize r = bStep ? coalesceRows(roi, bytesOf(1, L::kCh, sizeof(T)), aStep, bStep, dstStep)
+                           : coalesceRows(roi, bytesOf(1, L::kCh, sizeof(T)), aStep, dstStep);
+  return {a, aStep, b, bStep, dst, dstStep, elemsOf(r.width, L::kCh), r.height, L::kCh, L::kUse};
+}
+
+// The scalar twins' walk: f(a, b, o, i, c) for every written element i (channel c) of every
+// row; a, b and o are the row starts (b is the pattern itself when r.bStep is 0).
+template <class T, class O, class F>
+inline void forElements(const ElemRows<T, O>& r, F&& f) {
+  for (int y = 0; y < r.height; ++y) {
+    const T* a = rowAt(r.a, r.aStep, y);
+    const T* b = r.bStep ? rowAt(r.b, r.bStep, y) : r.b;
+    O* o = rowAt(r.dst, r.dstStep, y);
+    for (std::ptrdiff_t x = 0; x < r.n; x += r.ch)
+      for (int c = 0; c < r.use; ++c) f(a, b, o, x + c, c);
   }
 }
 
-inline bool keepLane(const void* keep, int sizeOfT, int off) {
-  return keep && static_cast<const unsigned char*>(keep)[off * sizeOfT] != 0;
+// ---- argument checks ------------------------------------------------------------------------
+
+// Null pointers, then the ROI size, then the steps.
+template <class... S>
+inline LumStatus checkSizeThenSteps(bool nullPtr, LumiSize roi, S... steps) {
+  if (nullPtr) return lumStatusNullPtrErr;
+  if (badSize(roi)) return lumStatusSizeErr;
+  if (badStep(steps...)) return lumStatusStepErr;
+  return lumStatusOk;
+}
+// Null pointers, then the steps, then the ROI size.
+template <class... S>
+inline LumStatus checkStepsThenSize(bool nullPtr, LumiSize roi, S... steps) {
+  if (nullPtr) return lumStatusNullPtrErr;
+  if (badStep(steps...)) return lumStatusStepErr;
+  if (badSize(roi)) return lumStatusSizeErr;
+  return lumStatusOk;
 }
 
-// ---- per-sample rules, shared by the scalar kernels and the vector tails ----------------
+// ---- per-sample rules, shared by the scalar twins and the vector tails ----------------------
 
 // Threshold modes.
 enum ThresholdMode : int { kClampGT = 0, kClampLT = 1, kValGT = 2, kValLT = 3, kValLTGT = 4 };
@@ -74,6 +115,13 @@ inline T thresholdSample(int mode, T x, T t1, T v1, T t2, T v2) {
     default: return t1 <= x ? (t2 < x ? v2 : x) : v1;
   }
 }
+
+// The patterns of one threshold call: t1/v1 the (lower) threshold and value, t2/v2 the upper
+// pair of the two-sided mode (unused ones are zero).
+template <class T>
+struct ThresholdPatterns {
+  Pattern<T> t1, v1, t2, v2;
+};
 
 // Comparison relations; kRelEqEps is |a - b| <= eps with the absolute value formed by
 // clearing the sign bit (floats only). Every relation is false when a float operand is NaN.
@@ -127,70 +175,5 @@ inline void withConstant(int v, F&& f) {
   withConstantImpl<N>(v, f, std::make_integer_sequence<int, N>{});
 }
 
-// Walks `height` rows of `rowElems` elements of two same-typed images.
-template <class S, class D, class F>
-inline void eachRow(S* src, int srcStep, D* dst, int dstStep, int height, F&& f) {
-  for (int y = 0; y < height; ++y) f(rowAt(src, srcStep, y), rowAt(dst, dstStep, y));
-}
-
 }  // namespace thr
 }  // namespace lumi
-
-#endif  // LUMI_THRESHOLD_KERNELS_H_
-
-// ---- per-target part --------------------------------------------------------------------
-#if defined(LUMI_THRESHOLD_KERNELS_TOGGLE) == defined(HWY_TARGET_TOGGLE)
-#ifdef LUMI_THRESHOLD_KERNELS_TOGGLE
-#undef LUMI_THRESHOLD_KERNELS_TOGGLE
-#else
-#define LUMI_THRESHOLD_KERNELS_TOGGLE
-#endif
-
-#include "hwy/highway.h"
-
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
-namespace thrv {
-
-// Runs one row of n elements: vop(i, off) handles the vector starting at element i whose
-// pattern offset is off; sop(i, off) handles a single trailing element. The pattern offset
-// restarts every three vectors.
-template <class D, class VecOp, class ScalarOp>
-HWY_INLINE void patternRow(D d, int n, VecOp&& vop, ScalarOp&& sop) {
-  const int N = static_cast<int>(hwy::HWY_NAMESPACE::Lanes(d));
-  int i = 0;
-  for (; i + 3 * N <= n; i += 3 * N) {
-    vop(i, 0);
-    vop(i + N, N);
-    vop(i + 2 * N, 2 * N);
-  }
-  int off = 0;
-  for (; i + N <= n; i += N, off += N) vop(i, off);
-  for (; i < n; ++i, ++off) sop(i, off);
-}
-
-// a <= b for every lane type (integer lanes have no direct less-or-equal).
-template <class V>
-HWY_INLINE auto lessEq(V a, V b) {
-  namespace hn = hwy::HWY_NAMESPACE;
-  if constexpr (hwy::IsFloat<hn::TFromV<V>>())
-    return hn::Le(a, b);
-  else
-    return hn::Not(hn::Lt(b, a));
-}
-
-// Stores r at p, keeping the lanes flagged in the keep pattern (AC4 alpha) as p held them.
-template <class D, class V, class T>
-HWY_INLINE void storeKeeping(D d, V r, T* p, const T* keep, int off) {
-  namespace hn = hwy::HWY_NAMESPACE;
-  if (keep) r = hn::IfThenElse(hn::MaskFromVec(hn::Load(d, keep + off)), hn::LoadU(d, p), r);
-  hn::StoreU(r, d, p);
-}
-
-}  // namespace thrv
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
-
-#endif  // toggle
