@@ -14,7 +14,7 @@
 extern "C" {
 #endif
 
-/* ---- liblumcore ---------------------------------------------------------------------- */
+/* ---- liblumcore (src/core/lumcore.c) ------------------------------------------------ */
 /* Number of threads every parallel region asks for; defaults to the processors online. */
 extern LUMCORE_API int threads_omp_of_n_lum;
 /* Writes the size in bytes of the largest processor cache; returns 0, or nonzero if unknown. */
@@ -29,7 +29,7 @@ LUMCORE_API unsigned int ps_get_ssx(void);
 /* Replaces the register bits selected by mask with those of value. */
 LUMCORE_API void ps_set_ssx(unsigned int value, unsigned int mask);
 
-/* ---- allocation ---------------------------------------------------------------------- */
+/* ---- aligned allocation (src/core/malloc.cpp) ---------------------------------------- */
 LUMI_API Lum8u* lumsMalloc_8u(int len);
 LUMI_API Lum8s* lumsMalloc_8s(int len);
 LUMI_API Lum16u* lumsMalloc_16u(int len);
@@ -81,7 +81,7 @@ LUMI_API Lum32fc* lumiMalloc_32fc_C4(int widthPixels, int heightPixels, int* pSt
 LUMI_API Lum32fc* lumiMalloc_32fc_AC4(int widthPixels, int heightPixels, int* pStepBytes);
 LUMI_API void lumiFree(void* ptr);
 
-/* ---- version ------------------------------------------------------------------------- */
+/* ---- version record (src/core/malloc.cpp) -------------------------------------------- */
 LUMI_API const LumLibraryVersion* lumiGetLibVersion(void);
 
 #ifdef __cplusplus
