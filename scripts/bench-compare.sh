@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# Compares two builds of lumi-bench on this machine: runs them alternately ROUNDS times and
+# prints, per row and thread count, the median ratio (OpenCV time / Lumi time) of each build
+# and the change in percent. Alternating keeps slow drifts of a shared machine off the result.
+#   scripts/bench-compare.sh OLD/lumi-bench NEW/lumi-bench [ROUNDS] [filter]
+set -euo pipefail
+old=$1 new=$2 rounds=${3:-3} filter=${4:-}
+out=$(mktemp -d)
+trap 'rm -rf "$out"' EXIT
+for r in $(seq "$rounds"); do
+  "$old" $filter > "$out/old.$r"
+  "$new" $filter > "$out/new.$r"
+done
+# Each run: "N thread(s)" headers, then rows "family  row ...  cv_ms lumi_ms ratio [..]".
+# A row's key is thread count + its label (everything before the three numbers).
+extract() {
+  awk -v tag="$1" '
+    /^[0-9]+ threads?$/ { th = $1; next }
+    NF >= 5 && $(NF) ~ /^[0-9.]+$/ {
+      n = 0; for (i = 1; i <= NF; ++i) if ($i ~ /^[0-9]+\.[0-9]+$/) { n = i; break }
+      if (!n || n + 2 > NF) next
+      label = $1; for (i = 2; i < n; ++i) label = label " " $i
+      print th "t|" label "|" tag "|" $(n + 2)
+    }' "${@:2}"
+}
+{ extract old "$out"/old.*; extract new "$out"/new.*; } |
+  sort -t'|' -k1,1 -k2,2 -k3,3 -k4,4g |
+  awk -F'|' '
+    function median(a, n) { return n % 2 ? a[(n + 1) / 2] : (a[n / 2] + a[n / 2 + 1]) / 2 }
+    { key = $1 "|" $2; if (!(key in seen)) { seen[key] = 1; order[++k] = key }
+      v[key, $3, ++c[key, $3]] = $4 }
+    END {
+      printf "%-4s %-36s %8s %8s %8s\n", "thr", "row", "before", "after", "change"
+      worst = 0
+      for (i = 1; i <= k; ++i) {
+        key = order[i]; split(key, p, "|")
+        no = c[key, "old"]; nn = c[key, "new"]
+        if (!no || !nn) continue
+        for (j = 1; j <= no; ++j) a[j] = v[key, "old", j]
+        mo = median(a, no)
+        for (j = 1; j <= nn; ++j) b[j] = v[key, "new", j]
+        mn = median(b, nn)
+        ch = 100 * (mn / mo - 1)
+        if (ch < worst) worst = ch
+        printf "%-4s %-36s %8.2f %8.2f %+7.1f%%\n", p[1], p[2], mo, mn, ch
+      }
+      printf "worst change: %+.1f%%\n", worst
+    }'
