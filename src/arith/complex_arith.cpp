@@ -6,43 +6,42 @@
 #define HWY_TARGET_INCLUDE "src/arith/complex_arith.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
-#include "core/frame.h"
+#include "core/simd.h"
 #include "arith/float_kernels-inl.h"
 
-HWY_BEFORE_NAMESPACE();
+#ifndef LUMI_COMPLEX_ARITH_SCALAR_  // scalar definitions, compiled once
+#define LUMI_COMPLEX_ARITH_SCALAR_
 namespace lumi {
 namespace arithf {
-namespace HWY_NAMESPACE {
-namespace hn = hwy::HWY_NAMESPACE;
-
-#if HWY_TARGET != HWY_SCALAR
-// (a + bi)(c + di) for interleaved complex values held in double lanes.
-template <class D>
-HWY_INLINE hn::Vec<D> ComplexProduct(D dd, hn::Vec<D> x, hn::Vec<D> y) {
-  const auto re = hn::InterleaveLower(dd, x, x);  // a a
-  const auto im = hn::InterleaveUpper(dd, x, x);  // b b
-  const auto p1 = hn::Mul(re, y);                 // ac ad
-  const auto p2 = hn::Mul(im, hn::Reverse2(dd, y));  // bd bc
-  return hn::OddEven(hn::Add(p1, p2), hn::Sub(p1, p2));
-}
-#endif
-
-HWY_INLINE void ComplexProductScalar(const float* x, const float* y, float* out) {
+// (a + bi)(c + di) in double precision, rounded once to single.
+inline void complexProduct(const float* x, const float* y, float* out) {
   const double a = x[0], b = x[1], c = y[0], d = y[1];
   const float re = static_cast<float>(a * c - b * d), im = static_cast<float>(a * d + b * c);
   out[0] = re;
   out[1] = im;
 }
+}  // namespace arithf
+}  // namespace lumi
+#endif
+
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+namespace arithv {
+
+// (a + bi)(c + di) for interleaved complex values held in double lanes.
+template <class D>
+HWY_INLINE hn::Vec<D> complexProductVec(D dd, hn::Vec<D> x, hn::Vec<D> y) {
+  const auto re = hn::InterleaveLower(dd, x, x);     // a a
+  const auto im = hn::InterleaveUpper(dd, x, x);     // b b
+  const auto p1 = hn::Mul(re, y);                    // ac ad
+  const auto p2 = hn::Mul(im, hn::Reverse2(dd, y));  // bd bc
+  return hn::OddEven(hn::Add(p1, p2), hn::Sub(p1, p2));
+}
 
 // out = x * y over n floats (n/2 complex values); y is a row, or the pattern's constants when
 // y is null.
-void ComplexMulRowSimd(const float* x, const float* y, float* out, int n,
-                       const RowPattern<float>* pat) {
-#if HWY_TARGET == HWY_SCALAR
-  for (int i = 0; i < n; i += 2)
-    if (Owns(pat, static_cast<size_t>(i)))
-      ComplexProductScalar(x + i, y ? y + i : pat->value + i % pat->period, out + i);
-#else
+void complexMulRow(const float* x, const float* y, float* out, std::ptrdiff_t n,
+                   const RowPattern<float>* pat) {
   const hn::ScalableTag<double> dd;
   const hn::Rebind<float, decltype(dd)> df;
   ForEachVector(
@@ -50,53 +49,44 @@ void ComplexMulRowSimd(const float* x, const float* y, float* out, int n,
       [&](size_t i, size_t off, auto masked) {
         const auto xv = hn::PromoteTo(dd, hn::LoadU(df, x + i));
         const auto yv = hn::PromoteTo(dd, hn::LoadU(df, y ? y + i : pat->value + off));
-        StoreOwned(df, hn::DemoteTo(df, ComplexProduct(dd, xv, yv)), out + i, pat, off, masked);
+        StoreOwned(df, hn::DemoteTo(df, complexProductVec(dd, xv, yv)), out + i, pat, off, masked);
       },
       [&](size_t i, size_t off) {  // the tail starts on a whole complex value
         if ((i & 1) == 0 && Owns(pat, off))
-          ComplexProductScalar(x + i, y ? y + i : pat->value + off, out + i);
+          complexProduct(x + i, y ? y + i : pat->value + off, out + i);
       });
-#endif
 }
 
-}  // namespace HWY_NAMESPACE
-}  // namespace arithf
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+}  // namespace arithv
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
 
 #if HWY_ONCE
-#include "core/simd.h"
 
 namespace lumi {
 namespace arithf {
 namespace {
 
-using ComplexMulRow = void (*)(const float*, const float*, float*, int, const RowPattern<float>*);
-LUMI_SIMD_TABLE(ComplexMulRow, kComplexMulRow, ComplexMulRowSimd);
+using ComplexMulRow = void (*)(const float*, const float*, float*, std::ptrdiff_t,
+                               const RowPattern<float>*);
 
-void complexMulRowScalar(const float* x, const float* y, float* out, int n,
+void complexMulRowScalar(const float* x, const float* y, float* out, std::ptrdiff_t n,
                          const RowPattern<float>* pat) {
-  for (int i = 0; i < n; i += 2) {
-    if (pat && !pat->writes(i)) continue;
-    const float* c = y ? y + i : pat->value + i % pat->period;
-    const double a = x[i], b = x[i + 1];
-    const float re = static_cast<float>(a * c[0] - b * c[1]);
-    const float im = static_cast<float>(a * c[1] + b * c[0]);
-    out[i] = re;
-    out[i + 1] = im;
-  }
+  for (std::ptrdiff_t i = 0; i < n; i += 2)
+    if (!pat || pat->writes(i)) complexProduct(x + i, y ? y + i : pat->value + i % pat->period, out + i);
 }
 
-ComplexMulRow pickComplexMul() {
-  auto f = pickSimd(kComplexMulRow);
-  return f ? f : complexMulRowScalar;
+ComplexMulRow pickComplexMulRow() {
+  LUMI_SIMD_TABLE(ComplexMulRow, table, arithv::complexMulRow);
+  return pick(table, &complexMulRowScalar);
 }
 
 // (a + bi) / (c + di) in double precision, rounded once to single. A zero divisor stores the
 // IEEE quotients (infinities or NaN) and is reported.
-int complexDivRow(const float* x, const float* y, float* out, int n, const RowPattern<float>* pat) {
+int complexDivRow(const float* x, const float* y, float* out, std::ptrdiff_t n,
+                  const RowPattern<float>* pat) {
   int zero = 0;
-  for (int i = 0; i < n; i += 2) {
+  for (std::ptrdiff_t i = 0; i < n; i += 2) {
     if (pat && !pat->writes(i)) continue;
     const float* cv = y ? y + i : pat->value + i % pat->period;
     const double a = x[i], b = x[i + 1], c = cv[0], d = cv[1];
@@ -122,10 +112,10 @@ LumStatus binary32fc(int op, const Lum32fc* s1, int s1Step, const Lum32fc* s2, i
   const bool masked = L::kUse < L::kCh;
   RowPattern<float> pat(masked ? 2 * L::kCh : 2, masked ? 2 * L::kUse : 2, nullptr);
   const RowPattern<float>* p = masked ? &pat : nullptr;
-  const int n = roi.width * L::kCh * 2;
+  const std::ptrdiff_t n = elemsOf(roi.width, 2 * L::kCh);
   const bool stream = op < 2 && !masked && bypassCache(12.0 * n * roi.height);
-  F32BinaryRow addSub = op < 2 ? pickF32Binary(op, stream) : nullptr;
-  ComplexMulRow mul = pickComplexMul();
+  F32BinaryRow addSub = op < 2 ? pickBinaryRow(op, stream) : nullptr;
+  ComplexMulRow mul = pickComplexMulRow();
   LastStatus status;
   for (int y = 0; y < roi.height; ++y) {
     const float* x = reinterpret_cast<const float*>(rowAt(s2, s2Step, y));
@@ -168,16 +158,16 @@ LumStatus const32fc(int op, const Lum32fc* s, int sStep, const Lum32fc* value, L
     }
   }
   RowPattern<float> pat(2 * L::kCh, 2 * L::kUse, c);
-  const int n = roi.width * L::kCh * 2;
+  const std::ptrdiff_t n = elemsOf(roi.width, 2 * L::kCh);
   const bool stream = op < 2 && L::kUse == L::kCh && bypassCache(8.0 * n * roi.height);
-  F32ConstRow addSub = op < 2 ? pickF32Const(op, stream) : nullptr;
+  F32ConstRow addSub = op < 2 ? pickConstRow(op, stream) : nullptr;
   for (int y = 0; y < roi.height; ++y) {
     const float* x = reinterpret_cast<const float*>(rowAt(s, sStep, y));
     float* o = reinterpret_cast<float*>(rowAt(d, dStep, y));
     if (op < 2)
       addSub(x, o, n, &pat);
     else if (op == 2)
-      pickComplexMul()(x, nullptr, o, n, &pat);
+      pickComplexMulRow()(x, nullptr, o, n, &pat);
     else
       complexDivRow(x, nullptr, o, n, &pat);
   }
@@ -206,7 +196,7 @@ inline void sumSignMagnitude(int64_t p, int64_t q, bool* neg, uint64_t* mag) {
 }
 
 template <class P>
-inline P scaled(int64_t v, int sf) {
+inline P scaled(int64_t v, const ScaleFactor& sf) {
   return static_cast<P>(scaleInt64(v, sf, PartRange<P>::lo, PartRange<P>::hi));
 }
 
@@ -214,7 +204,7 @@ inline P scaled(int64_t v, int sf) {
 // formed in double precision, scaled, rounded half to even and saturated; a zero divisor
 // gives each part the type's bound by the sign of the dividend part (0 for a zero part).
 template <class P, int OP>
-inline int complexIntOp(const P* x, const P* y, P* out, int sf) {
+inline int complexIntOp(const P* x, const P* y, P* out, const ScaleFactor& sf) {
   const int64_t a = x[0], b = x[1], c = y[0], d = y[1];
   P re, im;
   int zero = 0;
@@ -253,11 +243,12 @@ inline int complexIntOp(const P* x, const P* y, P* out, int sf) {
 // Runs one operation over a row of complex elements; y is a row or, with yStride 0 and a
 // per-channel table, the constants. Returns nonzero when a divisor was zero.
 template <class P, int OP, class L>
-int complexIntRow(const P* x, const P* y, const P* table, P* out, int width, int sf) {
+int complexIntRow(const P* x, const P* y, const P* table, P* out, int width,
+                  const ScaleFactor& sf) {
   int zero = 0;
   for (int px = 0; px < width; ++px)
     for (int ch = 0; ch < L::kUse; ++ch) {
-      const int e = 2 * (px * L::kCh + ch);
+      const std::ptrdiff_t e = 2 * (elemsOf(px, L::kCh) + ch);
       zero |= complexIntOp<P, OP>(x + e, y ? y + e : table + 2 * ch, out + e, sf);
     }
   return zero;
@@ -273,7 +264,7 @@ void fillZeroParts(P* d, int dStep, LumiSize roi) {
   for (int y = 0; y < roi.height; ++y) {
     P* o = rowAt(d, dStep, y);
     for (int px = 0; px < roi.width; ++px)
-      for (int e = 0; e < 2 * L::kUse; ++e) o[2 * px * L::kCh + e] = 0;
+      for (int e = 0; e < 2 * L::kUse; ++e) o[2 * elemsOf(px, L::kCh) + e] = 0;
   }
 }
 
@@ -284,10 +275,11 @@ LumStatus rowsInt(const P* x, int xStep, const P* y, int yStep, const P* table, 
     fillZeroParts<P, L>(d, dStep, roi);
     return lumStatusOk;
   }
+  const ScaleFactor scale = resolveSf(sf);
   LastStatus status;
   for (int r = 0; r < roi.height; ++r)
     if (complexIntRow<P, OP, L>(rowAt(x, xStep, r), y ? rowAt(y, yStep, r) : nullptr, table,
-                                rowAt(d, dStep, r), roi.width, sf))
+                                rowAt(d, dStep, r), roi.width, scale))
       status.add(lumStatusDivByZeroWarn);
   return status.value;
 }
@@ -326,70 +318,188 @@ LumStatus constInt(const CT* s, int sStep, const CT* value, CT* d, int dStep, Lu
 }  // namespace lumi
 
 // ---- exports -------------------------------------------------------------------------------
-#define LUMI_32FC_BIN_ONE(NAME, OP, L)                                                          \
-  LUMI_API LumStatus lumi##NAME##_32fc_##L##R(const Lum32fc* a, int as, const Lum32fc* b,        \
-                                              int bs, Lum32fc* d, int ds, LumiSize r) {          \
-    return lumi::arithf::binary32fc<lumi::L>(OP, a, as, b, bs, d, ds, r);                                \
-  }                                                                                              \
-  LUMI_API LumStatus lumi##NAME##_32fc_##L##IR(const Lum32fc* s, int ss, Lum32fc* sd, int sds,   \
-                                               LumiSize r) {                                     \
-    return lumi::arithf::binary32fc<lumi::L>(OP, s, ss, sd, sds, sd, sds, r);                            \
+// One line per member. VT is how the constant is passed (the value for C1, else a pointer to
+// one per channel) and VP its address.
+#define LUMI_32FC_IMAGE(NAME, OP, L)                                                            \
+  LUMI_API LumStatus NAME(const Lum32fc* a, int as, const Lum32fc* b, int bs, Lum32fc* d,      \
+                          int ds, LumiSize r) {                                                \
+    return lumi::arithf::binary32fc<lumi::L>(OP, a, as, b, bs, d, ds, r);                      \
   }
-#define LUMI_32FC_CONST_ONE(NAME, OP, L, VT, VP)                                                 \
-  LUMI_API LumStatus lumi##NAME##_32fc_##L##R(const Lum32fc* s, int ss, VT value, Lum32fc* d,     \
-                                              int ds, LumiSize r) {                               \
-    return lumi::arithf::const32fc<lumi::L>(OP, s, ss, VP, d, ds, r);                                     \
-  }                                                                                               \
-  LUMI_API LumStatus lumi##NAME##_32fc_##L##IR(VT value, Lum32fc* sd, int sds, LumiSize r) {      \
-    return lumi::arithf::const32fc<lumi::L>(OP, sd, sds, VP, sd, sds, r);                                 \
+#define LUMI_32FC_IMAGE_I(NAME, OP, L)                                                           \
+  LUMI_API LumStatus NAME(const Lum32fc* s, int ss, Lum32fc* sd, int sds, LumiSize r) {         \
+    return lumi::arithf::binary32fc<lumi::L>(OP, s, ss, sd, sds, sd, sds, r);                   \
   }
-#define LUMI_32FC(NAME, OP)                                                       \
-  LUMI_32FC_BIN_ONE(NAME, OP, C1)                                                 \
-  LUMI_32FC_BIN_ONE(NAME, OP, C3)                                                 \
-  LUMI_32FC_BIN_ONE(NAME, OP, AC4)                                                \
-  LUMI_32FC_CONST_ONE(NAME##C, OP, C1, Lum32fc, &value)                           \
-  LUMI_32FC_CONST_ONE(NAME##C, OP, C3, const Lum32fc*, value)                     \
-  LUMI_32FC_CONST_ONE(NAME##C, OP, AC4, const Lum32fc*, value)
-
-#define LUMI_CINT_BIN_ONE(NAME, OP, TY, CT, L)                                                  \
-  LUMI_API LumStatus lumi##NAME##_##TY##_##L##RSfs(const CT* a, int as, const CT* b, int bs,     \
-                                                   CT* d, int ds, LumiSize r, int sf) {          \
-    return lumi::arithf::binaryInt<CT, OP, lumi::L>(a, as, b, bs, d, ds, r, sf);                         \
-  }                                                                                              \
-  LUMI_API LumStatus lumi##NAME##_##TY##_##L##IRSfs(const CT* s, int ss, CT* sd, int sds,        \
-                                                    LumiSize r, int sf) {                        \
-    return lumi::arithf::binaryInt<CT, OP, lumi::L>(s, ss, sd, sds, sd, sds, r, sf);                     \
+#define LUMI_32FC_CONST(NAME, OP, L, VT, VP)                                                     \
+  LUMI_API LumStatus NAME(const Lum32fc* s, int ss, VT value, Lum32fc* d, int ds, LumiSize r) { \
+    return lumi::arithf::const32fc<lumi::L>(OP, s, ss, VP, d, ds, r);                           \
   }
-#define LUMI_CINT_CONST_ONE(NAME, OP, TY, CT, L, VT, VP)                                        \
-  LUMI_API LumStatus lumi##NAME##_##TY##_##L##RSfs(const CT* s, int ss, VT value, CT* d, int ds, \
-                                                   LumiSize r, int sf) {                         \
-    return lumi::arithf::constInt<CT, OP, lumi::L>(s, ss, VP, d, ds, r, sf);                             \
-  }                                                                                              \
-  LUMI_API LumStatus lumi##NAME##_##TY##_##L##IRSfs(VT value, CT* sd, int sds, LumiSize r,       \
-                                                    int sf) {                                    \
-    return lumi::arithf::constInt<CT, OP, lumi::L>(sd, sds, VP, sd, sds, r, sf);                         \
+#define LUMI_32FC_CONST_I(NAME, OP, L, VT, VP)                                \
+  LUMI_API LumStatus NAME(VT value, Lum32fc* sd, int sds, LumiSize r) {      \
+    return lumi::arithf::const32fc<lumi::L>(OP, sd, sds, VP, sd, sds, r);    \
   }
-#define LUMI_CINT(NAME, OP, TY, CT)                                     \
-  LUMI_CINT_BIN_ONE(NAME, OP, TY, CT, C1)                               \
-  LUMI_CINT_BIN_ONE(NAME, OP, TY, CT, C3)                               \
-  LUMI_CINT_BIN_ONE(NAME, OP, TY, CT, AC4)                              \
-  LUMI_CINT_CONST_ONE(NAME##C, OP, TY, CT, C1, CT, &value)              \
-  LUMI_CINT_CONST_ONE(NAME##C, OP, TY, CT, C3, const CT*, value)        \
-  LUMI_CINT_CONST_ONE(NAME##C, OP, TY, CT, AC4, const CT*, value)
+#define LUMI_CINT_IMAGE(NAME, OP, CT, L)                                                         \
+  LUMI_API LumStatus NAME(const CT* a, int as, const CT* b, int bs, CT* d, int ds, LumiSize r,  \
+                          int sf) {                                                             \
+    return lumi::arithf::binaryInt<CT, OP, lumi::L>(a, as, b, bs, d, ds, r, sf);                \
+  }
+#define LUMI_CINT_IMAGE_I(NAME, OP, CT, L)                                                   \
+  LUMI_API LumStatus NAME(const CT* s, int ss, CT* sd, int sds, LumiSize r, int sf) {       \
+    return lumi::arithf::binaryInt<CT, OP, lumi::L>(s, ss, sd, sds, sd, sds, r, sf);        \
+  }
+#define LUMI_CINT_CONST(NAME, OP, CT, L, VT, VP)                                              \
+  LUMI_API LumStatus NAME(const CT* s, int ss, VT value, CT* d, int ds, LumiSize r, int sf) { \
+    return lumi::arithf::constInt<CT, OP, lumi::L>(s, ss, VP, d, ds, r, sf);                 \
+  }
+#define LUMI_CINT_CONST_I(NAME, OP, CT, L, VT, VP)                                \
+  LUMI_API LumStatus NAME(VT value, CT* sd, int sds, LumiSize r, int sf) {       \
+    return lumi::arithf::constInt<CT, OP, lumi::L>(sd, sds, VP, sd, sds, r, sf); \
+  }
 
 extern "C" {
-LUMI_32FC(Add, 0)
-LUMI_32FC(Sub, 1)
-LUMI_32FC(Mul, 2)
-LUMI_32FC(Div, 3)
-LUMI_CINT(Add, 0, 16sc, Lum16sc)
-LUMI_CINT(Sub, 1, 16sc, Lum16sc)
-LUMI_CINT(Mul, 2, 16sc, Lum16sc)
-LUMI_CINT(Div, 3, 16sc, Lum16sc)
-LUMI_CINT(Add, 0, 32sc, Lum32sc)
-LUMI_CINT(Sub, 1, 32sc, Lum32sc)
-LUMI_CINT(Mul, 2, 32sc, Lum32sc)
-LUMI_CINT(Div, 3, 32sc, Lum32sc)
+LUMI_32FC_IMAGE(lumiAdd_32fc_C1R, 0, C1)
+LUMI_32FC_IMAGE_I(lumiAdd_32fc_C1IR, 0, C1)
+LUMI_32FC_IMAGE(lumiAdd_32fc_C3R, 0, C3)
+LUMI_32FC_IMAGE_I(lumiAdd_32fc_C3IR, 0, C3)
+LUMI_32FC_IMAGE(lumiAdd_32fc_AC4R, 0, AC4)
+LUMI_32FC_IMAGE_I(lumiAdd_32fc_AC4IR, 0, AC4)
+LUMI_32FC_CONST(lumiAddC_32fc_C1R, 0, C1, Lum32fc, &value)
+LUMI_32FC_CONST_I(lumiAddC_32fc_C1IR, 0, C1, Lum32fc, &value)
+LUMI_32FC_CONST(lumiAddC_32fc_C3R, 0, C3, const Lum32fc*, value)
+LUMI_32FC_CONST_I(lumiAddC_32fc_C3IR, 0, C3, const Lum32fc*, value)
+LUMI_32FC_CONST(lumiAddC_32fc_AC4R, 0, AC4, const Lum32fc*, value)
+LUMI_32FC_CONST_I(lumiAddC_32fc_AC4IR, 0, AC4, const Lum32fc*, value)
+LUMI_32FC_IMAGE(lumiSub_32fc_C1R, 1, C1)
+LUMI_32FC_IMAGE_I(lumiSub_32fc_C1IR, 1, C1)
+LUMI_32FC_IMAGE(lumiSub_32fc_C3R, 1, C3)
+LUMI_32FC_IMAGE_I(lumiSub_32fc_C3IR, 1, C3)
+LUMI_32FC_IMAGE(lumiSub_32fc_AC4R, 1, AC4)
+LUMI_32FC_IMAGE_I(lumiSub_32fc_AC4IR, 1, AC4)
+LUMI_32FC_CONST(lumiSubC_32fc_C1R, 1, C1, Lum32fc, &value)
+LUMI_32FC_CONST_I(lumiSubC_32fc_C1IR, 1, C1, Lum32fc, &value)
+LUMI_32FC_CONST(lumiSubC_32fc_C3R, 1, C3, const Lum32fc*, value)
+LUMI_32FC_CONST_I(lumiSubC_32fc_C3IR, 1, C3, const Lum32fc*, value)
+LUMI_32FC_CONST(lumiSubC_32fc_AC4R, 1, AC4, const Lum32fc*, value)
+LUMI_32FC_CONST_I(lumiSubC_32fc_AC4IR, 1, AC4, const Lum32fc*, value)
+LUMI_32FC_IMAGE(lumiMul_32fc_C1R, 2, C1)
+LUMI_32FC_IMAGE_I(lumiMul_32fc_C1IR, 2, C1)
+LUMI_32FC_IMAGE(lumiMul_32fc_C3R, 2, C3)
+LUMI_32FC_IMAGE_I(lumiMul_32fc_C3IR, 2, C3)
+LUMI_32FC_IMAGE(lumiMul_32fc_AC4R, 2, AC4)
+LUMI_32FC_IMAGE_I(lumiMul_32fc_AC4IR, 2, AC4)
+LUMI_32FC_CONST(lumiMulC_32fc_C1R, 2, C1, Lum32fc, &value)
+LUMI_32FC_CONST_I(lumiMulC_32fc_C1IR, 2, C1, Lum32fc, &value)
+LUMI_32FC_CONST(lumiMulC_32fc_C3R, 2, C3, const Lum32fc*, value)
+LUMI_32FC_CONST_I(lumiMulC_32fc_C3IR, 2, C3, const Lum32fc*, value)
+LUMI_32FC_CONST(lumiMulC_32fc_AC4R, 2, AC4, const Lum32fc*, value)
+LUMI_32FC_CONST_I(lumiMulC_32fc_AC4IR, 2, AC4, const Lum32fc*, value)
+LUMI_32FC_IMAGE(lumiDiv_32fc_C1R, 3, C1)
+LUMI_32FC_IMAGE_I(lumiDiv_32fc_C1IR, 3, C1)
+LUMI_32FC_IMAGE(lumiDiv_32fc_C3R, 3, C3)
+LUMI_32FC_IMAGE_I(lumiDiv_32fc_C3IR, 3, C3)
+LUMI_32FC_IMAGE(lumiDiv_32fc_AC4R, 3, AC4)
+LUMI_32FC_IMAGE_I(lumiDiv_32fc_AC4IR, 3, AC4)
+LUMI_32FC_CONST(lumiDivC_32fc_C1R, 3, C1, Lum32fc, &value)
+LUMI_32FC_CONST_I(lumiDivC_32fc_C1IR, 3, C1, Lum32fc, &value)
+LUMI_32FC_CONST(lumiDivC_32fc_C3R, 3, C3, const Lum32fc*, value)
+LUMI_32FC_CONST_I(lumiDivC_32fc_C3IR, 3, C3, const Lum32fc*, value)
+LUMI_32FC_CONST(lumiDivC_32fc_AC4R, 3, AC4, const Lum32fc*, value)
+LUMI_32FC_CONST_I(lumiDivC_32fc_AC4IR, 3, AC4, const Lum32fc*, value)
+LUMI_CINT_IMAGE(lumiAdd_16sc_C1RSfs, 0, Lum16sc, C1)
+LUMI_CINT_IMAGE_I(lumiAdd_16sc_C1IRSfs, 0, Lum16sc, C1)
+LUMI_CINT_IMAGE(lumiAdd_16sc_C3RSfs, 0, Lum16sc, C3)
+LUMI_CINT_IMAGE_I(lumiAdd_16sc_C3IRSfs, 0, Lum16sc, C3)
+LUMI_CINT_IMAGE(lumiAdd_16sc_AC4RSfs, 0, Lum16sc, AC4)
+LUMI_CINT_IMAGE_I(lumiAdd_16sc_AC4IRSfs, 0, Lum16sc, AC4)
+LUMI_CINT_CONST(lumiAddC_16sc_C1RSfs, 0, Lum16sc, C1, Lum16sc, &value)
+LUMI_CINT_CONST_I(lumiAddC_16sc_C1IRSfs, 0, Lum16sc, C1, Lum16sc, &value)
+LUMI_CINT_CONST(lumiAddC_16sc_C3RSfs, 0, Lum16sc, C3, const Lum16sc*, value)
+LUMI_CINT_CONST_I(lumiAddC_16sc_C3IRSfs, 0, Lum16sc, C3, const Lum16sc*, value)
+LUMI_CINT_CONST(lumiAddC_16sc_AC4RSfs, 0, Lum16sc, AC4, const Lum16sc*, value)
+LUMI_CINT_CONST_I(lumiAddC_16sc_AC4IRSfs, 0, Lum16sc, AC4, const Lum16sc*, value)
+LUMI_CINT_IMAGE(lumiSub_16sc_C1RSfs, 1, Lum16sc, C1)
+LUMI_CINT_IMAGE_I(lumiSub_16sc_C1IRSfs, 1, Lum16sc, C1)
+LUMI_CINT_IMAGE(lumiSub_16sc_C3RSfs, 1, Lum16sc, C3)
+LUMI_CINT_IMAGE_I(lumiSub_16sc_C3IRSfs, 1, Lum16sc, C3)
+LUMI_CINT_IMAGE(lumiSub_16sc_AC4RSfs, 1, Lum16sc, AC4)
+LUMI_CINT_IMAGE_I(lumiSub_16sc_AC4IRSfs, 1, Lum16sc, AC4)
+LUMI_CINT_CONST(lumiSubC_16sc_C1RSfs, 1, Lum16sc, C1, Lum16sc, &value)
+LUMI_CINT_CONST_I(lumiSubC_16sc_C1IRSfs, 1, Lum16sc, C1, Lum16sc, &value)
+LUMI_CINT_CONST(lumiSubC_16sc_C3RSfs, 1, Lum16sc, C3, const Lum16sc*, value)
+LUMI_CINT_CONST_I(lumiSubC_16sc_C3IRSfs, 1, Lum16sc, C3, const Lum16sc*, value)
+LUMI_CINT_CONST(lumiSubC_16sc_AC4RSfs, 1, Lum16sc, AC4, const Lum16sc*, value)
+LUMI_CINT_CONST_I(lumiSubC_16sc_AC4IRSfs, 1, Lum16sc, AC4, const Lum16sc*, value)
+LUMI_CINT_IMAGE(lumiMul_16sc_C1RSfs, 2, Lum16sc, C1)
+LUMI_CINT_IMAGE_I(lumiMul_16sc_C1IRSfs, 2, Lum16sc, C1)
+LUMI_CINT_IMAGE(lumiMul_16sc_C3RSfs, 2, Lum16sc, C3)
+LUMI_CINT_IMAGE_I(lumiMul_16sc_C3IRSfs, 2, Lum16sc, C3)
+LUMI_CINT_IMAGE(lumiMul_16sc_AC4RSfs, 2, Lum16sc, AC4)
+LUMI_CINT_IMAGE_I(lumiMul_16sc_AC4IRSfs, 2, Lum16sc, AC4)
+LUMI_CINT_CONST(lumiMulC_16sc_C1RSfs, 2, Lum16sc, C1, Lum16sc, &value)
+LUMI_CINT_CONST_I(lumiMulC_16sc_C1IRSfs, 2, Lum16sc, C1, Lum16sc, &value)
+LUMI_CINT_CONST(lumiMulC_16sc_C3RSfs, 2, Lum16sc, C3, const Lum16sc*, value)
+LUMI_CINT_CONST_I(lumiMulC_16sc_C3IRSfs, 2, Lum16sc, C3, const Lum16sc*, value)
+LUMI_CINT_CONST(lumiMulC_16sc_AC4RSfs, 2, Lum16sc, AC4, const Lum16sc*, value)
+LUMI_CINT_CONST_I(lumiMulC_16sc_AC4IRSfs, 2, Lum16sc, AC4, const Lum16sc*, value)
+LUMI_CINT_IMAGE(lumiDiv_16sc_C1RSfs, 3, Lum16sc, C1)
+LUMI_CINT_IMAGE_I(lumiDiv_16sc_C1IRSfs, 3, Lum16sc, C1)
+LUMI_CINT_IMAGE(lumiDiv_16sc_C3RSfs, 3, Lum16sc, C3)
+LUMI_CINT_IMAGE_I(lumiDiv_16sc_C3IRSfs, 3, Lum16sc, C3)
+LUMI_CINT_IMAGE(lumiDiv_16sc_AC4RSfs, 3, Lum16sc, AC4)
+LUMI_CINT_IMAGE_I(lumiDiv_16sc_AC4IRSfs, 3, Lum16sc, AC4)
+LUMI_CINT_CONST(lumiDivC_16sc_C1RSfs, 3, Lum16sc, C1, Lum16sc, &value)
+LUMI_CINT_CONST_I(lumiDivC_16sc_C1IRSfs, 3, Lum16sc, C1, Lum16sc, &value)
+LUMI_CINT_CONST(lumiDivC_16sc_C3RSfs, 3, Lum16sc, C3, const Lum16sc*, value)
+LUMI_CINT_CONST_I(lumiDivC_16sc_C3IRSfs, 3, Lum16sc, C3, const Lum16sc*, value)
+LUMI_CINT_CONST(lumiDivC_16sc_AC4RSfs, 3, Lum16sc, AC4, const Lum16sc*, value)
+LUMI_CINT_CONST_I(lumiDivC_16sc_AC4IRSfs, 3, Lum16sc, AC4, const Lum16sc*, value)
+LUMI_CINT_IMAGE(lumiAdd_32sc_C1RSfs, 0, Lum32sc, C1)
+LUMI_CINT_IMAGE_I(lumiAdd_32sc_C1IRSfs, 0, Lum32sc, C1)
+LUMI_CINT_IMAGE(lumiAdd_32sc_C3RSfs, 0, Lum32sc, C3)
+LUMI_CINT_IMAGE_I(lumiAdd_32sc_C3IRSfs, 0, Lum32sc, C3)
+LUMI_CINT_IMAGE(lumiAdd_32sc_AC4RSfs, 0, Lum32sc, AC4)
+LUMI_CINT_IMAGE_I(lumiAdd_32sc_AC4IRSfs, 0, Lum32sc, AC4)
+LUMI_CINT_CONST(lumiAddC_32sc_C1RSfs, 0, Lum32sc, C1, Lum32sc, &value)
+LUMI_CINT_CONST_I(lumiAddC_32sc_C1IRSfs, 0, Lum32sc, C1, Lum32sc, &value)
+LUMI_CINT_CONST(lumiAddC_32sc_C3RSfs, 0, Lum32sc, C3, const Lum32sc*, value)
+LUMI_CINT_CONST_I(lumiAddC_32sc_C3IRSfs, 0, Lum32sc, C3, const Lum32sc*, value)
+LUMI_CINT_CONST(lumiAddC_32sc_AC4RSfs, 0, Lum32sc, AC4, const Lum32sc*, value)
+LUMI_CINT_CONST_I(lumiAddC_32sc_AC4IRSfs, 0, Lum32sc, AC4, const Lum32sc*, value)
+LUMI_CINT_IMAGE(lumiSub_32sc_C1RSfs, 1, Lum32sc, C1)
+LUMI_CINT_IMAGE_I(lumiSub_32sc_C1IRSfs, 1, Lum32sc, C1)
+LUMI_CINT_IMAGE(lumiSub_32sc_C3RSfs, 1, Lum32sc, C3)
+LUMI_CINT_IMAGE_I(lumiSub_32sc_C3IRSfs, 1, Lum32sc, C3)
+LUMI_CINT_IMAGE(lumiSub_32sc_AC4RSfs, 1, Lum32sc, AC4)
+LUMI_CINT_IMAGE_I(lumiSub_32sc_AC4IRSfs, 1, Lum32sc, AC4)
+LUMI_CINT_CONST(lumiSubC_32sc_C1RSfs, 1, Lum32sc, C1, Lum32sc, &value)
+LUMI_CINT_CONST_I(lumiSubC_32sc_C1IRSfs, 1, Lum32sc, C1, Lum32sc, &value)
+LUMI_CINT_CONST(lumiSubC_32sc_C3RSfs, 1, Lum32sc, C3, const Lum32sc*, value)
+LUMI_CINT_CONST_I(lumiSubC_32sc_C3IRSfs, 1, Lum32sc, C3, const Lum32sc*, value)
+LUMI_CINT_CONST(lumiSubC_32sc_AC4RSfs, 1, Lum32sc, AC4, const Lum32sc*, value)
+LUMI_CINT_CONST_I(lumiSubC_32sc_AC4IRSfs, 1, Lum32sc, AC4, const Lum32sc*, value)
+LUMI_CINT_IMAGE(lumiMul_32sc_C1RSfs, 2, Lum32sc, C1)
+LUMI_CINT_IMAGE_I(lumiMul_32sc_C1IRSfs, 2, Lum32sc, C1)
+LUMI_CINT_IMAGE(lumiMul_32sc_C3RSfs, 2, Lum32sc, C3)
+LUMI_CINT_IMAGE_I(lumiMul_32sc_C3IRSfs, 2, Lum32sc, C3)
+LUMI_CINT_IMAGE(lumiMul_32sc_AC4RSfs, 2, Lum32sc, AC4)
+LUMI_CINT_IMAGE_I(lumiMul_32sc_AC4IRSfs, 2, Lum32sc, AC4)
+LUMI_CINT_CONST(lumiMulC_32sc_C1RSfs, 2, Lum32sc, C1, Lum32sc, &value)
+LUMI_CINT_CONST_I(lumiMulC_32sc_C1IRSfs, 2, Lum32sc, C1, Lum32sc, &value)
+LUMI_CINT_CONST(lumiMulC_32sc_C3RSfs, 2, Lum32sc, C3, const Lum32sc*, value)
+LUMI_CINT_CONST_I(lumiMulC_32sc_C3IRSfs, 2, Lum32sc, C3, const Lum32sc*, value)
+LUMI_CINT_CONST(lumiMulC_32sc_AC4RSfs, 2, Lum32sc, AC4, const Lum32sc*, value)
+LUMI_CINT_CONST_I(lumiMulC_32sc_AC4IRSfs, 2, Lum32sc, AC4, const Lum32sc*, value)
+LUMI_CINT_IMAGE(lumiDiv_32sc_C1RSfs, 3, Lum32sc, C1)
+LUMI_CINT_IMAGE_I(lumiDiv_32sc_C1IRSfs, 3, Lum32sc, C1)
+LUMI_CINT_IMAGE(lumiDiv_32sc_C3RSfs, 3, Lum32sc, C3)
+LUMI_CINT_IMAGE_I(lumiDiv_32sc_C3IRSfs, 3, Lum32sc, C3)
+LUMI_CINT_IMAGE(lumiDiv_32sc_AC4RSfs, 3, Lum32sc, AC4)
+LUMI_CINT_IMAGE_I(lumiDiv_32sc_AC4IRSfs, 3, Lum32sc, AC4)
+LUMI_CINT_CONST(lumiDivC_32sc_C1RSfs, 3, Lum32sc, C1, Lum32sc, &value)
+LUMI_CINT_CONST_I(lumiDivC_32sc_C1IRSfs, 3, Lum32sc, C1, Lum32sc, &value)
+LUMI_CINT_CONST(lumiDivC_32sc_C3RSfs, 3, Lum32sc, C3, const Lum32sc*, value)
+LUMI_CINT_CONST_I(lumiDivC_32sc_C3IRSfs, 3, Lum32sc, C3, const Lum32sc*, value)
+LUMI_CINT_CONST(lumiDivC_32sc_AC4RSfs, 3, Lum32sc, AC4, const Lum32sc*, value)
+LUMI_CINT_CONST_I(lumiDivC_32sc_AC4IRSfs, 3, Lum32sc, AC4, const Lum32sc*, value)
 }
 
 #endif  // HWY_ONCE

@@ -5,17 +5,15 @@
 #define HWY_TARGET_INCLUDE "src/arith/float_arith.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
-#include "core/frame.h"
+#include "core/simd.h"
 #include "arith/float_kernels-inl.h"
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace arithf {
-namespace HWY_NAMESPACE {
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+namespace arithv {
 
 template <int OP, class V>
-HWY_INLINE V VOp(V x, V y) {
+HWY_INLINE V vecOp(V x, V y) {
   if constexpr (OP == 0) return hn::Add(x, y);
   else if constexpr (OP == 1) return hn::Sub(x, y);
   else if constexpr (OP == 2) return hn::Mul(x, y);
@@ -24,7 +22,8 @@ HWY_INLINE V VOp(V x, V y) {
 
 // out = x op y over n elements; for division, reports whether an owned divisor was zero.
 template <int OP>
-int BinaryRowSimd(const float* x, const float* y, float* out, int n, const RowPattern<float>* pat) {
+int binaryRow(const float* x, const float* y, float* out, std::ptrdiff_t n,
+              const RowPattern<float>* pat) {
   const StreamTag<float> d;
   auto zeros = hn::Zero(d);
   int tailZero = 0;
@@ -37,7 +36,7 @@ int BinaryRowSimd(const float* x, const float* y, float* out, int n, const RowPa
           if constexpr (decltype(masked)::value) z = hn::And(z, hn::LoadU(d, pat->mask + off));
           zeros = hn::Or(zeros, z);
         }
-        StoreOwned(d, VOp<OP>(hn::LoadU(d, x + i), yv), out + i, pat, off, masked);
+        StoreOwned(d, vecOp<OP>(hn::LoadU(d, x + i), yv), out + i, pat, off, masked);
       },
       [&](size_t i, size_t off) {
         if (!Owns(pat, off)) return;
@@ -49,12 +48,12 @@ int BinaryRowSimd(const float* x, const float* y, float* out, int n, const RowPa
 
 // out = x op constant, the constant taken per element from the pattern.
 template <int OP>
-void ConstRowSimd(const float* x, float* out, int n, const RowPattern<float>* pat) {
+void constRow(const float* x, float* out, std::ptrdiff_t n, const RowPattern<float>* pat) {
   const StreamTag<float> d;
   ForEachVector(
       d, static_cast<size_t>(n), pat,
       [&](size_t i, size_t off, auto masked) {
-        StoreOwned(d, VOp<OP>(hn::LoadU(d, x + i), hn::LoadU(d, pat->value + off)), out + i,
+        StoreOwned(d, vecOp<OP>(hn::LoadU(d, x + i), hn::LoadU(d, pat->value + off)), out + i,
                    pat, off, masked);
       },
       [&](size_t i, size_t off) {
@@ -65,7 +64,8 @@ void ConstRowSimd(const float* x, float* out, int n, const RowPattern<float>* pa
 // Unmasked rows whose destination is written with cache-bypassing stores from its first
 // vector-aligned element on; the results are those of the kernels above.
 template <int OP>
-int BinaryRowStream(const float* x, const float* y, float* out, int n, const RowPattern<float>*) {
+int binaryRowStream(const float* x, const float* y, float* out, std::ptrdiff_t n,
+                    const RowPattern<float>*) {
   const StreamTag<float> d;
   const size_t N = hn::Lanes(d), count = static_cast<size_t>(n);
   auto zeros = hn::Zero(d);
@@ -79,59 +79,41 @@ int BinaryRowStream(const float* x, const float* y, float* out, int n, const Row
   for (; i + N <= count; i += N) {
     const auto yv = hn::LoadU(d, y + i);
     if constexpr (OP == 3) zeros = hn::Or(zeros, hn::VecFromMask(d, hn::Eq(yv, hn::Zero(d))));
-    hn::Stream(VOp<OP>(hn::LoadU(d, x + i), yv), d, out + i);
+    hn::Stream(vecOp<OP>(hn::LoadU(d, x + i), yv), d, out + i);
   }
   for (; i < count; ++i) one(i);
   return zero | !hn::AllFalse(d, hn::MaskFromVec(zeros));
 }
 
 template <int OP>
-void ConstRowStream(const float* x, float* out, int n, const RowPattern<float>* pat) {
+void constRowStream(const float* x, float* out, std::ptrdiff_t n, const RowPattern<float>* pat) {
   const StreamTag<float> d;
   const size_t N = hn::Lanes(d), count = static_cast<size_t>(n), per = static_cast<size_t>(pat->period);
   size_t i = 0;
   for (; i < count && reinterpret_cast<uintptr_t>(out + i) % (N * sizeof(float)) != 0; ++i)
     out[i] = fop<OP>(x[i], pat->value[i % per]);
   for (; i + N <= count; i += N)
-    hn::Stream(VOp<OP>(hn::LoadU(d, x + i), hn::LoadU(d, pat->value + i % per)), d, out + i);
+    hn::Stream(vecOp<OP>(hn::LoadU(d, x + i), hn::LoadU(d, pat->value + i % per)), d, out + i);
   for (; i < count; ++i) out[i] = fop<OP>(x[i], pat->value[i % per]);
 }
 
-}  // namespace HWY_NAMESPACE
-}  // namespace arithf
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+}  // namespace arithv
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
 
 #if HWY_ONCE
 #include <xmmintrin.h>
 
-#include "core/simd.h"
-
 namespace lumi {
 namespace arithf {
-
-LUMI_SIMD_TABLE(F32BinaryRow, kAddRow, BinaryRowSimd<0>);
-LUMI_SIMD_TABLE(F32BinaryRow, kSubRow, BinaryRowSimd<1>);
-LUMI_SIMD_TABLE(F32BinaryRow, kMulRow, BinaryRowSimd<2>);
-LUMI_SIMD_TABLE(F32BinaryRow, kDivRow, BinaryRowSimd<3>);
-LUMI_SIMD_TABLE(F32ConstRow, kAddCRow, ConstRowSimd<0>);
-LUMI_SIMD_TABLE(F32ConstRow, kSubCRow, ConstRowSimd<1>);
-LUMI_SIMD_TABLE(F32ConstRow, kMulCRow, ConstRowSimd<2>);
-LUMI_SIMD_TABLE(F32BinaryRow, kAddRowNT, BinaryRowStream<0>);
-LUMI_SIMD_TABLE(F32BinaryRow, kSubRowNT, BinaryRowStream<1>);
-LUMI_SIMD_TABLE(F32BinaryRow, kMulRowNT, BinaryRowStream<2>);
-LUMI_SIMD_TABLE(F32BinaryRow, kDivRowNT, BinaryRowStream<3>);
-LUMI_SIMD_TABLE(F32ConstRow, kAddCRowNT, ConstRowStream<0>);
-LUMI_SIMD_TABLE(F32ConstRow, kSubCRowNT, ConstRowStream<1>);
-LUMI_SIMD_TABLE(F32ConstRow, kMulCRowNT, ConstRowStream<2>);
-
 namespace {
 
+// Scalar twins of binaryRow / binaryRowStream and constRow / constRowStream.
 template <int OP>
-int binaryRowScalar(const float* x, const float* y, float* out, int n,
+int binaryRowScalar(const float* x, const float* y, float* out, std::ptrdiff_t n,
                     const RowPattern<float>* pat) {
   int zero = 0;
-  for (int i = 0; i < n; ++i) {
+  for (std::ptrdiff_t i = 0; i < n; ++i) {
     if (pat && !pat->writes(i)) continue;
     if (OP == 3 && y[i] == 0.0f) zero = 1;
     out[i] = fop<OP>(x[i], y[i]);
@@ -140,8 +122,8 @@ int binaryRowScalar(const float* x, const float* y, float* out, int n,
 }
 
 template <int OP>
-void constRowScalar(const float* x, float* out, int n, const RowPattern<float>* pat) {
-  for (int i = 0; i < n; ++i)
+void constRowScalar(const float* x, float* out, std::ptrdiff_t n, const RowPattern<float>* pat) {
+  for (std::ptrdiff_t i = 0; i < n; ++i)
     if (pat->writes(i)) out[i] = fop<OP>(x[i], pat->value[i % pat->period]);
 }
 
@@ -155,10 +137,10 @@ LumStatus binary32f(int op, const float* s1, int s1Step, const float* s2, int s2
   if (op == 3 && badStep(s1Step, s2Step, dStep)) return lumStatusStepErr;
   const bool masked = L::kUse < L::kCh;
   RowPattern<float> pat(masked ? L::kCh : 1, masked ? L::kUse : 1, nullptr);
-  roi = oneRowIfContiguous(roi, 4 * L::kCh, s1Step, s2Step, dStep);
-  const int n = roi.width * L::kCh;
+  roi = coalesceRows(roi, 4 * L::kCh, s1Step, s2Step, dStep);
+  const std::ptrdiff_t n = elemsOf(roi.width, L::kCh);
   const bool stream = !masked && bypassCache(12.0 * n * roi.height);
-  F32BinaryRow row = pickF32Binary(op, stream);
+  F32BinaryRow row = pickBinaryRow(op, stream);
   FirstStatus status;
   for (int y = 0; y < roi.height; ++y)
     if (row(rowAt(s2, s2Step, y), rowAt(s1, s1Step, y), rowAt(d, dStep, y), n,
@@ -184,39 +166,45 @@ LumStatus const32f(int op, const float* s, int sStep, const float* value, float*
     op = 2;
   }
   RowPattern<float> pat(L::kCh, L::kUse, c);
-  roi = oneRowIfContiguous(roi, 4 * L::kCh, sStep, dStep);
-  const int n = roi.width * L::kCh;
+  roi = coalesceRows(roi, 4 * L::kCh, sStep, dStep);
+  const std::ptrdiff_t n = elemsOf(roi.width, L::kCh);
   const bool stream = L::kUse == L::kCh && bypassCache(8.0 * n * roi.height);
-  F32ConstRow row = pickF32Const(op, stream);
+  F32ConstRow row = pickConstRow(op, stream);
   for (int y = 0; y < roi.height; ++y) row(rowAt(s, sStep, y), rowAt(d, dStep, y), n, &pat);
   if (stream) endStreaming();
   return lumStatusOk;
 }
 
-}  // namespace
-
-F32BinaryRow pickF32Binary(int op, bool stream) {
-  static F32BinaryRow const scalar[4] = {binaryRowScalar<0>, binaryRowScalar<1>,
-                                         binaryRowScalar<2>, binaryRowScalar<3>};
-  F32BinaryRow simd = nullptr;
-  switch (op) {
-    case 0: simd = pickSimd(stream ? kAddRowNT : kAddRow); break;
-    case 1: simd = pickSimd(stream ? kSubRowNT : kSubRow); break;
-    case 2: simd = pickSimd(stream ? kMulRowNT : kMulRow); break;
-    default: simd = pickSimd(stream ? kDivRowNT : kDivRow); break;
-  }
-  return simd ? simd : scalar[op & 3];
+template <int OP>
+F32BinaryRow pickBinaryRowOf(bool stream) {
+  LUMI_SIMD_TABLE(F32BinaryRow, table, arithv::binaryRow<OP>);
+  LUMI_SIMD_TABLE(F32BinaryRow, streaming, arithv::binaryRowStream<OP>);
+  return pick(stream ? streaming : table, &binaryRowScalar<OP>);
+}
+template <int OP>
+F32ConstRow pickConstRowOf(bool stream) {
+  LUMI_SIMD_TABLE(F32ConstRow, table, arithv::constRow<OP>);
+  LUMI_SIMD_TABLE(F32ConstRow, streaming, arithv::constRowStream<OP>);
+  return pick(stream ? streaming : table, &constRowScalar<OP>);
 }
 
-F32ConstRow pickF32Const(int op, bool stream) {
-  static F32ConstRow const scalar[3] = {constRowScalar<0>, constRowScalar<1>, constRowScalar<2>};
-  F32ConstRow simd = nullptr;
+}  // namespace
+
+F32BinaryRow pickBinaryRow(int op, bool stream) {
   switch (op) {
-    case 0: simd = pickSimd(stream ? kAddCRowNT : kAddCRow); break;
-    case 1: simd = pickSimd(stream ? kSubCRowNT : kSubCRow); break;
-    default: simd = pickSimd(stream ? kMulCRowNT : kMulCRow); break;
+    case 0: return pickBinaryRowOf<0>(stream);
+    case 1: return pickBinaryRowOf<1>(stream);
+    case 2: return pickBinaryRowOf<2>(stream);
+    default: return pickBinaryRowOf<3>(stream);
   }
-  return simd ? simd : scalar[op > 2 ? 2 : op];
+}
+
+F32ConstRow pickConstRow(int op, bool stream) {  // DivC is a multiplication by reciprocals
+  switch (op) {
+    case 0: return pickConstRowOf<0>(stream);
+    case 1: return pickConstRowOf<1>(stream);
+    default: return pickConstRowOf<2>(stream);
+  }
 }
 
 bool bypassCache(double bytes) {
@@ -231,44 +219,91 @@ void endStreaming() { _mm_sfence(); }
 }  // namespace lumi
 
 // ---- exports -------------------------------------------------------------------------------
-#define LUMI_F32_BIN_ONE(NAME, OP, L)                                                         \
-  LUMI_API LumStatus lumi##NAME##_32f_##L##R(const Lum32f* a, int as, const Lum32f* b, int bs, \
-                                             Lum32f* d, int ds, LumiSize r) {                  \
-    return lumi::arithf::binary32f<lumi::L>(OP, a, as, b, bs, d, ds, r);                               \
-  }                                                                                            \
-  LUMI_API LumStatus lumi##NAME##_32f_##L##IR(const Lum32f* s, int ss, Lum32f* sd, int sds,    \
-                                              LumiSize r) {                                    \
-    return lumi::arithf::binary32f<lumi::L>(OP, s, ss, sd, sds, sd, sds, r);                           \
+// One line per member. VT is how the constant is passed (the value for C1, else a pointer to
+// one per channel) and VP its address.
+#define LUMI_F32_IMAGE(NAME, OP, L)                                                           \
+  LUMI_API LumStatus NAME(const Lum32f* a, int as, const Lum32f* b, int bs, Lum32f* d, int ds, \
+                          LumiSize r) {                                                        \
+    return lumi::arithf::binary32f<lumi::L>(OP, a, as, b, bs, d, ds, r);                       \
   }
-#define LUMI_F32_BIN(NAME, OP)   \
-  LUMI_F32_BIN_ONE(NAME, OP, C1) \
-  LUMI_F32_BIN_ONE(NAME, OP, C3) \
-  LUMI_F32_BIN_ONE(NAME, OP, C4) \
-  LUMI_F32_BIN_ONE(NAME, OP, AC4)
-
-#define LUMI_F32_CONST_ONE(NAME, OP, L, VT, VP)                                                \
-  LUMI_API LumStatus lumi##NAME##_32f_##L##R(const Lum32f* s, int ss, VT value, Lum32f* d,      \
-                                             int ds, LumiSize r) {                              \
-    return lumi::arithf::const32f<lumi::L>(OP, s, ss, VP, d, ds, r);                                    \
-  }                                                                                             \
-  LUMI_API LumStatus lumi##NAME##_32f_##L##IR(VT value, Lum32f* sd, int sds, LumiSize r) {      \
-    return lumi::arithf::const32f<lumi::L>(OP, sd, sds, VP, sd, sds, r);                                \
+#define LUMI_F32_IMAGE_I(NAME, OP, L)                                                   \
+  LUMI_API LumStatus NAME(const Lum32f* s, int ss, Lum32f* sd, int sds, LumiSize r) {  \
+    return lumi::arithf::binary32f<lumi::L>(OP, s, ss, sd, sds, sd, sds, r);           \
   }
-#define LUMI_F32_CONST(NAME, OP)                                      \
-  LUMI_F32_CONST_ONE(NAME, OP, C1, Lum32f, &value)                    \
-  LUMI_F32_CONST_ONE(NAME, OP, C3, const Lum32f*, value)              \
-  LUMI_F32_CONST_ONE(NAME, OP, C4, const Lum32f*, value)              \
-  LUMI_F32_CONST_ONE(NAME, OP, AC4, const Lum32f*, value)
+#define LUMI_F32_CONST(NAME, OP, L, VT, VP)                                                   \
+  LUMI_API LumStatus NAME(const Lum32f* s, int ss, VT value, Lum32f* d, int ds, LumiSize r) { \
+    return lumi::arithf::const32f<lumi::L>(OP, s, ss, VP, d, ds, r);                         \
+  }
+#define LUMI_F32_CONST_I(NAME, OP, L, VT, VP)                             \
+  LUMI_API LumStatus NAME(VT value, Lum32f* sd, int sds, LumiSize r) {   \
+    return lumi::arithf::const32f<lumi::L>(OP, sd, sds, VP, sd, sds, r); \
+  }
 
 extern "C" {
-LUMI_F32_BIN(Add, 0)
-LUMI_F32_BIN(Sub, 1)
-LUMI_F32_BIN(Mul, 2)
-LUMI_F32_BIN(Div, 3)
-LUMI_F32_CONST(AddC, 0)
-LUMI_F32_CONST(SubC, 1)
-LUMI_F32_CONST(MulC, 2)
-LUMI_F32_CONST(DivC, 3)
+LUMI_F32_IMAGE(lumiAdd_32f_C1R, 0, C1)
+LUMI_F32_IMAGE_I(lumiAdd_32f_C1IR, 0, C1)
+LUMI_F32_IMAGE(lumiAdd_32f_C3R, 0, C3)
+LUMI_F32_IMAGE_I(lumiAdd_32f_C3IR, 0, C3)
+LUMI_F32_IMAGE(lumiAdd_32f_C4R, 0, C4)
+LUMI_F32_IMAGE_I(lumiAdd_32f_C4IR, 0, C4)
+LUMI_F32_IMAGE(lumiAdd_32f_AC4R, 0, AC4)
+LUMI_F32_IMAGE_I(lumiAdd_32f_AC4IR, 0, AC4)
+LUMI_F32_IMAGE(lumiSub_32f_C1R, 1, C1)
+LUMI_F32_IMAGE_I(lumiSub_32f_C1IR, 1, C1)
+LUMI_F32_IMAGE(lumiSub_32f_C3R, 1, C3)
+LUMI_F32_IMAGE_I(lumiSub_32f_C3IR, 1, C3)
+LUMI_F32_IMAGE(lumiSub_32f_C4R, 1, C4)
+LUMI_F32_IMAGE_I(lumiSub_32f_C4IR, 1, C4)
+LUMI_F32_IMAGE(lumiSub_32f_AC4R, 1, AC4)
+LUMI_F32_IMAGE_I(lumiSub_32f_AC4IR, 1, AC4)
+LUMI_F32_IMAGE(lumiMul_32f_C1R, 2, C1)
+LUMI_F32_IMAGE_I(lumiMul_32f_C1IR, 2, C1)
+LUMI_F32_IMAGE(lumiMul_32f_C3R, 2, C3)
+LUMI_F32_IMAGE_I(lumiMul_32f_C3IR, 2, C3)
+LUMI_F32_IMAGE(lumiMul_32f_C4R, 2, C4)
+LUMI_F32_IMAGE_I(lumiMul_32f_C4IR, 2, C4)
+LUMI_F32_IMAGE(lumiMul_32f_AC4R, 2, AC4)
+LUMI_F32_IMAGE_I(lumiMul_32f_AC4IR, 2, AC4)
+LUMI_F32_IMAGE(lumiDiv_32f_C1R, 3, C1)
+LUMI_F32_IMAGE_I(lumiDiv_32f_C1IR, 3, C1)
+LUMI_F32_IMAGE(lumiDiv_32f_C3R, 3, C3)
+LUMI_F32_IMAGE_I(lumiDiv_32f_C3IR, 3, C3)
+LUMI_F32_IMAGE(lumiDiv_32f_C4R, 3, C4)
+LUMI_F32_IMAGE_I(lumiDiv_32f_C4IR, 3, C4)
+LUMI_F32_IMAGE(lumiDiv_32f_AC4R, 3, AC4)
+LUMI_F32_IMAGE_I(lumiDiv_32f_AC4IR, 3, AC4)
+LUMI_F32_CONST(lumiAddC_32f_C1R, 0, C1, Lum32f, &value)
+LUMI_F32_CONST_I(lumiAddC_32f_C1IR, 0, C1, Lum32f, &value)
+LUMI_F32_CONST(lumiAddC_32f_C3R, 0, C3, const Lum32f*, value)
+LUMI_F32_CONST_I(lumiAddC_32f_C3IR, 0, C3, const Lum32f*, value)
+LUMI_F32_CONST(lumiAddC_32f_C4R, 0, C4, const Lum32f*, value)
+LUMI_F32_CONST_I(lumiAddC_32f_C4IR, 0, C4, const Lum32f*, value)
+LUMI_F32_CONST(lumiAddC_32f_AC4R, 0, AC4, const Lum32f*, value)
+LUMI_F32_CONST_I(lumiAddC_32f_AC4IR, 0, AC4, const Lum32f*, value)
+LUMI_F32_CONST(lumiSubC_32f_C1R, 1, C1, Lum32f, &value)
+LUMI_F32_CONST_I(lumiSubC_32f_C1IR, 1, C1, Lum32f, &value)
+LUMI_F32_CONST(lumiSubC_32f_C3R, 1, C3, const Lum32f*, value)
+LUMI_F32_CONST_I(lumiSubC_32f_C3IR, 1, C3, const Lum32f*, value)
+LUMI_F32_CONST(lumiSubC_32f_C4R, 1, C4, const Lum32f*, value)
+LUMI_F32_CONST_I(lumiSubC_32f_C4IR, 1, C4, const Lum32f*, value)
+LUMI_F32_CONST(lumiSubC_32f_AC4R, 1, AC4, const Lum32f*, value)
+LUMI_F32_CONST_I(lumiSubC_32f_AC4IR, 1, AC4, const Lum32f*, value)
+LUMI_F32_CONST(lumiMulC_32f_C1R, 2, C1, Lum32f, &value)
+LUMI_F32_CONST_I(lumiMulC_32f_C1IR, 2, C1, Lum32f, &value)
+LUMI_F32_CONST(lumiMulC_32f_C3R, 2, C3, const Lum32f*, value)
+LUMI_F32_CONST_I(lumiMulC_32f_C3IR, 2, C3, const Lum32f*, value)
+LUMI_F32_CONST(lumiMulC_32f_C4R, 2, C4, const Lum32f*, value)
+LUMI_F32_CONST_I(lumiMulC_32f_C4IR, 2, C4, const Lum32f*, value)
+LUMI_F32_CONST(lumiMulC_32f_AC4R, 2, AC4, const Lum32f*, value)
+LUMI_F32_CONST_I(lumiMulC_32f_AC4IR, 2, AC4, const Lum32f*, value)
+LUMI_F32_CONST(lumiDivC_32f_C1R, 3, C1, Lum32f, &value)
+LUMI_F32_CONST_I(lumiDivC_32f_C1IR, 3, C1, Lum32f, &value)
+LUMI_F32_CONST(lumiDivC_32f_C3R, 3, C3, const Lum32f*, value)
+LUMI_F32_CONST_I(lumiDivC_32f_C3IR, 3, C3, const Lum32f*, value)
+LUMI_F32_CONST(lumiDivC_32f_C4R, 3, C4, const Lum32f*, value)
+LUMI_F32_CONST_I(lumiDivC_32f_C4IR, 3, C4, const Lum32f*, value)
+LUMI_F32_CONST(lumiDivC_32f_AC4R, 3, AC4, const Lum32f*, value)
+LUMI_F32_CONST_I(lumiDivC_32f_AC4IR, 3, AC4, const Lum32f*, value)
 }
 
 #endif  // HWY_ONCE

@@ -1,5 +1,5 @@
-// Vector loops shared by the arithmetic kernel files; included once per SIMD target from
-// inside a file's Highway section (after "hwy/highway.h").
+// Vector loops shared by the floating-point, complex and pointwise kernel files; re-included
+// once per SIMD target by each of them (after "hwy/highway.h").
 #if defined(LUMI_ARITH_FLOAT_KERNELS_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef LUMI_ARITH_FLOAT_KERNELS_INL_H_
 #undef LUMI_ARITH_FLOAT_KERNELS_INL_H_
@@ -8,15 +8,16 @@
 #endif
 
 #include "hwy/highway.h"
+#include "core/simd.h"
 #include "arith/float_kernels.h"
 
 #include <type_traits>
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace arithf {
-namespace HWY_NAMESPACE {
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+// The family's per-target kernels live in arithv and see the scalar definitions of arithf.
+namespace arithv {
+using namespace arithf;
 
 // Memory-bound rows use vectors of at most 256 bits: wider ones move no more data per cycle
 // and can lower the clock.
@@ -70,9 +71,8 @@ HWY_INLINE void ForEachVector(D d, size_t n, const RowPattern<T>* pat, V&& vec, 
   for (size_t j = 0; i + j < n; ++j) one(i + j, k * N + j);
 }
 
-}  // namespace HWY_NAMESPACE
-}  // namespace arithf
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+}  // namespace arithv
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
 
 #endif

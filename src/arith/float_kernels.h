@@ -4,6 +4,7 @@
 #pragma once
 
 #include "core/frame.h"
+#include "core/scale_factor.h"
 
 #include <cmath>
 #include <cstdint>
@@ -35,52 +36,46 @@ struct RowPattern {
       std::memset(&mask[i], e < used ? 0xff : 0, sizeof(T));
     }
   }
-  bool writes(int i) const {  // scalar kernels: is element i of a row written?
+  bool writes(std::ptrdiff_t i) const {  // scalar kernels: is element i of a row written?
     return !masked || (i % period) < use;
   }
 };
-
-// Rows that follow each other without padding in every image are walked as one long row:
-// the ROI becomes width * height pixels by 1 row (when that count fits an int).
-inline LumiSize oneRowIfContiguous(LumiSize roi, int pixelBytes, int s1, int s2, int s3 = -1) {
-  const int64_t row = static_cast<int64_t>(roi.width) * pixelBytes;
-  if (s1 != row || s2 != row || (s3 != -1 && s3 != row)) return roi;
-  const int64_t total = static_cast<int64_t>(roi.width) * roi.height;
-  if (total * pixelBytes > 0x7fffffff) return roi;
-  return LumiSize{static_cast<int>(total), 1};
-}
 
 // Rows of the 32f Abs, Sqr and Sqrt members advance by the step with its two low bits
 // cleared; the 16s Abs members clear the lowest bit.
 inline int stepDown(int step, int bytes) { return step & ~(bytes - 1); }
 
 // ---- scaled integer results ---------------------------------------------------------------
+// The scale factor of the complex integer and pointwise-maths members: magnitudes reach 2^63,
+// so a left shift of 63 bits saturates every nonzero one and a right shift of 64 bits rounds
+// every one to zero.
+inline ScaleFactor resolveSf(int sf) { return ScaleFactor::resolve(sf, 63, 64); }
+
 // Multiplies an exact result given as sign and magnitude (magnitude up to 2^63) by 2^-sf,
 // rounds ties to even and saturates to [lo, hi].
-inline int64_t scaleMagnitude(bool negative, uint64_t mag, int sf, int64_t lo, int64_t hi) {
+inline int64_t scaleMagnitude(bool negative, uint64_t mag, const ScaleFactor& sf, int64_t lo,
+                              int64_t hi) {
   uint64_t limit = negative ? static_cast<uint64_t>(-(lo + 1)) + 1u : static_cast<uint64_t>(hi);
-  uint64_t q;
+  uint64_t q = mag;
   if (mag == 0) return 0;
-  if (sf > 0) {
-    if (sf >= 64) {
+  if (sf.mode == ScaleFactor::kRight) {
+    if (sf.shift >= 64) {
       q = 0;  // mag / 2^64 is at most one half, and that tie goes to the even 0
     } else {
-      uint64_t half = uint64_t{1} << (sf - 1);
+      uint64_t half = uint64_t{1} << (sf.shift - 1);
       uint64_t rem = mag & ((half << 1) - 1);
-      q = mag >> sf;
+      q = mag >> sf.shift;
       if (rem > half || (rem == half && (q & 1u))) ++q;
     }
-  } else if (sf < 0) {
-    int k = -sf;
+  } else if (sf.mode == ScaleFactor::kLeft) {
+    const int k = sf.shift;
     q = (k >= 63 || mag > (limit >> k)) ? limit : mag << k;
-  } else {
-    q = mag;
   }
   if (q > limit) q = limit;
   return negative ? -static_cast<int64_t>(q) : static_cast<int64_t>(q);
 }
 
-inline int64_t scaleInt64(int64_t v, int sf, int64_t lo, int64_t hi) {
+inline int64_t scaleInt64(int64_t v, const ScaleFactor& sf, int64_t lo, int64_t hi) {
   bool neg = v < 0;
   uint64_t mag = neg ? 0u - static_cast<uint64_t>(v) : static_cast<uint64_t>(v);
   return scaleMagnitude(neg, mag, sf, lo, hi);
@@ -97,8 +92,8 @@ inline double roundHalfEven(double x) {
 
 // A double result multiplied by 2^-sf, rounded half to even and saturated to [lo, hi]; NaN
 // gives 0.
-inline double scaleDouble(double v, int sf, double lo, double hi) {
-  double s = std::ldexp(v, -sf);
+inline double scaleDouble(double v, const ScaleFactor& sf, double lo, double hi) {
+  double s = sf.scale(v);
   if (std::isnan(s)) return 0.0;
   if (s <= lo) return lo;
   if (s >= hi) return hi;
@@ -119,13 +114,14 @@ inline float fop(float x, float y) {
 // 32f element rows (also used for the parts of complex pixels). op: 0 x + y, 1 x - y,
 // 2 x * y, 3 x / y. The binary form takes a second row, the constant form the pattern's
 // values. Returns nonzero when the division met a zero divisor.
-using F32BinaryRow = int (*)(const float* x, const float* y, float* out, int n,
+using F32BinaryRow = int (*)(const float* x, const float* y, float* out, std::ptrdiff_t n,
                              const RowPattern<float>* pat);
-using F32ConstRow = void (*)(const float* x, float* out, int n, const RowPattern<float>* pat);
+using F32ConstRow = void (*)(const float* x, float* out, std::ptrdiff_t n,
+                             const RowPattern<float>* pat);
 // stream: the unmasked variant whose destination bypasses the cache (end the call with
 // endStreaming()).
-F32BinaryRow pickF32Binary(int op, bool stream = false);
-F32ConstRow pickF32Const(int op, bool stream = false);
+F32BinaryRow pickBinaryRow(int op, bool stream = false);
+F32ConstRow pickConstRow(int op, bool stream = false);
 
 // Destinations that will not stay in cache are written with cache-bypassing stores: when the
 // bytes a call reads and writes exceed a quarter of the largest cache, the destination lines

@@ -5,7 +5,7 @@
 #define HWY_TARGET_INCLUDE "src/arith/pointwise_basic.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
-#include "core/frame.h"
+#include "core/simd.h"
 #include "arith/float_kernels-inl.h"
 
 #ifndef LUMI_POINTWISE_BASIC_SCALAR_  // scalar definitions, compiled once
@@ -25,15 +25,13 @@ inline T unaryScalar(T x) {
 }  // namespace lumi
 #endif
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace arithf {
-namespace HWY_NAMESPACE {
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+namespace arithv {
 
 // d = op(s) over n elements; Sqrt reports whether an owned input was negative.
 template <int OP, class T>
-int UnaryRowSimd(const T* s, T* out, int n, const RowPattern<T>* pat) {
+int unaryRow(const T* s, T* out, std::ptrdiff_t n, const RowPattern<T>* pat) {
   const StreamTag<T> d;
   auto neg = hn::Zero(d);
   int tailNeg = 0;
@@ -64,29 +62,22 @@ int UnaryRowSimd(const T* s, T* out, int n, const RowPattern<T>* pat) {
   return tailNeg | !hn::AllFalse(d, hn::MaskFromVec(neg));
 }
 
-}  // namespace HWY_NAMESPACE
-}  // namespace arithf
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+}  // namespace arithv
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
 
 #if HWY_ONCE
-#include "core/simd.h"
-
 namespace lumi {
 namespace arithf {
 namespace {
 
 template <class T>
-using UnaryRow = int (*)(const T*, T*, int, const RowPattern<T>*);
-LUMI_SIMD_TABLE(UnaryRow<int16_t>, kAbs16s, UnaryRowSimd<0, int16_t>);
-LUMI_SIMD_TABLE(UnaryRow<float>, kAbs32f, UnaryRowSimd<1, float>);
-LUMI_SIMD_TABLE(UnaryRow<float>, kSqr32f, UnaryRowSimd<2, float>);
-LUMI_SIMD_TABLE(UnaryRow<float>, kSqrt32f, UnaryRowSimd<3, float>);
+using UnaryRow = int (*)(const T*, T*, std::ptrdiff_t, const RowPattern<T>*);
 
 template <int OP, class T>
-int unaryRowScalar(const T* s, T* out, int n, const RowPattern<T>* pat) {
+int unaryRowScalar(const T* s, T* out, std::ptrdiff_t n, const RowPattern<T>* pat) {
   int neg = 0;
-  for (int i = 0; i < n; ++i) {
+  for (std::ptrdiff_t i = 0; i < n; ++i) {
     if (pat && !pat->writes(i)) continue;
     if (OP == 3 && s[i] < 0) neg = 1;
     out[i] = unaryScalar<OP>(s[i]);
@@ -95,13 +86,9 @@ int unaryRowScalar(const T* s, T* out, int n, const RowPattern<T>* pat) {
 }
 
 template <int OP, class T>
-UnaryRow<T> pickUnary() {
-  UnaryRow<T> f = nullptr;
-  if constexpr (OP == 0) f = pickSimd(kAbs16s);
-  else if constexpr (OP == 1) f = pickSimd(kAbs32f);
-  else if constexpr (OP == 2) f = pickSimd(kSqr32f);
-  else f = pickSimd(kSqrt32f);
-  return f ? f : unaryRowScalar<OP, T>;
+UnaryRow<T> pickUnaryRow() {
+  LUMI_SIMD_TABLE(UnaryRow<T>, table, arithv::unaryRow<OP, T>);
+  return pick(table, &unaryRowScalar<OP, T>);
 }
 
 template <int OP, class L, class T>
@@ -113,9 +100,9 @@ LumStatus unary(const T* s, int sStep, T* d, int dStep, LumiSize roi) {
   dStep = stepDown(dStep, sizeof(T));
   const bool masked = L::kUse < L::kCh;
   RowPattern<T> pat(masked ? L::kCh : 1, masked ? L::kUse : 1, nullptr);
-  roi = oneRowIfContiguous(roi, static_cast<int>(sizeof(T)) * L::kCh, sStep, dStep);
-  UnaryRow<T> row = pickUnary<OP, T>();
-  const int n = roi.width * L::kCh;
+  roi = coalesceRows(roi, bytesOf(1, L::kCh, sizeof(T)), sStep, dStep);
+  UnaryRow<T> row = pickUnaryRow<OP, T>();
+  const std::ptrdiff_t n = elemsOf(roi.width, L::kCh);
   FirstStatus status;
   for (int y = 0; y < roi.height; ++y)
     if (row(rowAt(s, sStep, y), rowAt(d, dStep, y), n, masked ? &pat : nullptr))
@@ -127,32 +114,48 @@ LumStatus unary(const T* s, int sStep, T* d, int dStep, LumiSize roi) {
 }  // namespace arithf
 }  // namespace lumi
 
-#define LUMI_UNARY_R(NAME, TY, T, OP, L)                                                   \
-  LUMI_API LumStatus lumi##NAME##_##TY##_##L##R(const T* s, int ss, T* d, int ds,           \
-                                                LumiSize r) {                               \
-    return lumi::arithf::unary<OP, lumi::L>(s, ss, d, ds, r);                                       \
+// One line per member.
+#define LUMI_UNARY(NAME, OP, T, L)                                         \
+  LUMI_API LumStatus NAME(const T* s, int ss, T* d, int ds, LumiSize r) { \
+    return lumi::arithf::unary<OP, lumi::L>(s, ss, d, ds, r);             \
   }
-#define LUMI_UNARY_IR(NAME, TY, T, OP, L)                                                  \
-  LUMI_API LumStatus lumi##NAME##_##TY##_##L##IR(T* sd, int sds, LumiSize r) {              \
-    return lumi::arithf::unary<OP, lumi::L>(static_cast<const T*>(sd), sds, sd, sds, r);            \
+#define LUMI_UNARY_I(NAME, OP, T, L)                                                     \
+  LUMI_API LumStatus NAME(T* sd, int sds, LumiSize r) {                                 \
+    return lumi::arithf::unary<OP, lumi::L>(static_cast<const T*>(sd), sds, sd, sds, r); \
   }
-#define LUMI_UNARY_BOTH(NAME, TY, T, OP, L) \
-  LUMI_UNARY_R(NAME, TY, T, OP, L)          \
-  LUMI_UNARY_IR(NAME, TY, T, OP, L)
-#define LUMI_UNARY_ALL(NAME, TY, T, OP)   \
-  LUMI_UNARY_BOTH(NAME, TY, T, OP, C1)    \
-  LUMI_UNARY_BOTH(NAME, TY, T, OP, C3)    \
-  LUMI_UNARY_BOTH(NAME, TY, T, OP, C4)    \
-  LUMI_UNARY_BOTH(NAME, TY, T, OP, AC4)
 
 extern "C" {
-LUMI_UNARY_ALL(Abs, 16s, Lum16s, 0)
-LUMI_UNARY_ALL(Abs, 32f, Lum32f, 1)
-LUMI_UNARY_ALL(Sqr, 32f, Lum32f, 2)
-LUMI_UNARY_BOTH(Sqrt, 32f, Lum32f, 3, C1)
-LUMI_UNARY_BOTH(Sqrt, 32f, Lum32f, 3, C3)
-LUMI_UNARY_BOTH(Sqrt, 32f, Lum32f, 3, AC4)
-LUMI_UNARY_IR(Sqrt, 32f, Lum32f, 3, C4)  // in place only
+LUMI_UNARY(lumiAbs_16s_C1R, 0, Lum16s, C1)
+LUMI_UNARY_I(lumiAbs_16s_C1IR, 0, Lum16s, C1)
+LUMI_UNARY(lumiAbs_16s_C3R, 0, Lum16s, C3)
+LUMI_UNARY_I(lumiAbs_16s_C3IR, 0, Lum16s, C3)
+LUMI_UNARY(lumiAbs_16s_C4R, 0, Lum16s, C4)
+LUMI_UNARY_I(lumiAbs_16s_C4IR, 0, Lum16s, C4)
+LUMI_UNARY(lumiAbs_16s_AC4R, 0, Lum16s, AC4)
+LUMI_UNARY_I(lumiAbs_16s_AC4IR, 0, Lum16s, AC4)
+LUMI_UNARY(lumiAbs_32f_C1R, 1, Lum32f, C1)
+LUMI_UNARY_I(lumiAbs_32f_C1IR, 1, Lum32f, C1)
+LUMI_UNARY(lumiAbs_32f_C3R, 1, Lum32f, C3)
+LUMI_UNARY_I(lumiAbs_32f_C3IR, 1, Lum32f, C3)
+LUMI_UNARY(lumiAbs_32f_C4R, 1, Lum32f, C4)
+LUMI_UNARY_I(lumiAbs_32f_C4IR, 1, Lum32f, C4)
+LUMI_UNARY(lumiAbs_32f_AC4R, 1, Lum32f, AC4)
+LUMI_UNARY_I(lumiAbs_32f_AC4IR, 1, Lum32f, AC4)
+LUMI_UNARY(lumiSqr_32f_C1R, 2, Lum32f, C1)
+LUMI_UNARY_I(lumiSqr_32f_C1IR, 2, Lum32f, C1)
+LUMI_UNARY(lumiSqr_32f_C3R, 2, Lum32f, C3)
+LUMI_UNARY_I(lumiSqr_32f_C3IR, 2, Lum32f, C3)
+LUMI_UNARY(lumiSqr_32f_C4R, 2, Lum32f, C4)
+LUMI_UNARY_I(lumiSqr_32f_C4IR, 2, Lum32f, C4)
+LUMI_UNARY(lumiSqr_32f_AC4R, 2, Lum32f, AC4)
+LUMI_UNARY_I(lumiSqr_32f_AC4IR, 2, Lum32f, AC4)
+LUMI_UNARY(lumiSqrt_32f_C1R, 3, Lum32f, C1)
+LUMI_UNARY_I(lumiSqrt_32f_C1IR, 3, Lum32f, C1)
+LUMI_UNARY(lumiSqrt_32f_C3R, 3, Lum32f, C3)
+LUMI_UNARY_I(lumiSqrt_32f_C3IR, 3, Lum32f, C3)
+LUMI_UNARY(lumiSqrt_32f_AC4R, 3, Lum32f, AC4)
+LUMI_UNARY_I(lumiSqrt_32f_AC4IR, 3, Lum32f, AC4)
+LUMI_UNARY_I(lumiSqrt_32f_C4IR, 3, Lum32f, C4)  // in place only
 }
 
 #endif  // HWY_ONCE

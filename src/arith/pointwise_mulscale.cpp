@@ -5,7 +5,7 @@
 #define HWY_TARGET_INCLUDE "src/arith/pointwise_mulscale.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
-#include "core/frame.h"
+#include "core/simd.h"
 #include "arith/float_kernels-inl.h"
 
 #ifndef LUMI_POINTWISE_MULSCALE_SCALAR_
@@ -22,17 +22,14 @@ inline T mulScale(uint32_t a, uint32_t b) {
 }  // namespace lumi
 #endif
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace arithf {
-namespace HWY_NAMESPACE {
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+namespace arithv {
 
-#if HWY_TARGET != HWY_SCALAR
 // d = a * b / M with b a row, or the pattern's constants when b is null. Samples are widened
 // to twice their width, where the product and the correction fit.
 template <class T>
-void MulScaleRowSimd(const T* a, const T* b, T* out, int n, const RowPattern<T>* pat) {
+void mulScaleRow(const T* a, const T* b, T* out, std::ptrdiff_t n, const RowPattern<T>* pat) {
   using W = hwy::MakeWide<T>;
   constexpr int k = 8 * sizeof(T);
   const hn::ScalableTag<W> dw;
@@ -52,44 +49,31 @@ void MulScaleRowSimd(const T* a, const T* b, T* out, int n, const RowPattern<T>*
         if (Owns(pat, off)) out[i] = mulScale<T>(a[i], b ? b[i] : pat->value[off]);
       });
 }
-#else
-template <class T>
-void MulScaleRowSimd(const T* a, const T* b, T* out, int n, const RowPattern<T>* pat) {
-  for (int i = 0; i < n; ++i)
-    if (Owns(pat, static_cast<size_t>(i)))
-      out[i] = mulScale<T>(a[i], b ? b[i] : pat->value[i % pat->period]);
-}
-#endif
 
-}  // namespace HWY_NAMESPACE
-}  // namespace arithf
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+}  // namespace arithv
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
 
 #if HWY_ONCE
-#include "core/simd.h"
 
 namespace lumi {
 namespace arithf {
 namespace {
 
 template <class T>
-using MulScaleRow = void (*)(const T*, const T*, T*, int, const RowPattern<T>*);
-LUMI_SIMD_TABLE(MulScaleRow<uint8_t>, kMulScale8u, MulScaleRowSimd<uint8_t>);
-LUMI_SIMD_TABLE(MulScaleRow<uint16_t>, kMulScale16u, MulScaleRowSimd<uint16_t>);
+using MulScaleRow = void (*)(const T*, const T*, T*, std::ptrdiff_t, const RowPattern<T>*);
 
 template <class T>
-void mulScaleRowScalar(const T* a, const T* b, T* out, int n, const RowPattern<T>* pat) {
-  for (int i = 0; i < n; ++i)
+void mulScaleRowScalar(const T* a, const T* b, T* out, std::ptrdiff_t n,
+                       const RowPattern<T>* pat) {
+  for (std::ptrdiff_t i = 0; i < n; ++i)
     if (!pat || pat->writes(i)) out[i] = mulScale<T>(a[i], b ? b[i] : pat->value[i % pat->period]);
 }
 
 template <class T>
-MulScaleRow<T> pickMulScale() {
-  MulScaleRow<T> f;
-  if constexpr (sizeof(T) == 1) f = pickSimd(kMulScale8u);
-  else f = pickSimd(kMulScale16u);
-  return f ? f : mulScaleRowScalar<T>;
+MulScaleRow<T> pickMulScaleRow() {
+  LUMI_SIMD_TABLE(MulScaleRow<T>, table, arithv::mulScaleRow<T>);
+  return pick(table, &mulScaleRowScalar<T>);
 }
 
 // Steps are checked before sizes in this family.
@@ -105,10 +89,10 @@ LumStatus mulScaleImpl(const T* s1, int s1Step, const T* s2, int s2Step, const T
   const bool masked = L::kUse < L::kCh;
   RowPattern<T> pat(value || masked ? L::kCh : 1, value || masked ? L::kUse : 1, c);
   const RowPattern<T>* p = value || masked ? &pat : nullptr;
-  MulScaleRow<T> row = pickMulScale<T>();
+  MulScaleRow<T> row = pickMulScaleRow<T>();
   for (int y = 0; y < roi.height; ++y)
     row(rowAt(s1, s1Step, y), s2 ? rowAt(s2, s2Step, y) : nullptr, rowAt(d, dStep, y),
-        roi.width * L::kCh, p);
+        elemsOf(roi.width, L::kCh), p);
   return lumStatusOk;
 }
 
@@ -116,33 +100,62 @@ LumStatus mulScaleImpl(const T* s1, int s1Step, const T* s2, int s2Step, const T
 }  // namespace arithf
 }  // namespace lumi
 
-#define LUMI_MULSCALE(TY, T, L, VT, VP)                                                          \
-  LUMI_API LumStatus lumiMulScale_##TY##_##L##R(const T* a, int as, const T* b, int bs, T* d,     \
-                                                int ds, LumiSize r) {                             \
-    return lumi::arithf::mulScaleImpl<lumi::L>(a, as, b, bs, static_cast<const T*>(nullptr), d, ds, r);   \
-  }                                                                                               \
-  LUMI_API LumStatus lumiMulScale_##TY##_##L##IR(const T* s, int ss, T* sd, int sds,              \
-                                                 LumiSize r) {                                    \
-    return lumi::arithf::mulScaleImpl<lumi::L>(static_cast<const T*>(sd), sds, s, ss,                     \
-                                       static_cast<const T*>(nullptr), sd, sds, r);               \
-  }                                                                                               \
-  LUMI_API LumStatus lumiMulCScale_##TY##_##L##R(const T* s, int ss, VT value, T* d, int ds,      \
-                                                 LumiSize r) {                                    \
-    return lumi::arithf::mulScaleImpl<lumi::L>(s, ss, static_cast<const T*>(nullptr), 0, VP, d, ds, r);   \
-  }                                                                                               \
-  LUMI_API LumStatus lumiMulCScale_##TY##_##L##IR(VT value, T* sd, int sds, LumiSize r) {         \
-    return lumi::arithf::mulScaleImpl<lumi::L>(static_cast<const T*>(sd), sds,                            \
-                                       static_cast<const T*>(nullptr), 0, VP, sd, sds, r);        \
+// One line per member. VT is how the constant is passed (the value for C1, else a pointer to
+// one per channel) and VP its address.
+#define LUMI_MULSCALE(NAME, T, L)                                                              \
+  LUMI_API LumStatus NAME(const T* a, int as, const T* b, int bs, T* d, int ds, LumiSize r) { \
+    return lumi::arithf::mulScaleImpl<lumi::L>(a, as, b, bs, static_cast<const T*>(nullptr), d, \
+                                               ds, r);                                        \
   }
-#define LUMI_MULSCALE_ALL(TY, T)                    \
-  LUMI_MULSCALE(TY, T, C1, T, &value)               \
-  LUMI_MULSCALE(TY, T, C3, const T*, value)         \
-  LUMI_MULSCALE(TY, T, C4, const T*, value)         \
-  LUMI_MULSCALE(TY, T, AC4, const T*, value)
+#define LUMI_MULSCALE_I(NAME, T, L)                                                            \
+  LUMI_API LumStatus NAME(const T* s, int ss, T* sd, int sds, LumiSize r) {                   \
+    return lumi::arithf::mulScaleImpl<lumi::L>(static_cast<const T*>(sd), sds, s, ss,         \
+                                               static_cast<const T*>(nullptr), sd, sds, r);   \
+  }
+#define LUMI_MULCSCALE(NAME, T, L, VT, VP)                                                     \
+  LUMI_API LumStatus NAME(const T* s, int ss, VT value, T* d, int ds, LumiSize r) {           \
+    return lumi::arithf::mulScaleImpl<lumi::L>(s, ss, static_cast<const T*>(nullptr), 0, VP, d, \
+                                               ds, r);                                        \
+  }
+#define LUMI_MULCSCALE_I(NAME, T, L, VT, VP)                                                   \
+  LUMI_API LumStatus NAME(VT value, T* sd, int sds, LumiSize r) {                             \
+    return lumi::arithf::mulScaleImpl<lumi::L>(static_cast<const T*>(sd), sds,                \
+                                               static_cast<const T*>(nullptr), 0, VP, sd, sds, r); \
+  }
 
 extern "C" {
-LUMI_MULSCALE_ALL(8u, Lum8u)
-LUMI_MULSCALE_ALL(16u, Lum16u)
+LUMI_MULSCALE(lumiMulScale_8u_C1R, Lum8u, C1)
+LUMI_MULSCALE_I(lumiMulScale_8u_C1IR, Lum8u, C1)
+LUMI_MULCSCALE(lumiMulCScale_8u_C1R, Lum8u, C1, Lum8u, &value)
+LUMI_MULCSCALE_I(lumiMulCScale_8u_C1IR, Lum8u, C1, Lum8u, &value)
+LUMI_MULSCALE(lumiMulScale_8u_C3R, Lum8u, C3)
+LUMI_MULSCALE_I(lumiMulScale_8u_C3IR, Lum8u, C3)
+LUMI_MULCSCALE(lumiMulCScale_8u_C3R, Lum8u, C3, const Lum8u*, value)
+LUMI_MULCSCALE_I(lumiMulCScale_8u_C3IR, Lum8u, C3, const Lum8u*, value)
+LUMI_MULSCALE(lumiMulScale_8u_C4R, Lum8u, C4)
+LUMI_MULSCALE_I(lumiMulScale_8u_C4IR, Lum8u, C4)
+LUMI_MULCSCALE(lumiMulCScale_8u_C4R, Lum8u, C4, const Lum8u*, value)
+LUMI_MULCSCALE_I(lumiMulCScale_8u_C4IR, Lum8u, C4, const Lum8u*, value)
+LUMI_MULSCALE(lumiMulScale_8u_AC4R, Lum8u, AC4)
+LUMI_MULSCALE_I(lumiMulScale_8u_AC4IR, Lum8u, AC4)
+LUMI_MULCSCALE(lumiMulCScale_8u_AC4R, Lum8u, AC4, const Lum8u*, value)
+LUMI_MULCSCALE_I(lumiMulCScale_8u_AC4IR, Lum8u, AC4, const Lum8u*, value)
+LUMI_MULSCALE(lumiMulScale_16u_C1R, Lum16u, C1)
+LUMI_MULSCALE_I(lumiMulScale_16u_C1IR, Lum16u, C1)
+LUMI_MULCSCALE(lumiMulCScale_16u_C1R, Lum16u, C1, Lum16u, &value)
+LUMI_MULCSCALE_I(lumiMulCScale_16u_C1IR, Lum16u, C1, Lum16u, &value)
+LUMI_MULSCALE(lumiMulScale_16u_C3R, Lum16u, C3)
+LUMI_MULSCALE_I(lumiMulScale_16u_C3IR, Lum16u, C3)
+LUMI_MULCSCALE(lumiMulCScale_16u_C3R, Lum16u, C3, const Lum16u*, value)
+LUMI_MULCSCALE_I(lumiMulCScale_16u_C3IR, Lum16u, C3, const Lum16u*, value)
+LUMI_MULSCALE(lumiMulScale_16u_C4R, Lum16u, C4)
+LUMI_MULSCALE_I(lumiMulScale_16u_C4IR, Lum16u, C4)
+LUMI_MULCSCALE(lumiMulCScale_16u_C4R, Lum16u, C4, const Lum16u*, value)
+LUMI_MULCSCALE_I(lumiMulCScale_16u_C4IR, Lum16u, C4, const Lum16u*, value)
+LUMI_MULSCALE(lumiMulScale_16u_AC4R, Lum16u, AC4)
+LUMI_MULSCALE_I(lumiMulScale_16u_AC4IR, Lum16u, AC4)
+LUMI_MULCSCALE(lumiMulCScale_16u_AC4R, Lum16u, AC4, const Lum16u*, value)
+LUMI_MULCSCALE_I(lumiMulCScale_16u_AC4IR, Lum16u, AC4, const Lum16u*, value)
 }
 
 #endif  // HWY_ONCE

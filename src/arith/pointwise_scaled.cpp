@@ -16,7 +16,7 @@
 #include "hwy/highway.h"
 #include <cfloat>
 
-#include "core/frame.h"
+#include "core/simd.h"
 #include "arith/float_kernels-inl.h"
 #include "hwy/contrib/math/math-inl.h"
 
@@ -28,7 +28,7 @@ enum ScaledFn : int { kSqr = 0, kSqrt = 1, kLn = 2, kExp = 3 };
 
 // The scaled value of one sample; *domain is set for inputs outside the function's domain.
 template <int F, class T>
-inline T scaledValue(T x, int sf, int* domain) {
+inline T scaledValue(T x, const ScaleFactor& sf, int* domain) {
   using L = std::numeric_limits<T>;
   const double v = static_cast<double>(x);
   double r;
@@ -62,22 +62,21 @@ inline float floatValue(float x, int* domain) {
 }  // namespace lumi
 #endif
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace arithf {
-namespace HWY_NAMESPACE {
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+namespace arithv {
 
-#if HWY_TARGET != HWY_SCALAR
-// 16-bit rows: each sample widened to double, the function applied, scaled by 2^-sf, rounded
-// half to even, clamped to the type and narrowed.
+// 16-bit rows: each sample widened to double, the function applied, multiplied by the scale
+// factor's 2^-sf (a normal double: the chooser sends other factors to the scalar twin),
+// rounded half to even, clamped to the type and narrowed.
 template <class T, int F>
-int ScaledRowSimd(const T* s, T* out, int n, const RowPattern<T>* pat, int sf) {
+int scaledRow(const T* s, T* out, std::ptrdiff_t n, const RowPattern<T>* pat,
+              const ScaleFactor& sf) {
   using L = std::numeric_limits<T>;
   const hn::ScalableTag<double> dd;
   const hn::Rebind<int32_t, decltype(dd)> di;
   const hn::Rebind<T, decltype(dd)> dt;
-  const auto scale = hn::Set(dd, std::ldexp(1.0, -sf));
+  const auto scale = hn::Set(dd, sf.factor());
   const auto lo = hn::Set(dd, static_cast<double>(L::min()));
   const auto hi = hn::Set(dd, static_cast<double>(L::max()));
   const auto zero = hn::Zero(dd);
@@ -134,7 +133,7 @@ HWY_INLINE hn::Vec<D> ExpNormal(D d, hn::Vec<D> x) {
 // 32f Ln and Exp in single-precision vectors. Against the double-precision function rounded
 // once (the scalar kernels), results differ by at most 2 ulp for Ln and 1 ulp for Exp.
 template <int F>
-int FloatRowSimd(const float* s, float* out, int n, const RowPattern<float>* pat) {
+int floatRow(const float* s, float* out, std::ptrdiff_t n, const RowPattern<float>* pat) {
   const hn::ScalableTag<float> d;
   const auto zero = hn::Zero(d);
   auto bad = hn::Zero(d);
@@ -180,81 +179,59 @@ int FloatRowSimd(const float* s, float* out, int n, const RowPattern<float>* pat
       [&](size_t i, size_t) { out[i] = floatValue<F>(s[i], &tailBad); });
   return tailBad | !hn::AllFalse(d, hn::MaskFromVec(bad));
 }
-#else
-template <class T, int F>
-int ScaledRowSimd(const T* s, T* out, int n, const RowPattern<T>* pat, int sf) {
-  int bad = 0;
-  for (int i = 0; i < n; ++i)
-    if (Owns(pat, static_cast<size_t>(i))) out[i] = scaledValue<F>(s[i], sf, &bad);
-  return bad;
-}
-template <int F>
-int FloatRowSimd(const float* s, float* out, int n, const RowPattern<float>*) {
-  int bad = 0;
-  for (int i = 0; i < n; ++i) out[i] = floatValue<F>(s[i], &bad);
-  return bad;
-}
-#endif
-
-}  // namespace HWY_NAMESPACE
-}  // namespace arithf
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+}  // namespace arithv
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
 
 #if HWY_ONCE
-#include "core/simd.h"
 
 namespace lumi {
 namespace arithf {
 namespace {
 
 template <class T>
-using ScaledRow = int (*)(const T*, T*, int, const RowPattern<T>*, int);
-using FloatRow = int (*)(const float*, float*, int, const RowPattern<float>*);
+using ScaledRow = int (*)(const T*, T*, std::ptrdiff_t, const RowPattern<T>*, const ScaleFactor&);
+using FloatRow = int (*)(const float*, float*, std::ptrdiff_t, const RowPattern<float>*);
 
-LUMI_SIMD_TABLE(ScaledRow<uint16_t>, kSqr16u, ScaledRowSimd<uint16_t, kSqr>);
-LUMI_SIMD_TABLE(ScaledRow<int16_t>, kSqr16s, ScaledRowSimd<int16_t, kSqr>);
-LUMI_SIMD_TABLE(ScaledRow<uint16_t>, kSqrt16u, ScaledRowSimd<uint16_t, kSqrt>);
-LUMI_SIMD_TABLE(ScaledRow<int16_t>, kSqrt16s, ScaledRowSimd<int16_t, kSqrt>);
-LUMI_SIMD_TABLE(ScaledRow<int16_t>, kLn16s, ScaledRowSimd<int16_t, kLn>);
-LUMI_SIMD_TABLE(ScaledRow<int16_t>, kExp16s, ScaledRowSimd<int16_t, kExp>);
-LUMI_SIMD_TABLE(FloatRow, kLn32f, FloatRowSimd<kLn>);
-LUMI_SIMD_TABLE(FloatRow, kExp32f, FloatRowSimd<kExp>);
-
+// Scalar twins of arithv::scaledRow and arithv::floatRow.
 template <class T, int F>
-int scaledRowScalar(const T* s, T* out, int n, const RowPattern<T>* pat, int sf) {
+int scaledRowScalar(const T* s, T* out, std::ptrdiff_t n, const RowPattern<T>* pat,
+                    const ScaleFactor& sf) {
   int bad = 0;
-  for (int i = 0; i < n; ++i)
+  for (std::ptrdiff_t i = 0; i < n; ++i)
     if (!pat || pat->writes(i)) out[i] = scaledValue<F>(s[i], sf, &bad);
   return bad;
 }
 
 template <int F>
-int floatRowScalar(const float* s, float* out, int n, const RowPattern<float>*) {
+int floatRowScalar(const float* s, float* out, std::ptrdiff_t n, const RowPattern<float>*) {
   int bad = 0;
-  for (int i = 0; i < n; ++i) out[i] = floatValue<F>(s[i], &bad);
+  for (std::ptrdiff_t i = 0; i < n; ++i) out[i] = floatValue<F>(s[i], &bad);
   return bad;
 }
 
+// The 16-bit rows with vector kernels: Sqr and Sqrt of 16u, all four functions of 16s.
 template <class T, int F>
-ScaledRow<T> pickScaled() {
-  ScaledRow<T> f = nullptr;
-  if constexpr (std::is_same_v<T, uint16_t>) {
-    f = F == kSqr ? pickSimd(kSqr16u) : F == kSqrt ? pickSimd(kSqrt16u) : nullptr;
-  } else if constexpr (std::is_same_v<T, int16_t>) {
-    f = F == kSqr ? pickSimd(kSqr16s)
-        : F == kSqrt ? pickSimd(kSqrt16s)
-        : F == kLn ? pickSimd(kLn16s)
-                   : pickSimd(kExp16s);
+ScaledRow<T> pickScaledRow() {
+  if constexpr (std::is_same_v<T, int16_t> || (std::is_same_v<T, uint16_t> && F <= kSqrt)) {
+    LUMI_SIMD_TABLE(ScaledRow<T>, table, arithv::scaledRow<T, F>);
+    return pick(table, &scaledRowScalar<T, F>);
+  } else {
+    return &scaledRowScalar<T, F>;
   }
-  return f ? f : scaledRowScalar<T, F>;
+}
+
+template <int F>
+FloatRow pickFloatRow() {
+  LUMI_SIMD_TABLE(FloatRow, table, arithv::floatRow<F>);
+  return pick(table, &floatRowScalar<F>);
 }
 
 // 8u rows: every possible sample looked up in a table of the scaled values.
 template <int F>
 struct Table8u {
   uint8_t v[256];
-  explicit Table8u(int sf) {
+  explicit Table8u(const ScaleFactor& sf) {
     int unused = 0;
     for (int x = 0; x < 256; ++x) v[x] = scaledValue<F>(static_cast<uint8_t>(x), sf, &unused);
   }
@@ -265,25 +242,26 @@ LumStatus scaledImpl(const T* s, int sStep, T* d, int dStep, LumiSize roi, int s
   if (anyNull(s, d)) return lumStatusNullPtrErr;
   if (badSize(roi)) return lumStatusSizeErr;
   if (badStep(sStep, dStep)) return lumStatusStepErr;
-  const int n = roi.width * L::kCh;
+  const std::ptrdiff_t n = elemsOf(roi.width, L::kCh);
+  const ScaleFactor scale = resolveSf(sf);
   if constexpr (sizeof(T) == 1) {
-    const Table8u<F> table(sf);
+    const Table8u<F> table(scale);
     for (int y = 0; y < roi.height; ++y) {
       const T* in = rowAt(s, sStep, y);
       T* out = rowAt(d, dStep, y);
-      for (int i = 0; i < n; i += L::kCh)
+      for (std::ptrdiff_t i = 0; i < n; i += L::kCh)
         for (int c = 0; c < L::kUse; ++c) out[i + c] = table.v[in[i + c]];
     }
     return lumStatusOk;
   } else {
     const bool masked = L::kUse < L::kCh;
     RowPattern<T> pat(masked ? L::kCh : 1, masked ? L::kUse : 1, nullptr);
-    // The vector rows multiply by 2^-sf, a finite normal double only for |sf| below about a
-    // thousand; beyond that the scalar rows scale the value itself.
-    ScaledRow<T> row = sf < -1000 || sf > 1000 ? scaledRowScalar<T, F> : pickScaled<T, F>();
+    // The vector rows multiply by 2^-sf, which they need as a normal double; otherwise the
+    // scalar rows scale the value itself.
+    ScaledRow<T> row = scale.normalFactor() ? pickScaledRow<T, F>() : &scaledRowScalar<T, F>;
     FirstStatus status;
     for (int y = 0; y < roi.height; ++y)
-      if (row(rowAt(s, sStep, y), rowAt(d, dStep, y), n, masked ? &pat : nullptr, sf))
+      if (row(rowAt(s, sStep, y), rowAt(d, dStep, y), n, masked ? &pat : nullptr, scale))
         status.add(lumStatusDomainWarn);
     return status.value;
   }
@@ -294,12 +272,11 @@ LumStatus floatImpl(const float* s, int sStep, float* d, int dStep, LumiSize roi
   if (anyNull(s, d)) return lumStatusNullPtrErr;
   if (badSize(roi)) return lumStatusSizeErr;
   if (badStep(sStep, dStep)) return lumStatusStepErr;
-  roi = oneRowIfContiguous(roi, 4 * L::kCh, sStep, dStep);
-  FloatRow row = pickSimd(F == kLn ? kLn32f : kExp32f);
-  if (!row) row = floatRowScalar<F>;
+  roi = coalesceRows(roi, 4 * L::kCh, sStep, dStep);
+  const FloatRow row = pickFloatRow<F>();
   FirstStatus status;
   for (int y = 0; y < roi.height; ++y)
-    if (row(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width * L::kCh, nullptr))
+    if (row(rowAt(s, sStep, y), rowAt(d, dStep, y), elemsOf(roi.width, L::kCh), nullptr))
       status.add(lumStatusDomainWarn);
   return status.value;
 }
@@ -308,46 +285,92 @@ LumStatus floatImpl(const float* s, int sStep, float* d, int dStep, LumiSize roi
 }  // namespace arithf
 }  // namespace lumi
 
-#define LUMI_SCALED(NAME, F, TY, T, L)                                                          \
-  LUMI_API LumStatus lumi##NAME##_##TY##_##L##RSfs(const T* s, int ss, T* d, int ds,             \
-                                                   LumiSize r, int sf) {                         \
-    return lumi::arithf::scaledImpl<T, lumi::arithf::F, lumi::L>(s, ss, d, ds, r, sf);                           \
-  }                                                                                              \
-  LUMI_API LumStatus lumi##NAME##_##TY##_##L##IRSfs(T* sd, int sds, LumiSize r, int sf) {        \
-    return lumi::arithf::scaledImpl<T, lumi::arithf::F, lumi::L>(static_cast<const T*>(sd), sds, sd, sds, r, sf); \
+// One line per member.
+#define LUMI_SCALEDFN(NAME, F, T, L)                                                       \
+  LUMI_API LumStatus NAME(const T* s, int ss, T* d, int ds, LumiSize r, int sf) {         \
+    return lumi::arithf::scaledImpl<T, lumi::arithf::F, lumi::L>(s, ss, d, ds, r, sf);    \
   }
-#define LUMI_FLOATFN(NAME, F, L)                                                             \
-  LUMI_API LumStatus lumi##NAME##_32f_##L##R(const Lum32f* s, int ss, Lum32f* d, int ds,      \
-                                             LumiSize r) {                                    \
-    return lumi::arithf::floatImpl<lumi::arithf::F, lumi::L>(s, ss, d, ds, r);                                \
-  }                                                                                           \
-  LUMI_API LumStatus lumi##NAME##_32f_##L##IR(Lum32f* sd, int sds, LumiSize r) {              \
-    return lumi::arithf::floatImpl<lumi::arithf::F, lumi::L>(sd, sds, sd, sds, r);                            \
+#define LUMI_SCALEDFN_I(NAME, F, T, L)                                                     \
+  LUMI_API LumStatus NAME(T* sd, int sds, LumiSize r, int sf) {                           \
+    return lumi::arithf::scaledImpl<T, lumi::arithf::F, lumi::L>(static_cast<const T*>(sd), \
+                                                                 sds, sd, sds, r, sf);    \
   }
-#define LUMI_SQR_ALL(TY, T)               \
-  LUMI_SCALED(Sqr, kSqr, TY, T, C1)       \
-  LUMI_SCALED(Sqr, kSqr, TY, T, C3)       \
-  LUMI_SCALED(Sqr, kSqr, TY, T, C4)       \
-  LUMI_SCALED(Sqr, kSqr, TY, T, AC4)      \
-  LUMI_SCALED(Sqrt, kSqrt, TY, T, C1)     \
-  LUMI_SCALED(Sqrt, kSqrt, TY, T, C3)     \
-  LUMI_SCALED(Sqrt, kSqrt, TY, T, AC4)
-#define LUMI_LNEXP_ALL(TY, T)         \
-  LUMI_SCALED(Ln, kLn, TY, T, C1)     \
-  LUMI_SCALED(Ln, kLn, TY, T, C3)     \
-  LUMI_SCALED(Exp, kExp, TY, T, C1)   \
-  LUMI_SCALED(Exp, kExp, TY, T, C3)
+#define LUMI_FLOATFN(NAME, F, L)                                                          \
+  LUMI_API LumStatus NAME(const Lum32f* s, int ss, Lum32f* d, int ds, LumiSize r) {      \
+    return lumi::arithf::floatImpl<lumi::arithf::F, lumi::L>(s, ss, d, ds, r);           \
+  }
+#define LUMI_FLOATFN_I(NAME, F, L)                                               \
+  LUMI_API LumStatus NAME(Lum32f* sd, int sds, LumiSize r) {                    \
+    return lumi::arithf::floatImpl<lumi::arithf::F, lumi::L>(sd, sds, sd, sds, r); \
+  }
 
 extern "C" {
-LUMI_SQR_ALL(8u, Lum8u)
-LUMI_SQR_ALL(16u, Lum16u)
-LUMI_SQR_ALL(16s, Lum16s)
-LUMI_LNEXP_ALL(8u, Lum8u)
-LUMI_LNEXP_ALL(16s, Lum16s)
-LUMI_FLOATFN(Ln, kLn, C1)
-LUMI_FLOATFN(Ln, kLn, C3)
-LUMI_FLOATFN(Exp, kExp, C1)
-LUMI_FLOATFN(Exp, kExp, C3)
+LUMI_SCALEDFN(lumiSqr_8u_C1RSfs, kSqr, Lum8u, C1)
+LUMI_SCALEDFN_I(lumiSqr_8u_C1IRSfs, kSqr, Lum8u, C1)
+LUMI_SCALEDFN(lumiSqr_8u_C3RSfs, kSqr, Lum8u, C3)
+LUMI_SCALEDFN_I(lumiSqr_8u_C3IRSfs, kSqr, Lum8u, C3)
+LUMI_SCALEDFN(lumiSqr_8u_C4RSfs, kSqr, Lum8u, C4)
+LUMI_SCALEDFN_I(lumiSqr_8u_C4IRSfs, kSqr, Lum8u, C4)
+LUMI_SCALEDFN(lumiSqr_8u_AC4RSfs, kSqr, Lum8u, AC4)
+LUMI_SCALEDFN_I(lumiSqr_8u_AC4IRSfs, kSqr, Lum8u, AC4)
+LUMI_SCALEDFN(lumiSqrt_8u_C1RSfs, kSqrt, Lum8u, C1)
+LUMI_SCALEDFN_I(lumiSqrt_8u_C1IRSfs, kSqrt, Lum8u, C1)
+LUMI_SCALEDFN(lumiSqrt_8u_C3RSfs, kSqrt, Lum8u, C3)
+LUMI_SCALEDFN_I(lumiSqrt_8u_C3IRSfs, kSqrt, Lum8u, C3)
+LUMI_SCALEDFN(lumiSqrt_8u_AC4RSfs, kSqrt, Lum8u, AC4)
+LUMI_SCALEDFN_I(lumiSqrt_8u_AC4IRSfs, kSqrt, Lum8u, AC4)
+LUMI_SCALEDFN(lumiSqr_16u_C1RSfs, kSqr, Lum16u, C1)
+LUMI_SCALEDFN_I(lumiSqr_16u_C1IRSfs, kSqr, Lum16u, C1)
+LUMI_SCALEDFN(lumiSqr_16u_C3RSfs, kSqr, Lum16u, C3)
+LUMI_SCALEDFN_I(lumiSqr_16u_C3IRSfs, kSqr, Lum16u, C3)
+LUMI_SCALEDFN(lumiSqr_16u_C4RSfs, kSqr, Lum16u, C4)
+LUMI_SCALEDFN_I(lumiSqr_16u_C4IRSfs, kSqr, Lum16u, C4)
+LUMI_SCALEDFN(lumiSqr_16u_AC4RSfs, kSqr, Lum16u, AC4)
+LUMI_SCALEDFN_I(lumiSqr_16u_AC4IRSfs, kSqr, Lum16u, AC4)
+LUMI_SCALEDFN(lumiSqrt_16u_C1RSfs, kSqrt, Lum16u, C1)
+LUMI_SCALEDFN_I(lumiSqrt_16u_C1IRSfs, kSqrt, Lum16u, C1)
+LUMI_SCALEDFN(lumiSqrt_16u_C3RSfs, kSqrt, Lum16u, C3)
+LUMI_SCALEDFN_I(lumiSqrt_16u_C3IRSfs, kSqrt, Lum16u, C3)
+LUMI_SCALEDFN(lumiSqrt_16u_AC4RSfs, kSqrt, Lum16u, AC4)
+LUMI_SCALEDFN_I(lumiSqrt_16u_AC4IRSfs, kSqrt, Lum16u, AC4)
+LUMI_SCALEDFN(lumiSqr_16s_C1RSfs, kSqr, Lum16s, C1)
+LUMI_SCALEDFN_I(lumiSqr_16s_C1IRSfs, kSqr, Lum16s, C1)
+LUMI_SCALEDFN(lumiSqr_16s_C3RSfs, kSqr, Lum16s, C3)
+LUMI_SCALEDFN_I(lumiSqr_16s_C3IRSfs, kSqr, Lum16s, C3)
+LUMI_SCALEDFN(lumiSqr_16s_C4RSfs, kSqr, Lum16s, C4)
+LUMI_SCALEDFN_I(lumiSqr_16s_C4IRSfs, kSqr, Lum16s, C4)
+LUMI_SCALEDFN(lumiSqr_16s_AC4RSfs, kSqr, Lum16s, AC4)
+LUMI_SCALEDFN_I(lumiSqr_16s_AC4IRSfs, kSqr, Lum16s, AC4)
+LUMI_SCALEDFN(lumiSqrt_16s_C1RSfs, kSqrt, Lum16s, C1)
+LUMI_SCALEDFN_I(lumiSqrt_16s_C1IRSfs, kSqrt, Lum16s, C1)
+LUMI_SCALEDFN(lumiSqrt_16s_C3RSfs, kSqrt, Lum16s, C3)
+LUMI_SCALEDFN_I(lumiSqrt_16s_C3IRSfs, kSqrt, Lum16s, C3)
+LUMI_SCALEDFN(lumiSqrt_16s_AC4RSfs, kSqrt, Lum16s, AC4)
+LUMI_SCALEDFN_I(lumiSqrt_16s_AC4IRSfs, kSqrt, Lum16s, AC4)
+LUMI_SCALEDFN(lumiLn_8u_C1RSfs, kLn, Lum8u, C1)
+LUMI_SCALEDFN_I(lumiLn_8u_C1IRSfs, kLn, Lum8u, C1)
+LUMI_SCALEDFN(lumiLn_8u_C3RSfs, kLn, Lum8u, C3)
+LUMI_SCALEDFN_I(lumiLn_8u_C3IRSfs, kLn, Lum8u, C3)
+LUMI_SCALEDFN(lumiExp_8u_C1RSfs, kExp, Lum8u, C1)
+LUMI_SCALEDFN_I(lumiExp_8u_C1IRSfs, kExp, Lum8u, C1)
+LUMI_SCALEDFN(lumiExp_8u_C3RSfs, kExp, Lum8u, C3)
+LUMI_SCALEDFN_I(lumiExp_8u_C3IRSfs, kExp, Lum8u, C3)
+LUMI_SCALEDFN(lumiLn_16s_C1RSfs, kLn, Lum16s, C1)
+LUMI_SCALEDFN_I(lumiLn_16s_C1IRSfs, kLn, Lum16s, C1)
+LUMI_SCALEDFN(lumiLn_16s_C3RSfs, kLn, Lum16s, C3)
+LUMI_SCALEDFN_I(lumiLn_16s_C3IRSfs, kLn, Lum16s, C3)
+LUMI_SCALEDFN(lumiExp_16s_C1RSfs, kExp, Lum16s, C1)
+LUMI_SCALEDFN_I(lumiExp_16s_C1IRSfs, kExp, Lum16s, C1)
+LUMI_SCALEDFN(lumiExp_16s_C3RSfs, kExp, Lum16s, C3)
+LUMI_SCALEDFN_I(lumiExp_16s_C3IRSfs, kExp, Lum16s, C3)
+LUMI_FLOATFN(lumiLn_32f_C1R, kLn, C1)
+LUMI_FLOATFN_I(lumiLn_32f_C1IR, kLn, C1)
+LUMI_FLOATFN(lumiLn_32f_C3R, kLn, C3)
+LUMI_FLOATFN_I(lumiLn_32f_C3IR, kLn, C3)
+LUMI_FLOATFN(lumiExp_32f_C1R, kExp, C1)
+LUMI_FLOATFN_I(lumiExp_32f_C1IR, kExp, C1)
+LUMI_FLOATFN(lumiExp_32f_C3R, kExp, C3)
+LUMI_FLOATFN_I(lumiExp_32f_C3IR, kExp, C3)
 }
 
 #endif  // HWY_ONCE
