@@ -1,7 +1,9 @@
 // Moment states: life cycle, argument checks, raw and central moments against direct sums,
 // closed forms for a centred rectangle and a single pixel, Hu invariants.
+#include <climits>
 #include <cmath>
 #include <cstring>
+#include <functional>
 #include <type_traits>
 #include <vector>
 
@@ -16,8 +18,8 @@ namespace {
 template <class S, LumStatus (*kAlloc)(S**, LumAccuracyHint), LumStatus (*kFree)(S*), int kHint>
 struct State {
   S* p = nullptr;
-  State() { EXPECT_EQ(kAlloc(&p, kHint), 0); }
-  ~State() { EXPECT_EQ(kFree(p), 0); }
+  State() { EXPECT_EQ(kAlloc(&p, kHint), lumStatusOk); }
+  ~State() { EXPECT_EQ(kFree(p), lumStatusOk); }
 };
 using State64f = State<LumiMomentState_64f, lumiMomentInitAlloc_64f, lumiMomentFree_64f, lumHintAccurate>;
 using State64s = State<LumiMomentState_64s, lumiMomentInitAlloc_64s, lumiMomentFree_64s, lumHintNone>;
@@ -36,11 +38,11 @@ struct Q<LumiMomentState_64s> {
   static constexpr auto hu = lumiGetHuMoments_64s;
 };
 
-// Calls a query that writes one value; the status must be 0.
+// Calls a query that writes one value; the status must be lumStatusOk.
 template <class F, class... A>
 Lum64f get(F fn, A... args) {
   Lum64f v = NAN;
-  EXPECT_EQ(fn(args..., &v), 0);
+  EXPECT_EQ(fn(args..., &v), lumStatusOk);
   return v;
 }
 
@@ -100,7 +102,7 @@ void checkAgainstDirect(const GuardedImage<T>& im, int use, const S* st) {
         EXPECT_LE(std::fabs(nce[i][j] - ce * norm), tolCe * norm) << "normalised central";
       }
     Lum64f hu[7];
-    ASSERT_EQ(Q<S>::hu(st, c, hu), 0);
+    ASSERT_EQ(Q<S>::hu(st, c, hu), lumStatusOk);
     auto want = huOf(nce, false), size = huOf(nce, true);
     for (int k = 0; k < 7; ++k) EXPECT_LE(std::fabs(hu[k] - want[k]), 1e-9L * size[k]) << "Hu " << k << " channel " << c;
   }
@@ -117,7 +119,7 @@ TEST(Moments, RandomImagesMatchDirectSums) {
     State64f s;
     State64s e;
     auto run = [&](auto fn, auto& im, int use, auto* state) {
-      ASSERT_EQ(fn(im.ptr(), im.step(), sz, state), 0);
+      ASSERT_EQ(fn(im.ptr(), im.step(), sz, state), lumStatusOk);
       checkAgainstDirect(im, use, state);
       EXPECT_TRUE(im.guardsIntact());
     };
@@ -140,7 +142,7 @@ TEST(Moments, ExactStateOnLargeImage) {
   const int w = 1500, h = 1200;
   std::vector<Lum8u> buf(static_cast<std::size_t>(w) * h, 255);
   State64s e;
-  ASSERT_EQ(lumiMoments64s_8u_C1R(buf.data(), w, LumiSize{w, h}, e.p), 0);
+  ASSERT_EQ(lumiMoments64s_8u_C1R(buf.data(), w, LumiSize{w, h}, e.p), lumStatusOk);
   // sum x^3 over [0, w) = (w (w - 1) / 2)^2; all values below 2^63
   const int64_t sx = int64_t(w) * (w - 1) / 2, sy2 = int64_t(h - 1) * h * (2 * h - 1) / 6;
   EXPECT_EQ(get(lumiGetSpatialMoment_64s, e.p, 3, 0, 0, LumiPoint{0, 0}), static_cast<double>(sx * sx * h * 255));
@@ -158,8 +160,8 @@ TEST(Moments, TallImagesKeepHighOrderRowSums) {
     for (int y = 0; y < h; ++y) sy[0] += 1, sy[1] += y, sy[2] += ipow(y, 2), sy[3] += ipow(y, 3);
     State64f s;
     for (int pass = 0; pass < 2; ++pass) {
-      if (pass == 0) ASSERT_EQ(lumiMoments64f_8u_C1R(b8.data(), w, LumiSize{w, h}, s.p), 0);
-      else ASSERT_EQ(lumiMoments64f_32f_C1R(bf.data(), 4 * w, LumiSize{w, h}, s.p), 0);
+      if (pass == 0) ASSERT_EQ(lumiMoments64f_8u_C1R(b8.data(), w, LumiSize{w, h}, s.p), lumStatusOk);
+      else ASSERT_EQ(lumiMoments64f_32f_C1R(bf.data(), 4 * w, LumiSize{w, h}, s.p), lumStatusOk);
       for (int j = 0; j <= 3; ++j)
         for (int i = 0; i + j <= 3; ++i) {
           long double want = 255.0L * (ipow(0, i) + ipow(1, i) + ipow(2, i)) * sy[j];
@@ -175,7 +177,7 @@ TEST(Moments, CentredRectangleAndSinglePixel) {
   GuardedImage<Lum8u> im(21, 15, 1);
   im.fill([](int x, int y, int) { return Lum8u(x >= 6 && x < 15 && y >= 5 && y < 10 ? 1 : 0); });
   State64f s;
-  ASSERT_EQ(lumiMoments64f_8u_C1R(im.ptr(), im.step(), im.roi(), s.p), 0);
+  ASSERT_EQ(lumiMoments64f_8u_C1R(im.ptr(), im.step(), im.roi(), s.p), lumStatusOk);
   const LumiPoint o{0, 0};
   const double a = 9, b = 5, m00 = a * b, mu20 = b * a * (a * a - 1) / 12, mu02 = a * b * (b * b - 1) / 12;
   EXPECT_EQ(get(lumiGetSpatialMoment_64f, s.p, 0, 0, 0, o), m00);
@@ -187,7 +189,7 @@ TEST(Moments, CentredRectangleAndSinglePixel) {
     EXPECT_NEAR(get(lumiGetCentralMoment_64f, s.p, ij.first, ij.second, 0), 0.0, 1e-8);
   EXPECT_NEAR(get(lumiGetNormalizedCentralMoment_64f, s.p, 2, 0, 0), mu20 / (m00 * m00), 1e-12);
   Lum64f hu[7];
-  ASSERT_EQ(lumiGetHuMoments_64f(s.p, 0, hu), 0);
+  ASSERT_EQ(lumiGetHuMoments_64f(s.p, 0, hu), lumStatusOk);
   EXPECT_NEAR(hu[0], (mu20 + mu02) / (m00 * m00), 1e-12);
   EXPECT_NEAR(hu[1], (mu20 - mu02) * (mu20 - mu02) / (m00 * m00 * m00 * m00), 1e-12);
   for (int k = 2; k < 7; ++k) EXPECT_NEAR(hu[k], 0.0, 1e-12);
@@ -197,13 +199,13 @@ TEST(Moments, CentredRectangleAndSinglePixel) {
   // one pixel of 200 at (4, 3): m(i, j) = 200 * 4^i * 3^j, every central moment beyond 0 is 0
   GuardedImage<float> one(7, 6, 3);
   one.fill([](int x, int y, int c) { return x == 4 && y == 3 && c == 2 ? 200.0f : 0.0f; });
-  ASSERT_EQ(lumiMoments64f_32f_C3R(one.ptr(), one.step(), one.roi(), s.p), 0);
+  ASSERT_EQ(lumiMoments64f_32f_C3R(one.ptr(), one.step(), one.roi(), s.p), lumStatusOk);
   for (int j = 0; j <= 3; ++j)
     for (int i = 0; i + j <= 3; ++i) {
       EXPECT_EQ(get(lumiGetSpatialMoment_64f, s.p, i, j, 2, o), 200.0 * std::pow(4.0, i) * std::pow(3.0, j));
       EXPECT_EQ(get(lumiGetCentralMoment_64f, s.p, i, j, 2), i + j == 0 ? 200.0 : 0.0);
     }
-  ASSERT_EQ(lumiGetHuMoments_64f(s.p, 2, hu), 0);
+  ASSERT_EQ(lumiGetHuMoments_64f(s.p, 2, hu), lumStatusOk);
   for (double h : hu) EXPECT_EQ(h, 0.0);
   EXPECT_EQ(lumiGetHuMoments_64f(s.p, 0, hu), lumStatusMomentZeroErr);  // channel 0 is empty
   EXPECT_TRUE(im.guardsIntact() && one.guardsIntact());
@@ -212,7 +214,7 @@ TEST(Moments, CentredRectangleAndSinglePixel) {
 TEST(Moments, StateLifeCycleAndTags) {
   int size = 0;
   EXPECT_EQ(lumiMomentGetStateSize_64s(lumHintNone, nullptr), lumStatusNullPtrErr);
-  ASSERT_EQ(lumiMomentGetStateSize_64s(lumHintNone, &size), 0);
+  ASSERT_EQ(lumiMomentGetStateSize_64s(lumHintNone, &size), lumStatusOk);
   EXPECT_EQ(size, 400);
   // a state in caller memory: nothing beyond its 400 bytes is touched
   std::vector<unsigned char> mem(400 + 64, 0xCD);
@@ -223,14 +225,14 @@ TEST(Moments, StateLifeCycleAndTags) {
     return h[k];
   };
   EXPECT_EQ(lumiMomentInit_64s(nullptr, lumHintFast), lumStatusNullPtrErr);
-  ASSERT_EQ(lumiMomentInit_64s(st, lumHintFast), 0);
+  ASSERT_EQ(lumiMomentInit_64s(st, lumHintFast), lumStatusOk);
   EXPECT_EQ(head(0), 34);
   EXPECT_EQ(head(1), lumHintFast);
   EXPECT_EQ(head(2), -1);
   Lum64f v = 5;
   EXPECT_EQ(lumiGetSpatialMoment_64s(st, 0, 0, 0, LumiPoint{0, 0}, &v), lumStatusChannelIndexErr);
   Lum8u px[12] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
-  ASSERT_EQ(lumiMoments64s_8u_C3R(px, 12, LumiSize{4, 1}, st), 0);
+  ASSERT_EQ(lumiMoments64s_8u_C3R(px, 12, LumiSize{4, 1}, st), lumStatusOk);
   EXPECT_EQ(head(2), 3);
   for (std::size_t i = 400; i < mem.size(); ++i) EXPECT_EQ(mem[i], 0xCD);
   EXPECT_EQ(get(lumiGetSpatialMoment_64s, st, 1, 0, 1, LumiPoint{0, 0}), 0 * 2 + 1 * 5 + 2 * 8 + 3 * 11);
@@ -242,6 +244,33 @@ TEST(Moments, StateLifeCycleAndTags) {
   EXPECT_EQ(lumiMomentFree_64f(wrong), lumStatusContextMismatchErr);
   EXPECT_EQ(lumiMomentFree_64s(nullptr), lumStatusNullPtrErr);
   EXPECT_EQ(lumiMomentInitAlloc_64f(nullptr, 0), lumStatusNullPtrErr);
+}
+
+// Orders whose sum overflows an int are refused like any order above 3, by all eight queries.
+TEST(Moments, OrdersNearIntMax) {
+  State64f s;
+  State64s e;
+  Lum8u px[4] = {1, 2, 3, 4};
+  ASSERT_EQ(lumiMoments64f_8u_C1R(px, 4, LumiSize{4, 1}, s.p), lumStatusOk);
+  ASSERT_EQ(lumiMoments64s_8u_C1R(px, 4, LumiSize{4, 1}, e.p), lumStatusOk);
+  const LumiPoint o{0, 0};
+  using Query = std::function<LumStatus(int, int, Lum64f*)>;
+  const std::pair<const char*, Query> queries[8] = {
+      {"spatial 64f", [&](int i, int j, Lum64f* v) { return lumiGetSpatialMoment_64f(s.p, i, j, 0, o, v); }},
+      {"central 64f", [&](int i, int j, Lum64f* v) { return lumiGetCentralMoment_64f(s.p, i, j, 0, v); }},
+      {"normalised spatial 64f", [&](int i, int j, Lum64f* v) { return lumiGetNormalizedSpatialMoment_64f(s.p, i, j, 0, o, v); }},
+      {"normalised central 64f", [&](int i, int j, Lum64f* v) { return lumiGetNormalizedCentralMoment_64f(s.p, i, j, 0, v); }},
+      {"spatial 64s", [&](int i, int j, Lum64f* v) { return lumiGetSpatialMoment_64s(e.p, i, j, 0, o, v); }},
+      {"central 64s", [&](int i, int j, Lum64f* v) { return lumiGetCentralMoment_64s(e.p, i, j, 0, v); }},
+      {"normalised spatial 64s", [&](int i, int j, Lum64f* v) { return lumiGetNormalizedSpatialMoment_64s(e.p, i, j, 0, o, v); }},
+      {"normalised central 64s", [&](int i, int j, Lum64f* v) { return lumiGetNormalizedCentralMoment_64s(e.p, i, j, 0, v); }},
+  };
+  for (const auto& [name, query] : queries)
+    for (auto ij : {std::pair{2, INT_MAX - 1}, std::pair{INT_MAX - 1, 2}, std::pair{INT_MAX, INT_MAX}}) {
+      Lum64f v = 5;
+      EXPECT_EQ(query(ij.first, ij.second, &v), lumStatusSizeErr) << name << " (" << ij.first << ", " << ij.second << ")";
+      EXPECT_EQ(v, 5.0) << name;
+    }
 }
 
 TEST(Moments, ValidationOrder) {
@@ -259,7 +288,7 @@ TEST(Moments, ValidationOrder) {
   EXPECT_EQ(lumiMoments64f_8u_AC4R(px, 39, LumiSize{10, 1}, s.p), lumStatusStepBelowRowErr);
   EXPECT_EQ(lumiMoments64f_32f_C1R(fx, 39, LumiSize{10, 1}, s.p), lumStatusStepBelowRowErr);
   EXPECT_EQ(lumiGetSpatialMoment_64f(s.p, 0, 0, 0, o, &v), lumStatusChannelIndexErr);
-  ASSERT_EQ(lumiMoments64f_8u_C1R(px, 10, LumiSize{10, 1}, s.p), 0);  // an all-zero image
+  ASSERT_EQ(lumiMoments64f_8u_C1R(px, 10, LumiSize{10, 1}, s.p), lumStatusOk);  // an all-zero image
   EXPECT_EQ(get(lumiGetSpatialMoment_64f, s.p, 0, 0, 0, o), 0.0);
   EXPECT_EQ(lumiGetSpatialMoment_64f(s.p, 2, 2, 0, o, &v), lumStatusSizeErr);
   EXPECT_EQ(lumiGetCentralMoment_64f(s.p, -1, 1, 5, &v), lumStatusSizeErr);  // order before channel

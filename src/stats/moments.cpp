@@ -9,7 +9,7 @@
 #define HWY_TARGET_INCLUDE "src/stats/moments.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
-#include "core/frame.h"
+#include "core/simd.h"
 
 #include <cmath>
 #include <cstring>
@@ -23,7 +23,7 @@ constexpr int kGroupRows = 8;  // rows folded into the running sums per load and
 
 // Iterated running sums of one row of n samples: s[0..n) is S1, s[n..2n) S2 and so on.
 template <class T, class S>
-inline void iterSumScalar(const T* p, int i0, int n, S* s) {
+inline void iterSumFrom(const T* p, int i0, int n, S* s) {
   for (int i = i0; i < n; ++i) {
     S a1 = s[i] + static_cast<S>(p[i]);
     S a2 = s[n + i] + a1;
@@ -39,16 +39,13 @@ inline void iterSumScalar(const T* p, int i0, int n, S* s) {
 }  // namespace lumi
 #endif
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
-#if HWY_TARGET != HWY_SCALAR  // only the x86 vector targets enter the dispatch tables
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
 
 // `rows` (1 to kGroupRows) consecutive rows at once, so the running sums are loaded and stored once
 // per group of rows.
 template <class T, class S>
-void IterSumRows(const T* HWY_RESTRICT p, int step, int rows, int n, S* HWY_RESTRICT s) {
+void iterSumRows(const T* HWY_RESTRICT p, int step, int rows, int n, S* HWY_RESTRICT s) {
   const hn::ScalableTag<S> d;
   const hn::Rebind<T, decltype(d)> dn;
   const int N = static_cast<int>(hn::Lanes(d));
@@ -69,17 +66,13 @@ void IterSumRows(const T* HWY_RESTRICT p, int step, int rows, int n, S* HWY_REST
     hn::StoreU(a3, d, s + 2 * n + i);
     hn::StoreU(a4, d, s + 3 * n + i);
   }
-  for (int k = 0; k < rows; ++k) moments::iterSumScalar<T, S>(r[k], i, n, s);
+  for (int k = 0; k < rows; ++k) moments::iterSumFrom<T, S>(r[k], i, n, s);
 }
 
 #endif
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+LUMI_SIMD_END
 
 #if HWY_ONCE
-#include "core/simd.h"
-
 
 namespace lumi {
 namespace {
@@ -114,17 +107,16 @@ void initState(MomentState* s, int32_t tag, int hint) {
 constexpr int kBlockRows = 128;  // 8u: S4 stays below 2^32 (C(131, 4) * 255)
 
 template <class T, class S>
-using IterSumFn = void (*)(const T*, int, int, int, S*);
+using IterSumRowsFn = void (*)(const T*, int, int, int, S*);
 template <class T, class S>
-void iterSumScalarRows(const T* p, int step, int rows, int n, S* s) {
-  for (int k = 0; k < rows; ++k) moments::iterSumScalar<T, S>(rowAt(p, step, k), 0, n, s);
+void iterSumRowsScalar(const T* p, int step, int rows, int n, S* s) {
+  for (int k = 0; k < rows; ++k) moments::iterSumFrom<T, S>(rowAt(p, step, k), 0, n, s);
 }
 template <class T, class S>
-IterSumFn<T, S> pickIterSum() {
-  using Fn = IterSumFn<T, S>;
-  LUMI_SIMD_TABLE(Fn, table, IterSumRows<T, S>);
-  if (auto f = pickSimd(table)) return f;
-  return &iterSumScalarRows<T, S>;
+IterSumRowsFn<T, S> pickIterSumRows() {
+  using Fn = IterSumRowsFn<T, S>;  // one macro argument
+  LUMI_SIMD_TABLE(Fn, table, iterSumRows<T, S>);
+  return pick(table, &iterSumRowsScalar<T, S>);
 }
 
 // Folds one block of k rows starting at row y0 into the moments m (16 per channel) and clears
@@ -165,14 +157,14 @@ void foldBlock(S* s, int n, int ch, int use, W k, M y0, M* m) {
 // Accumulates all moments of a ROI of kCh-channel pixels (the first `use` channels) into m.
 template <class T, class S, class W, class M>
 LumStatus accumulateMoments(const T* src, int step, LumiSize roi, int ch, int use, M* m) {
-  const int64_t elems = static_cast<int64_t>(roi.width) * ch;
-  if (elems * 4 * static_cast<int64_t>(sizeof(S)) > 0x7fffffff) return lumStatusMemAllocErr;
+  const std::ptrdiff_t elems = elemsOf(roi.width, ch);
+  if (elems * 4 * static_cast<std::ptrdiff_t>(sizeof(S)) > 0x7fffffff) return lumStatusMemAllocErr;
   const int n = static_cast<int>(elems);
   const std::size_t bytes = sizeof(S) * 4 * static_cast<std::size_t>(n);
   S* s = reinterpret_cast<S*>(lumsMalloc_8u(static_cast<int>(bytes)));
   if (s == nullptr) return lumStatusMemAllocErr;
   std::memset(s, 0, bytes);
-  IterSumFn<T, S> f = pickIterSum<T, S>();
+  const IterSumRowsFn<T, S> f = pickIterSumRows<T, S>();
   for (int y0 = 0; y0 < roi.height; y0 += kBlockRows) {
     const int y1 = y0 + kBlockRows < roi.height ? y0 + kBlockRows : roi.height;
     for (int y = y0; y < y1; y += moments::kGroupRows)
@@ -191,7 +183,7 @@ LumStatus momentsImpl(const T* src, int step, LumiSize roi, void* state, int row
   if (badStep(step)) return lumStatusStepErr;  // steps before sizes here
   if (badSize(roi)) return lumStatusSizeErr;
   if (rowBytesPerPixel > 0 &&
-      static_cast<int64_t>(step) < static_cast<int64_t>(roi.width) * rowBytesPerPixel)
+      static_cast<std::ptrdiff_t>(step) < elemsOf(roi.width, rowBytesPerPixel))
     return lumStatusStepBelowRowErr;
   MomentState::Values m{};
   LumStatus st;
@@ -221,7 +213,8 @@ LumStatus loadMoments(const void* state, int32_t tag, int i, int j, int channel,
     return lumStatusNullPtrErr;
   const MomentState* s = asState(state);
   if (s->tag != tag) return lumStatusContextMismatchErr;
-  if (i < 0 || j < 0 || i + j > 3) return lumStatusSizeErr;
+  // each order alone first: i + j must not be formed from orders near INT_MAX
+  if (i < 0 || j < 0 || i > 3 || j > 3 || i + j > 3) return lumStatusSizeErr;
   if (channel < 0 || channel >= s->channels) return lumStatusChannelIndexErr;
   for (int k = 0; k < 16; ++k)
     mo->m[k] = tag == kTag64s ? static_cast<double>(s->m.s[16 * channel + k]) : s->m.f[16 * channel + k];
@@ -309,20 +302,44 @@ LumStatus freeState(void* p, int32_t tag) {
 }  // namespace
 }  // namespace lumi
 
-using lumi::AC4;
-using lumi::C1;
-using lumi::C3;
 using namespace lumi;
 
+// Tag of each state kind: 64f keeps the moments in double, 64s exactly in 64-bit integers.
+template <class S>
+constexpr int32_t tagOf() {
+  return std::is_same_v<S, LumiMomentState_64s> ? kTag64s : kTag64f;
+}
+
+// One stamp per export. ROWBYTES is the step a ROI row needs per pixel (0: not checked).
+#define LUMI_MOMENTS(NAME, T, L, S, ROWBYTES)                                                \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roiSize, S* pCtx) {           \
+    return momentsImpl<T, L, tagOf<S>() == kTag64s>(pSrc, srcStep, roiSize, pCtx, ROWBYTES); \
+  }
+#define LUMI_SPATIAL_MOMENT(NAME, S, NORMALISED)                                           \
+  LUMI_API LumStatus NAME(const S* pState, int mOrd, int nOrd, int nChannel,               \
+                          LumiPoint roiOffset, Lum64f* pValue) {                           \
+    return spatial(pState, tagOf<S>(), mOrd, nOrd, nChannel, roiOffset, pValue, NORMALISED); \
+  }
+#define LUMI_CENTRAL_MOMENT(NAME, S, NORMALISED)                                               \
+  LUMI_API LumStatus NAME(const S* pState, int mOrd, int nOrd, int nChannel, Lum64f* pValue) { \
+    return centralQuery(pState, tagOf<S>(), mOrd, nOrd, nChannel, pValue, NORMALISED);         \
+  }
+#define LUMI_HU_MOMENTS(NAME, S)                                                   \
+  LUMI_API LumStatus NAME(const S* pState, int nChannel, Lum64f pHm[7]) {          \
+    return huMoments(pState, tagOf<S>(), nChannel, pHm);                           \
+  }
+#define LUMI_MOMENT_ALLOC(NAME, S)                                                 \
+  LUMI_API LumStatus NAME(S** ppState, LumAccuracyHint hint) {                     \
+    return initAlloc(reinterpret_cast<void**>(ppState), tagOf<S>(), hint);         \
+  }
+#define LUMI_MOMENT_FREE(NAME, S) \
+  LUMI_API LumStatus NAME(S* pState) { return freeState(pState, tagOf<S>()); }
+
 extern "C" {
-LUMI_API LumStatus lumiMomentInitAlloc_64f(LumiMomentState_64f** ppState, LumAccuracyHint hint) {
-  return initAlloc(reinterpret_cast<void**>(ppState), kTag64f, hint);
-}
-LUMI_API LumStatus lumiMomentInitAlloc_64s(LumiMomentState_64s** ppState, LumAccuracyHint hint) {
-  return initAlloc(reinterpret_cast<void**>(ppState), kTag64s, hint);
-}
-LUMI_API LumStatus lumiMomentFree_64f(LumiMomentState_64f* pState) { return freeState(pState, kTag64f); }
-LUMI_API LumStatus lumiMomentFree_64s(LumiMomentState_64s* pState) { return freeState(pState, kTag64s); }
+LUMI_MOMENT_ALLOC(lumiMomentInitAlloc_64f, LumiMomentState_64f)
+LUMI_MOMENT_ALLOC(lumiMomentInitAlloc_64s, LumiMomentState_64s)
+LUMI_MOMENT_FREE(lumiMomentFree_64f, LumiMomentState_64f)
+LUMI_MOMENT_FREE(lumiMomentFree_64s, LumiMomentState_64s)
 LUMI_API LumStatus lumiMomentGetStateSize_64s(LumAccuracyHint hint, int* pSize) {
   if (pSize == nullptr) return lumStatusNullPtrErr;
   *pSize = static_cast<int>(sizeof(MomentState));
@@ -336,69 +353,25 @@ LUMI_API LumStatus lumiMomentInit_64s(LumiMomentState_64s* pState, LumAccuracyHi
 
 // The step must hold one ROI row: width for 8u C1, 3 * width for 8u C3, 4 * width for 8u AC4
 // and 32f C1; the 32f C3 and AC4 forms do not test it.
-LUMI_API LumStatus lumiMoments64f_8u_C1R(const Lum8u* pSrc, int srcStep, LumiSize roiSize,
-                                         LumiMomentState_64f* pCtx) {
-  return momentsImpl<Lum8u, C1, false>(pSrc, srcStep, roiSize, pCtx, 1);
-}
-LUMI_API LumStatus lumiMoments64f_8u_C3R(const Lum8u* pSrc, int srcStep, LumiSize roiSize,
-                                         LumiMomentState_64f* pCtx) {
-  return momentsImpl<Lum8u, C3, false>(pSrc, srcStep, roiSize, pCtx, 3);
-}
-LUMI_API LumStatus lumiMoments64f_8u_AC4R(const Lum8u* pSrc, int srcStep, LumiSize roiSize,
-                                          LumiMomentState_64f* pCtx) {
-  return momentsImpl<Lum8u, AC4, false>(pSrc, srcStep, roiSize, pCtx, 4);
-}
-LUMI_API LumStatus lumiMoments64f_32f_C1R(const Lum32f* pSrc, int srcStep, LumiSize roiSize,
-                                          LumiMomentState_64f* pCtx) {
-  return momentsImpl<Lum32f, C1, false>(pSrc, srcStep, roiSize, pCtx, 4);
-}
-LUMI_API LumStatus lumiMoments64f_32f_C3R(const Lum32f* pSrc, int srcStep, LumiSize roiSize,
-                                          LumiMomentState_64f* pCtx) {
-  return momentsImpl<Lum32f, C3, false>(pSrc, srcStep, roiSize, pCtx, 0);
-}
-LUMI_API LumStatus lumiMoments64f_32f_AC4R(const Lum32f* pSrc, int srcStep, LumiSize roiSize,
-                                           LumiMomentState_64f* pCtx) {
-  return momentsImpl<Lum32f, AC4, false>(pSrc, srcStep, roiSize, pCtx, 0);
-}
-LUMI_API LumStatus lumiMoments64s_8u_C1R(const Lum8u* pSrc, int srcStep, LumiSize roiSize,
-                                         LumiMomentState_64s* pCtx) {
-  return momentsImpl<Lum8u, C1, true>(pSrc, srcStep, roiSize, pCtx, 1);
-}
-LUMI_API LumStatus lumiMoments64s_8u_C3R(const Lum8u* pSrc, int srcStep, LumiSize roiSize,
-                                         LumiMomentState_64s* pCtx) {
-  return momentsImpl<Lum8u, C3, true>(pSrc, srcStep, roiSize, pCtx, 3);
-}
-LUMI_API LumStatus lumiMoments64s_8u_AC4R(const Lum8u* pSrc, int srcStep, LumiSize roiSize,
-                                          LumiMomentState_64s* pCtx) {
-  return momentsImpl<Lum8u, AC4, true>(pSrc, srcStep, roiSize, pCtx, 4);
-}
+LUMI_MOMENTS(lumiMoments64f_8u_C1R, Lum8u, C1, LumiMomentState_64f, 1)
+LUMI_MOMENTS(lumiMoments64f_8u_C3R, Lum8u, C3, LumiMomentState_64f, 3)
+LUMI_MOMENTS(lumiMoments64f_8u_AC4R, Lum8u, AC4, LumiMomentState_64f, 4)
+LUMI_MOMENTS(lumiMoments64f_32f_C1R, Lum32f, C1, LumiMomentState_64f, 4)
+LUMI_MOMENTS(lumiMoments64f_32f_C3R, Lum32f, C3, LumiMomentState_64f, 0)
+LUMI_MOMENTS(lumiMoments64f_32f_AC4R, Lum32f, AC4, LumiMomentState_64f, 0)
+LUMI_MOMENTS(lumiMoments64s_8u_C1R, Lum8u, C1, LumiMomentState_64s, 1)
+LUMI_MOMENTS(lumiMoments64s_8u_C3R, Lum8u, C3, LumiMomentState_64s, 3)
+LUMI_MOMENTS(lumiMoments64s_8u_AC4R, Lum8u, AC4, LumiMomentState_64s, 4)
 
-#define LUMI_MOMENT_QUERIES(K, TAG)                                                              \
-  LUMI_API LumStatus lumiGetSpatialMoment_##K(const LumiMomentState_##K* pState, int mOrd,      \
-                                              int nOrd, int nChannel, LumiPoint roiOffset,      \
-                                              Lum64f* pValue) {                                 \
-    return spatial(pState, TAG, mOrd, nOrd, nChannel, roiOffset, pValue, false);                \
-  }                                                                                              \
-  LUMI_API LumStatus lumiGetNormalizedSpatialMoment_##K(const LumiMomentState_##K* pState,      \
-                                                        int mOrd, int nOrd, int nChannel,       \
-                                                        LumiPoint roiOffset, Lum64f* pValue) {  \
-    return spatial(pState, TAG, mOrd, nOrd, nChannel, roiOffset, pValue, true);                 \
-  }                                                                                              \
-  LUMI_API LumStatus lumiGetCentralMoment_##K(const LumiMomentState_##K* pState, int mOrd,      \
-                                              int nOrd, int nChannel, Lum64f* pValue) {         \
-    return centralQuery(pState, TAG, mOrd, nOrd, nChannel, pValue, false);                      \
-  }                                                                                              \
-  LUMI_API LumStatus lumiGetNormalizedCentralMoment_##K(const LumiMomentState_##K* pState,      \
-                                                        int mOrd, int nOrd, int nChannel,       \
-                                                        Lum64f* pValue) {                       \
-    return centralQuery(pState, TAG, mOrd, nOrd, nChannel, pValue, true);                       \
-  }                                                                                              \
-  LUMI_API LumStatus lumiGetHuMoments_##K(const LumiMomentState_##K* pState, int nChannel,      \
-                                          Lum64f pHm[7]) {                                      \
-    return huMoments(pState, TAG, nChannel, pHm);                                               \
-  }
-
-LUMI_MOMENT_QUERIES(64f, kTag64f)
-LUMI_MOMENT_QUERIES(64s, kTag64s)
+LUMI_SPATIAL_MOMENT(lumiGetSpatialMoment_64f, LumiMomentState_64f, false)
+LUMI_SPATIAL_MOMENT(lumiGetSpatialMoment_64s, LumiMomentState_64s, false)
+LUMI_SPATIAL_MOMENT(lumiGetNormalizedSpatialMoment_64f, LumiMomentState_64f, true)
+LUMI_SPATIAL_MOMENT(lumiGetNormalizedSpatialMoment_64s, LumiMomentState_64s, true)
+LUMI_CENTRAL_MOMENT(lumiGetCentralMoment_64f, LumiMomentState_64f, false)
+LUMI_CENTRAL_MOMENT(lumiGetCentralMoment_64s, LumiMomentState_64s, false)
+LUMI_CENTRAL_MOMENT(lumiGetNormalizedCentralMoment_64f, LumiMomentState_64f, true)
+LUMI_CENTRAL_MOMENT(lumiGetNormalizedCentralMoment_64s, LumiMomentState_64s, true)
+LUMI_HU_MOMENTS(lumiGetHuMoments_64f, LumiMomentState_64f)
+LUMI_HU_MOMENTS(lumiGetHuMoments_64s, LumiMomentState_64s)
 }
 #endif
