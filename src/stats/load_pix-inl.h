@@ -1,5 +1,6 @@
 // Per-channel vectors of interleaved pixels, shared by the statistics kernels. Included once
-// per SIMD target (after hwy/highway.h), hence the toggle guard instead of #pragma once.
+// per SIMD target (after hwy/highway.h and core/simd.h), hence the toggle guard instead of
+// #pragma once.
 #if defined(LUMI_STATS_LOAD_PIX_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef LUMI_STATS_LOAD_PIX_INL_H_
 #undef LUMI_STATS_LOAD_PIX_INL_H_
@@ -7,14 +8,14 @@
 #define LUMI_STATS_LOAD_PIX_INL_H_
 #endif
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
+#include "core/simd.h"
+
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
 
 // v[c] receives channel c of the Lanes(d) pixels starting at p (kCh interleaved channels).
 template <int kCh, class D, class V>
-HWY_INLINE void LoadPix(D d, const hwy::HWY_NAMESPACE::TFromD<D>* HWY_RESTRICT p, V* v) {
-  namespace hn = hwy::HWY_NAMESPACE;
+HWY_INLINE void LoadPix(D d, const hn::TFromD<D>* HWY_RESTRICT p, V* v) {
   if constexpr (kCh == 1) {
     v[0] = hn::LoadU(d, p);
   } else if constexpr (kCh == 3) {
@@ -24,8 +25,7 @@ HWY_INLINE void LoadPix(D d, const hwy::HWY_NAMESPACE::TFromD<D>* HWY_RESTRICT p
   }
 }
 
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+#endif
+LUMI_SIMD_END
 
 #endif

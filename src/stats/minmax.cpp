@@ -4,19 +4,16 @@
 #define HWY_TARGET_INCLUDE "src/stats/minmax.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
+#include "core/simd.h"
 #include "stats/load_pix-inl.h"
-#include "core/frame.h"
 #include "stats/stats_kernels.h"
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
-#if HWY_TARGET != HWY_SCALAR  // only the x86 vector targets enter the dispatch tables
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
 
 // Running minimum and maximum per channel over one row (mn, mx hold the values so far).
 template <class T, int kCh>
-void MinMaxRow(const T* HWY_RESTRICT p, int width, T* mn, T* mx) {
+void minMaxRow(const T* HWY_RESTRICT p, int width, T* mn, T* mx) {
   const hn::ScalableTag<T> d;
   const int N = static_cast<int>(hn::Lanes(d));
   using V = hn::Vec<decltype(d)>;
@@ -28,15 +25,15 @@ void MinMaxRow(const T* HWY_RESTRICT p, int width, T* mn, T* mx) {
   int x = 0;
   for (; x + 2 * N <= width; x += 2 * N) {  // two vectors per step halve the dependency chain
     V w[4];
-    LoadPix<kCh>(d, p + x * kCh, v);
-    LoadPix<kCh>(d, p + (x + N) * kCh, w);
+    LoadPix<kCh>(d, p + elemsOf(x, kCh), v);
+    LoadPix<kCh>(d, p + elemsOf(x + N, kCh), w);
     for (int c = 0; c < kCh; ++c) {
       vmin[c] = hn::Min(vmin[c], hn::Min(v[c], w[c]));
       vmax[c] = hn::Max(vmax[c], hn::Max(v[c], w[c]));
     }
   }
   for (; x + N <= width; x += N) {
-    LoadPix<kCh>(d, p + x * kCh, v);
+    LoadPix<kCh>(d, p + elemsOf(x, kCh), v);
     for (int c = 0; c < kCh; ++c) {
       vmin[c] = hn::Min(vmin[c], v[c]);
       vmax[c] = hn::Max(vmax[c], v[c]);
@@ -49,14 +46,14 @@ void MinMaxRow(const T* HWY_RESTRICT p, int width, T* mn, T* mx) {
     hn::Store(vmax[c], d, buf);
     for (int i = 0; i < N; ++i) mx[c] = buf[i] > mx[c] ? buf[i] : mx[c];
   }
-  stats::minMaxScalar<T, kCh>(p, x, width, mn, mx);
+  stats::minMaxFrom<T, kCh>(p, x, width, mn, mx);
 }
 
-template <class T, int kCh>
-void CountRow(const T* HWY_RESTRICT p, int width, const T* lo, const T* hi, int64_t* n) {
+template <class T, class L>
+void countRow(const T* HWY_RESTRICT p, int width, const T* lo, const T* hi, int64_t* n) {
   const hn::ScalableTag<T> d;
   const int N = static_cast<int>(hn::Lanes(d));
-  constexpr int kUse = kCh == 4 ? 3 : kCh;
+  constexpr int kCh = L::kCh, kUse = L::kUse;
   using V = hn::Vec<decltype(d)>;
   V v[4], vlo[4], vhi[4];
   for (int c = 0; c < kUse; ++c) {
@@ -71,7 +68,7 @@ void CountRow(const T* HWY_RESTRICT p, int width, const T* lo, const T* hi, int6
     for (int c = 0; c < kUse; ++c) s[c] = hn::Zero(d64);
     const V one = hn::Set(d, T{1});
     for (; x + N <= width; x += N) {
-      LoadPix<kCh>(d, p + x * kCh, v);
+      LoadPix<kCh>(d, p + elemsOf(x, kCh), v);
       for (int c = 0; c < kUse; ++c) {
         auto in = hn::And(hn::Eq(hn::Max(v[c], vlo[c]), v[c]), hn::Eq(hn::Min(v[c], vhi[c]), v[c]));
         s[c] = hn::Add(s[c], hn::SumsOf8(hn::IfThenElseZero(in, one)));
@@ -80,90 +77,62 @@ void CountRow(const T* HWY_RESTRICT p, int width, const T* lo, const T* hi, int6
     for (int c = 0; c < kUse; ++c) n[c] += static_cast<int64_t>(hn::GetLane(hn::SumOfLanes(d64, s[c])));
   } else {
     for (; x + N <= width; x += N) {
-      LoadPix<kCh>(d, p + x * kCh, v);
+      LoadPix<kCh>(d, p + elemsOf(x, kCh), v);
       for (int c = 0; c < kUse; ++c)
         n[c] += static_cast<int64_t>(hn::CountTrue(d, hn::AndNot(hn::Lt(v[c], vlo[c]), hn::Le(v[c], vhi[c]))));
     }
   }
-  stats::countScalar<T, kCh>(p, x, width, lo, hi, n);
+  stats::countFrom<T, L>(p, x, width, lo, hi, n);
 }
 
 #endif
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+LUMI_SIMD_END
 
 #if HWY_ONCE
-#include "core/simd.h"
-
+// The choosers and the whole-ROI loops, then the exports.
 namespace lumi {
 namespace stats {
 namespace {
 
 template <class T>
-using MinMaxFn = void (*)(const T*, int, T*, T*);
+using MinMaxRowFn = void (*)(const T*, int, T*, T*);
 template <class T>
-using CountFn = void (*)(const T*, int, const T*, const T*, int64_t*);
+using CountRowFn = void (*)(const T*, int, const T*, const T*, int64_t*);
 
 template <class T, int kCh>
-void minMaxScalarFull(const T* p, int width, T* mn, T* mx) {
-  minMaxScalar<T, kCh>(p, 0, width, mn, mx);
+void minMaxRowScalar(const T* p, int width, T* mn, T* mx) {
+  minMaxFrom<T, kCh>(p, 0, width, mn, mx);
 }
-template <class T, int kCh>
-void countScalarFull(const T* p, int width, const T* lo, const T* hi, int64_t* n) {
-  countScalar<T, kCh>(p, 0, width, lo, hi, n);
-}
-
-template <class T, int kCh>
-MinMaxFn<T> pickMinMax() {
-  LUMI_SIMD_TABLE(MinMaxFn<T>, table, MinMaxRow<T, kCh>);
-  if (auto f = pickSimd(table)) return f;
-  return &minMaxScalarFull<T, kCh>;
-}
-template <class T, int kCh>
-CountFn<T> pickCount() {
-  LUMI_SIMD_TABLE(CountFn<T>, table, CountRow<T, kCh>);
-  if (auto f = pickSimd(table)) return f;
-  return &countScalarFull<T, kCh>;
-}
-
 template <class T, class L>
-void minMaxAll(const T* src, int step, LumiSize roi, T* mn, T* mx) {
-  MinMaxFn<T> f = pickMinMax<T, L::kCh>();
+void countRowScalar(const T* p, int width, const T* lo, const T* hi, int64_t* n) {
+  countFrom<T, L>(p, 0, width, lo, hi, n);
+}
+
+template <class T, int kCh>
+MinMaxRowFn<T> pickMinMaxRow() {
+  LUMI_SIMD_TABLE(MinMaxRowFn<T>, table, minMaxRow<T, kCh>);
+  return pick(table, &minMaxRowScalar<T, kCh>);
+}
+template <class T, class L>
+CountRowFn<T> pickCountRow() {
+  LUMI_SIMD_TABLE(CountRowFn<T>, table, countRow<T, L>);
+  return pick(table, &countRowScalar<T, L>);
+}
+
+// Min, max or both per channel (kMin, kMax: which outputs the caller asked for).
+template <class T, class L, bool kMin, bool kMax>
+LumStatus extremaImpl(const T* src, int step, LumiSize roi, T* mnOut, T* mxOut) {
+  if (src == nullptr || (kMin && mnOut == nullptr) || (kMax && mxOut == nullptr))
+    return lumStatusNullPtrErr;
+  if (badSize(roi)) return lumStatusSizeErr;
+  if (badStep(step)) return lumStatusStepErr;
+  const MinMaxRowFn<T> f = pickMinMaxRow<T, L::kCh>();
+  T mn[4], mx[4];
   for (int c = 0; c < L::kCh; ++c) mn[c] = mx[c] = src[c];
   for (int y = 0; y < roi.height; ++y) f(rowAt(src, step, y), roi.width, mn, mx);
-}
-
-template <class T, class L>
-LumStatus minImpl(const T* src, int step, LumiSize roi, T* mnOut) {
-  if (anyNull(src, mnOut)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  if (badStep(step)) return lumStatusStepErr;
-  T mn[4], mx[4];
-  minMaxAll<T, L>(src, step, roi, mn, mx);
-  for (int c = 0; c < L::kUse; ++c) mnOut[c] = mn[c];
-  return lumStatusOk;
-}
-template <class T, class L>
-LumStatus maxImpl(const T* src, int step, LumiSize roi, T* mxOut) {
-  if (anyNull(src, mxOut)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  if (badStep(step)) return lumStatusStepErr;
-  T mn[4], mx[4];
-  minMaxAll<T, L>(src, step, roi, mn, mx);
-  for (int c = 0; c < L::kUse; ++c) mxOut[c] = mx[c];
-  return lumStatusOk;
-}
-template <class T, class L>
-LumStatus minMaxImpl(const T* src, int step, LumiSize roi, T* mnOut, T* mxOut) {
-  if (anyNull(src, mnOut, mxOut)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  if (badStep(step)) return lumStatusStepErr;
-  T mn[4], mx[4];
-  minMaxAll<T, L>(src, step, roi, mn, mx);
   for (int c = 0; c < L::kUse; ++c) {
-    mnOut[c] = mn[c];
-    mxOut[c] = mx[c];
+    if (kMin) mnOut[c] = mn[c];
+    if (kMax) mxOut[c] = mx[c];
   }
   return lumStatusOk;
 }
@@ -177,7 +146,7 @@ LumStatus indexImpl(const T* src, int step, LumiSize roi, T* value, int* px, int
   if (badSize(roi)) return lumStatusSizeErr;
   if (badStep(step)) return lumStatusStepErr;
   constexpr int kCh = L::kCh, kUse = L::kUse;
-  MinMaxFn<T> f = pickMinMax<T, kCh>();
+  const MinMaxRowFn<T> f = pickMinMaxRow<T, kCh>();
   T best[4];
   int bx[4] = {0, 0, 0, 0}, by[4] = {0, 0, 0, 0};
   for (int c = 0; c < kCh; ++c) best[c] = src[c];
@@ -195,7 +164,7 @@ LumStatus indexImpl(const T* src, int step, LumiSize roi, T* value, int* px, int
       T v = kMax ? mx[c] : mn[c];
       if (kMax ? v > best[c] : v < best[c]) {
         for (int x = 0; x < roi.width; ++x)
-          if (r[x * kCh + c] == v) {
+          if (r[elemsOf(x, kCh) + c] == v) {
             best[c] = v;
             bx[c] = x;
             by[c] = y;
@@ -219,7 +188,7 @@ LumStatus countImpl(const T* src, int step, LumiSize roi, int* counts, const T* 
   if (badSize(roi)) return lumStatusSizeErr;
   for (int c = 0; c < L::kUse; ++c)
     if (lo[c] > hi[c]) return lumStatusInvertedRangeErr;
-  CountFn<T> f = pickCount<T, L::kCh>();
+  const CountRowFn<T> f = pickCountRow<T, L>();
   int64_t n[4] = {0, 0, 0, 0};
   for (int y = 0; y < roi.height; ++y) f(rowAt(src, step, y), roi.width, lo, hi, n);
   for (int c = 0; c < L::kUse; ++c) counts[c] = static_cast<int>(n[c]);
@@ -230,57 +199,104 @@ LumStatus countImpl(const T* src, int step, LumiSize roi, int* counts, const T* 
 }  // namespace stats
 }  // namespace lumi
 
-using lumi::AC4;
-using lumi::C1;
-using lumi::C3;
-using lumi::C4;
+// One stamp per export, each from the family's single definition.
+#define LUMI_MIN(NAME, T, L)                                                         \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roiSize, T* pMin) {   \
+    return extremaImpl<T, L, true, false>(pSrc, srcStep, roiSize, pMin, nullptr);    \
+  }
+#define LUMI_MAX(NAME, T, L)                                                         \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roiSize, T* pMax) {   \
+    return extremaImpl<T, L, false, true>(pSrc, srcStep, roiSize, nullptr, pMax);    \
+  }
+#define LUMI_MINMAX(NAME, T, L)                                                              \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roiSize, T* pMin, T* pMax) {  \
+    return extremaImpl<T, L, true, true>(pSrc, srcStep, roiSize, pMin, pMax);                \
+  }
+#define LUMI_INDX(NAME, T, L, MAX)                                                       \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roiSize, T* pValue,       \
+                          int* pIndexX, int* pIndexY) {                                  \
+    return indexImpl<T, L, MAX>(pSrc, srcStep, roiSize, pValue, pIndexX, pIndexY);       \
+  }
+#define LUMI_COUNT_C1(NAME, T)                                                              \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roiSize, int* pCounts,       \
+                          T lowerBound, T upperBound) {                                     \
+    return countImpl<T, C1>(pSrc, srcStep, roiSize, pCounts, &lowerBound, &upperBound);     \
+  }
+#define LUMI_COUNT(NAME, T, L)                                                              \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roiSize, int pCounts[3],     \
+                          const T lowerBound[3], const T upperBound[3]) {                   \
+    return countImpl<T, L>(pSrc, srcStep, roiSize, pCounts, lowerBound, upperBound);        \
+  }
+
+using namespace lumi;
 using namespace lumi::stats;
 
-#define LUMI_MINMAX(T, TS, L)                                                                   \
-  LUMI_API LumStatus lumiMin_##TS##_##L##R(const T* pSrc, int srcStep, LumiSize roiSize,       \
-                                           T* pMin) {                                          \
-    return minImpl<T, L>(pSrc, srcStep, roiSize, pMin);                                         \
-  }                                                                                             \
-  LUMI_API LumStatus lumiMax_##TS##_##L##R(const T* pSrc, int srcStep, LumiSize roiSize,       \
-                                           T* pMax) {                                          \
-    return maxImpl<T, L>(pSrc, srcStep, roiSize, pMax);                                         \
-  }                                                                                             \
-  LUMI_API LumStatus lumiMinMax_##TS##_##L##R(const T* pSrc, int srcStep, LumiSize roiSize,    \
-                                              T* pMin, T* pMax) {                              \
-    return minMaxImpl<T, L>(pSrc, srcStep, roiSize, pMin, pMax);                                \
-  }                                                                                             \
-  LUMI_API LumStatus lumiMinIndx_##TS##_##L##R(const T* pSrc, int srcStep, LumiSize roiSize,   \
-                                               T* pMin, int* pIndexX, int* pIndexY) {          \
-    return indexImpl<T, L, false>(pSrc, srcStep, roiSize, pMin, pIndexX, pIndexY);              \
-  }                                                                                             \
-  LUMI_API LumStatus lumiMaxIndx_##TS##_##L##R(const T* pSrc, int srcStep, LumiSize roiSize,   \
-                                               T* pMax, int* pIndexX, int* pIndexY) {          \
-    return indexImpl<T, L, true>(pSrc, srcStep, roiSize, pMax, pIndexX, pIndexY);               \
-  }
-#define LUMI_MINMAX_TYPE(T, TS) \
-  LUMI_MINMAX(T, TS, C1) LUMI_MINMAX(T, TS, C3) LUMI_MINMAX(T, TS, C4) LUMI_MINMAX(T, TS, AC4)
-
-#define LUMI_COUNT(T, TS)                                                                       \
-  LUMI_API LumStatus lumiCountInRange_##TS##_C1R(const T* pSrc, int srcStep, LumiSize roiSize,  \
-                                                 int* pCounts, T lowerBound, T upperBound) {   \
-    return countImpl<T, C1>(pSrc, srcStep, roiSize, pCounts, &lowerBound, &upperBound);         \
-  }                                                                                             \
-  LUMI_API LumStatus lumiCountInRange_##TS##_C3R(const T* pSrc, int srcStep, LumiSize roiSize,  \
-                                                 int pCounts[3], const T lowerBound[3],        \
-                                                 const T upperBound[3]) {                      \
-    return countImpl<T, C3>(pSrc, srcStep, roiSize, pCounts, lowerBound, upperBound);           \
-  }                                                                                             \
-  LUMI_API LumStatus lumiCountInRange_##TS##_AC4R(const T* pSrc, int srcStep, LumiSize roiSize, \
-                                                  int pCounts[3], const T lowerBound[3],       \
-                                                  const T upperBound[3]) {                     \
-    return countImpl<T, AC4>(pSrc, srcStep, roiSize, pCounts, lowerBound, upperBound);          \
-  }
-
 extern "C" {
-LUMI_MINMAX_TYPE(Lum8u, 8u)
-LUMI_MINMAX_TYPE(Lum16s, 16s)
-LUMI_MINMAX_TYPE(Lum32f, 32f)
-LUMI_COUNT(Lum8u, 8u)
-LUMI_COUNT(Lum32f, 32f)
+LUMI_MIN(lumiMin_8u_C1R, Lum8u, C1)
+LUMI_MIN(lumiMin_8u_C3R, Lum8u, C3)
+LUMI_MIN(lumiMin_8u_C4R, Lum8u, C4)
+LUMI_MIN(lumiMin_8u_AC4R, Lum8u, AC4)
+LUMI_MIN(lumiMin_16s_C1R, Lum16s, C1)
+LUMI_MIN(lumiMin_16s_C3R, Lum16s, C3)
+LUMI_MIN(lumiMin_16s_C4R, Lum16s, C4)
+LUMI_MIN(lumiMin_16s_AC4R, Lum16s, AC4)
+LUMI_MIN(lumiMin_32f_C1R, Lum32f, C1)
+LUMI_MIN(lumiMin_32f_C3R, Lum32f, C3)
+LUMI_MIN(lumiMin_32f_C4R, Lum32f, C4)
+LUMI_MIN(lumiMin_32f_AC4R, Lum32f, AC4)
+LUMI_MAX(lumiMax_8u_C1R, Lum8u, C1)
+LUMI_MAX(lumiMax_8u_C3R, Lum8u, C3)
+LUMI_MAX(lumiMax_8u_C4R, Lum8u, C4)
+LUMI_MAX(lumiMax_8u_AC4R, Lum8u, AC4)
+LUMI_MAX(lumiMax_16s_C1R, Lum16s, C1)
+LUMI_MAX(lumiMax_16s_C3R, Lum16s, C3)
+LUMI_MAX(lumiMax_16s_C4R, Lum16s, C4)
+LUMI_MAX(lumiMax_16s_AC4R, Lum16s, AC4)
+LUMI_MAX(lumiMax_32f_C1R, Lum32f, C1)
+LUMI_MAX(lumiMax_32f_C3R, Lum32f, C3)
+LUMI_MAX(lumiMax_32f_C4R, Lum32f, C4)
+LUMI_MAX(lumiMax_32f_AC4R, Lum32f, AC4)
+LUMI_MINMAX(lumiMinMax_8u_C1R, Lum8u, C1)
+LUMI_MINMAX(lumiMinMax_8u_C3R, Lum8u, C3)
+LUMI_MINMAX(lumiMinMax_8u_C4R, Lum8u, C4)
+LUMI_MINMAX(lumiMinMax_8u_AC4R, Lum8u, AC4)
+LUMI_MINMAX(lumiMinMax_16s_C1R, Lum16s, C1)
+LUMI_MINMAX(lumiMinMax_16s_C3R, Lum16s, C3)
+LUMI_MINMAX(lumiMinMax_16s_C4R, Lum16s, C4)
+LUMI_MINMAX(lumiMinMax_16s_AC4R, Lum16s, AC4)
+LUMI_MINMAX(lumiMinMax_32f_C1R, Lum32f, C1)
+LUMI_MINMAX(lumiMinMax_32f_C3R, Lum32f, C3)
+LUMI_MINMAX(lumiMinMax_32f_C4R, Lum32f, C4)
+LUMI_MINMAX(lumiMinMax_32f_AC4R, Lum32f, AC4)
+LUMI_INDX(lumiMinIndx_8u_C1R, Lum8u, C1, false)
+LUMI_INDX(lumiMinIndx_8u_C3R, Lum8u, C3, false)
+LUMI_INDX(lumiMinIndx_8u_C4R, Lum8u, C4, false)
+LUMI_INDX(lumiMinIndx_8u_AC4R, Lum8u, AC4, false)
+LUMI_INDX(lumiMinIndx_16s_C1R, Lum16s, C1, false)
+LUMI_INDX(lumiMinIndx_16s_C3R, Lum16s, C3, false)
+LUMI_INDX(lumiMinIndx_16s_C4R, Lum16s, C4, false)
+LUMI_INDX(lumiMinIndx_16s_AC4R, Lum16s, AC4, false)
+LUMI_INDX(lumiMinIndx_32f_C1R, Lum32f, C1, false)
+LUMI_INDX(lumiMinIndx_32f_C3R, Lum32f, C3, false)
+LUMI_INDX(lumiMinIndx_32f_C4R, Lum32f, C4, false)
+LUMI_INDX(lumiMinIndx_32f_AC4R, Lum32f, AC4, false)
+LUMI_INDX(lumiMaxIndx_8u_C1R, Lum8u, C1, true)
+LUMI_INDX(lumiMaxIndx_8u_C3R, Lum8u, C3, true)
+LUMI_INDX(lumiMaxIndx_8u_C4R, Lum8u, C4, true)
+LUMI_INDX(lumiMaxIndx_8u_AC4R, Lum8u, AC4, true)
+LUMI_INDX(lumiMaxIndx_16s_C1R, Lum16s, C1, true)
+LUMI_INDX(lumiMaxIndx_16s_C3R, Lum16s, C3, true)
+LUMI_INDX(lumiMaxIndx_16s_C4R, Lum16s, C4, true)
+LUMI_INDX(lumiMaxIndx_16s_AC4R, Lum16s, AC4, true)
+LUMI_INDX(lumiMaxIndx_32f_C1R, Lum32f, C1, true)
+LUMI_INDX(lumiMaxIndx_32f_C3R, Lum32f, C3, true)
+LUMI_INDX(lumiMaxIndx_32f_C4R, Lum32f, C4, true)
+LUMI_INDX(lumiMaxIndx_32f_AC4R, Lum32f, AC4, true)
+LUMI_COUNT_C1(lumiCountInRange_8u_C1R, Lum8u)
+LUMI_COUNT(lumiCountInRange_8u_C3R, Lum8u, C3)
+LUMI_COUNT(lumiCountInRange_8u_AC4R, Lum8u, AC4)
+LUMI_COUNT_C1(lumiCountInRange_32f_C1R, Lum32f)
+LUMI_COUNT(lumiCountInRange_32f_C3R, Lum32f, C3)
+LUMI_COUNT(lumiCountInRange_32f_AC4R, Lum32f, AC4)
 }
 #endif

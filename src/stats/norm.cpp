@@ -9,42 +9,6 @@ namespace lumi {
 namespace stats {
 namespace {
 
-// Double-precision path of 32f: per row, one sum over even and one over odd columns (per
-// channel); the row sums go into an even and an odd total, which are added at the end.
-template <int kOp, bool kDiff, int kCh>
-void f32Accurate(const float* a, int aStep, const float* b, int bStep, LumiSize roi, double* out) {
-  double even[4] = {0, 0, 0, 0}, odd[4] = {0, 0, 0, 0};
-  for (int y = 0; y < roi.height; ++y) {
-    const float* ra = rowAt(a, aStep, y);
-    const float* rb = kDiff ? rowAt(b, bStep, y) : nullptr;
-    double e[4] = {0, 0, 0, 0}, o[4] = {0, 0, 0, 0};
-    for (int x = 0; x < roi.width; ++x)
-      for (int c = 0; c < kCh; ++c) {
-        int i = x * kCh + c;
-        double v = kDiff ? static_cast<double>(ra[i]) - static_cast<double>(rb[i])
-                         : static_cast<double>(ra[i]);
-        double t = kOp == kOpSq ? v * v : std::fabs(v);
-        if (x & 1)
-          o[c] += t;
-        else
-          e[c] += t;
-      }
-    for (int c = 0; c < kCh; ++c) {
-      even[c] += e[c];
-      odd[c] += o[c];
-    }
-  }
-  for (int c = 0; c < kCh; ++c) out[c] = even[c] + odd[c];
-}
-
-template <int kOp, bool kDiff>
-void f32AccurateCh(int ch, const float* a, int aStep, const float* b, int bStep, LumiSize roi,
-                   double* out) {
-  if (ch == 1) f32Accurate<kOp, kDiff, 1>(a, aStep, b, bStep, roi, out);
-  else if (ch == 3) f32Accurate<kOp, kDiff, 3>(a, aStep, b, bStep, roi, out);
-  else f32Accurate<kOp, kDiff, 4>(a, aStep, b, bStep, roi, out);
-}
-
 // The quantity before the root: largest magnitude, sum of magnitudes or sum of squares, per
 // channel of the kCh interleaved ones; b null for a single image.
 template <class T>
@@ -56,12 +20,13 @@ void rawNorm(const T* a, int aStep, const T* b, int bStep, LumiSize roi, int op,
       maxAbsF32(a, aStep, b, bStep, roi, ch, m);
       for (int c = 0; c < ch; ++c) raw[c] = m[c];
     } else if (hint == lumHintAccurate) {
+      // double precision, every row summed on its own before it joins the totals
       if (op == kOpAbs)
-        b ? f32AccurateCh<kOpAbs, true>(ch, a, aStep, b, bStep, roi, raw)
-          : f32AccurateCh<kOpAbs, false>(ch, a, aStep, b, bStep, roi, raw);
+        b ? f64EvenOdd<kOpAbs, true, true>(ch, a, aStep, b, bStep, roi, raw)
+          : f64EvenOdd<kOpAbs, false, true>(ch, a, aStep, b, bStep, roi, raw);
       else
-        b ? f32AccurateCh<kOpSq, true>(ch, a, aStep, b, bStep, roi, raw)
-          : f32AccurateCh<kOpSq, false>(ch, a, aStep, b, bStep, roi, raw);
+        b ? f64EvenOdd<kOpSq, true, true>(ch, a, aStep, b, bStep, roi, raw)
+          : f64EvenOdd<kOpSq, false, true>(ch, a, aStep, b, bStep, roi, raw);
     } else {
       float lanes[16] = {};
       reduceF32Lanes(a, aStep, b, bStep, roi, op, ch, lanes);
@@ -76,11 +41,29 @@ void rawNorm(const T* a, int aStep, const T* b, int bStep, LumiSize roi, int op,
 
 inline double finish(int op, double raw) { return op == kOpSq ? std::sqrt(raw) : raw; }
 
+// The argument checks of every norm: pointers, then the ROI, then the steps; b and bStep
+// count only for the two-image forms.
+template <class T>
+LumStatus checkNorm(const T* a, int aStep, const T* b, int bStep, bool twoImages, LumiSize roi,
+                    const Lum64f* value) {
+  if (anyNull(a, value) || (twoImages && b == nullptr)) return lumStatusNullPtrErr;
+  if (badSize(roi)) return lumStatusSizeErr;
+  if (badStep(aStep) || (twoImages && badStep(bStep))) return lumStatusStepErr;
+  return lumStatusOk;
+}
+
+// The finished norm of every channel the layout owns (b null for a single image).
+template <class T, class L>
+void normOf(const T* a, int aStep, const T* b, int bStep, LumiSize roi, int op, int hint,
+            Lum64f* value) {
+  double raw[4];
+  rawNorm<T>(a, aStep, b, bStep, roi, op, L::kCh, hint, raw);
+  for (int c = 0; c < L::kUse; ++c) value[c] = finish(op, raw[c]);
+}
+
 template <class T, class L>
 LumStatus normImpl(const T* src, int step, LumiSize roi, Lum64f* value, int op, int hint) {
-  if (anyNull(src, value)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  if (badStep(step)) return lumStatusStepErr;
+  if (LumStatus st = checkNorm(src, step, src, step, false, roi, value)) return st;
   if constexpr (std::is_same_v<T, Lum8u> && L::kCh == 1) {
     // A row wider than 32768 pixels goes in strips of 32768 columns; the strips' norms are
     // combined as the root of the sum of their squares.
@@ -98,30 +81,22 @@ LumStatus normImpl(const T* src, int step, LumiSize roi, Lum64f* value, int op, 
       return lumStatusOk;
     }
   }
-  double raw[4];
-  rawNorm<T>(src, step, nullptr, 0, roi, op, L::kCh, hint, raw);
-  for (int c = 0; c < L::kUse; ++c) value[c] = finish(op, raw[c]);
+  normOf<T, L>(src, step, nullptr, 0, roi, op, hint, value);
   return lumStatusOk;
 }
 
 template <class T, class L>
 LumStatus normDiffImpl(const T* a, int aStep, const T* b, int bStep, LumiSize roi, Lum64f* value,
                        int op, int hint) {
-  if (anyNull(a, b, value)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  if (badStep(aStep, bStep)) return lumStatusStepErr;
-  double raw[4];
-  rawNorm<T>(a, aStep, b, bStep, roi, op, L::kCh, hint, raw);
-  for (int c = 0; c < L::kUse; ++c) value[c] = finish(op, raw[c]);
+  if (LumStatus st = checkNorm(a, aStep, b, bStep, true, roi, value)) return st;
+  normOf<T, L>(a, aStep, b, bStep, roi, op, hint, value);
   return lumStatusOk;
 }
 
 template <class T, class L>
 LumStatus normRelImpl(const T* a, int aStep, const T* b, int bStep, LumiSize roi, Lum64f* value,
                       int op, int hint) {
-  if (anyNull(a, b, value)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  if (badStep(aStep, bStep)) return lumStatusStepErr;
+  if (LumStatus st = checkNorm(a, aStep, b, bStep, true, roi, value)) return st;
   if constexpr (L::kCh == 1) {
     // numerator and denominator before the root; L2 divides the sums of squares
     double num, den;
@@ -150,67 +125,185 @@ LumStatus normRelImpl(const T* a, int aStep, const T* b, int bStep, LumiSize roi
 }  // namespace stats
 }  // namespace lumi
 
-using lumi::AC4;
-using lumi::C1;
-using lumi::C3;
-using lumi::C4;
+// One stamp per export. The 32f L1 and L2 forms take an accuracy hint; the others pass 0.
+#define LUMI_NORM(NAME, T, L, OP)                                                        \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roiSize, Lum64f* pValue) { \
+    return normImpl<T, L>(pSrc, srcStep, roiSize, pValue, OP, 0);                        \
+  }
+// IMPL: normDiffImpl or normRelImpl.
+#define LUMI_NORM_TWO(NAME, IMPL, T, L, OP)                                           \
+  LUMI_API LumStatus NAME(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, \
+                          LumiSize roiSize, Lum64f* pValue) {                         \
+    return IMPL<T, L>(pSrc1, src1Step, pSrc2, src2Step, roiSize, pValue, OP, 0);      \
+  }
+#define LUMI_NORM_HINT(NAME, L, OP)                                                          \
+  LUMI_API LumStatus NAME(const Lum32f* pSrc, int srcStep, LumiSize roiSize, Lum64f* pValue, \
+                          LumAccuracyHint hint) {                                            \
+    return normImpl<Lum32f, L>(pSrc, srcStep, roiSize, pValue, OP, hint);                    \
+  }
+#define LUMI_NORM_TWO_HINT(NAME, IMPL, L, OP)                                            \
+  LUMI_API LumStatus NAME(const Lum32f* pSrc1, int src1Step, const Lum32f* pSrc2,        \
+                          int src2Step, LumiSize roiSize, Lum64f* pValue,                \
+                          LumAccuracyHint hint) {                                        \
+    return IMPL<Lum32f, L>(pSrc1, src1Step, pSrc2, src2Step, roiSize, pValue, OP, hint); \
+  }
+
+using namespace lumi;
 using namespace lumi::stats;
 
-#define LUMI_NORM_INT(T, TS, L, N, OP)                                                          \
-  LUMI_API LumStatus lumiNorm_##N##_##TS##_##L##R(const T* pSrc, int srcStep, LumiSize roiSize, \
-                                                  Lum64f* pValue) {                            \
-    return normImpl<T, L>(pSrc, srcStep, roiSize, pValue, OP, 0);                               \
-  }                                                                                             \
-  LUMI_API LumStatus lumiNormDiff_##N##_##TS##_##L##R(const T* pSrc1, int src1Step,             \
-                                                      const T* pSrc2, int src2Step,             \
-                                                      LumiSize roiSize, Lum64f* pValue) {       \
-    return normDiffImpl<T, L>(pSrc1, src1Step, pSrc2, src2Step, roiSize, pValue, OP, 0);        \
-  }                                                                                             \
-  LUMI_API LumStatus lumiNormRel_##N##_##TS##_##L##R(const T* pSrc1, int src1Step,              \
-                                                     const T* pSrc2, int src2Step,              \
-                                                     LumiSize roiSize, Lum64f* pValue) {        \
-    return normRelImpl<T, L>(pSrc1, src1Step, pSrc2, src2Step, roiSize, pValue, OP, 0);         \
-  }
-
-#define LUMI_NORM_HINT(T, TS, L, N, OP)                                                         \
-  LUMI_API LumStatus lumiNorm_##N##_##TS##_##L##R(const T* pSrc, int srcStep, LumiSize roiSize, \
-                                                  Lum64f* pValue, LumAccuracyHint hint) {      \
-    return normImpl<T, L>(pSrc, srcStep, roiSize, pValue, OP, hint);                            \
-  }                                                                                             \
-  LUMI_API LumStatus lumiNormDiff_##N##_##TS##_##L##R(                                          \
-      const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, LumiSize roiSize,            \
-      Lum64f* pValue, LumAccuracyHint hint) {                                                   \
-    return normDiffImpl<T, L>(pSrc1, src1Step, pSrc2, src2Step, roiSize, pValue, OP, hint);     \
-  }                                                                                             \
-  LUMI_API LumStatus lumiNormRel_##N##_##TS##_##L##R(                                           \
-      const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, LumiSize roiSize,            \
-      Lum64f* pValue, LumAccuracyHint hint) {                                                   \
-    return normRelImpl<T, L>(pSrc1, src1Step, pSrc2, src2Step, roiSize, pValue, OP, hint);      \
-  }
-
-#define LUMI_NORM_LAYOUTS(M, T, TS, N, OP) \
-  M(T, TS, C1, N, OP) M(T, TS, C3, N, OP) M(T, TS, C4, N, OP) M(T, TS, AC4, N, OP)
-#define LUMI_NORM_INT_TYPE(T, TS)                     \
-  LUMI_NORM_LAYOUTS(LUMI_NORM_INT, T, TS, Inf, kOpMax) \
-  LUMI_NORM_LAYOUTS(LUMI_NORM_INT, T, TS, L1, kOpAbs)  \
-  LUMI_NORM_LAYOUTS(LUMI_NORM_INT, T, TS, L2, kOpSq)
-
 extern "C" {
-LUMI_NORM_INT_TYPE(Lum8u, 8u)
-LUMI_NORM_INT_TYPE(Lum16s, 16s)
-LUMI_NORM_INT_TYPE(Lum16u, 16u)
-LUMI_NORM_LAYOUTS(LUMI_NORM_INT, Lum32f, 32f, Inf, kOpMax)
-LUMI_NORM_LAYOUTS(LUMI_NORM_HINT, Lum32f, 32f, L1, kOpAbs)
-LUMI_NORM_LAYOUTS(LUMI_NORM_HINT, Lum32f, 32f, L2, kOpSq)
+LUMI_NORM(lumiNorm_Inf_8u_C1R, Lum8u, C1, kOpMax)
+LUMI_NORM(lumiNorm_Inf_8u_C3R, Lum8u, C3, kOpMax)
+LUMI_NORM(lumiNorm_Inf_8u_C4R, Lum8u, C4, kOpMax)
+LUMI_NORM(lumiNorm_Inf_8u_AC4R, Lum8u, AC4, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_8u_C1R, normDiffImpl, Lum8u, C1, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_8u_C3R, normDiffImpl, Lum8u, C3, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_8u_C4R, normDiffImpl, Lum8u, C4, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_8u_AC4R, normDiffImpl, Lum8u, AC4, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_8u_C1R, normRelImpl, Lum8u, C1, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_8u_C3R, normRelImpl, Lum8u, C3, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_8u_C4R, normRelImpl, Lum8u, C4, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_8u_AC4R, normRelImpl, Lum8u, AC4, kOpMax)
+LUMI_NORM(lumiNorm_L1_8u_C1R, Lum8u, C1, kOpAbs)
+LUMI_NORM(lumiNorm_L1_8u_C3R, Lum8u, C3, kOpAbs)
+LUMI_NORM(lumiNorm_L1_8u_C4R, Lum8u, C4, kOpAbs)
+LUMI_NORM(lumiNorm_L1_8u_AC4R, Lum8u, AC4, kOpAbs)
+LUMI_NORM_TWO(lumiNormDiff_L1_8u_C1R, normDiffImpl, Lum8u, C1, kOpAbs)
+LUMI_NORM_TWO(lumiNormDiff_L1_8u_C3R, normDiffImpl, Lum8u, C3, kOpAbs)
+LUMI_NORM_TWO(lumiNormDiff_L1_8u_C4R, normDiffImpl, Lum8u, C4, kOpAbs)
+LUMI_NORM_TWO(lumiNormDiff_L1_8u_AC4R, normDiffImpl, Lum8u, AC4, kOpAbs)
+LUMI_NORM_TWO(lumiNormRel_L1_8u_C1R, normRelImpl, Lum8u, C1, kOpAbs)
+LUMI_NORM_TWO(lumiNormRel_L1_8u_C3R, normRelImpl, Lum8u, C3, kOpAbs)
+LUMI_NORM_TWO(lumiNormRel_L1_8u_C4R, normRelImpl, Lum8u, C4, kOpAbs)
+LUMI_NORM_TWO(lumiNormRel_L1_8u_AC4R, normRelImpl, Lum8u, AC4, kOpAbs)
+LUMI_NORM(lumiNorm_L2_8u_C1R, Lum8u, C1, kOpSq)
+LUMI_NORM(lumiNorm_L2_8u_C3R, Lum8u, C3, kOpSq)
+LUMI_NORM(lumiNorm_L2_8u_C4R, Lum8u, C4, kOpSq)
+LUMI_NORM(lumiNorm_L2_8u_AC4R, Lum8u, AC4, kOpSq)
+LUMI_NORM_TWO(lumiNormDiff_L2_8u_C1R, normDiffImpl, Lum8u, C1, kOpSq)
+LUMI_NORM_TWO(lumiNormDiff_L2_8u_C3R, normDiffImpl, Lum8u, C3, kOpSq)
+LUMI_NORM_TWO(lumiNormDiff_L2_8u_C4R, normDiffImpl, Lum8u, C4, kOpSq)
+LUMI_NORM_TWO(lumiNormDiff_L2_8u_AC4R, normDiffImpl, Lum8u, AC4, kOpSq)
+LUMI_NORM_TWO(lumiNormRel_L2_8u_C1R, normRelImpl, Lum8u, C1, kOpSq)
+LUMI_NORM_TWO(lumiNormRel_L2_8u_C3R, normRelImpl, Lum8u, C3, kOpSq)
+LUMI_NORM_TWO(lumiNormRel_L2_8u_C4R, normRelImpl, Lum8u, C4, kOpSq)
+LUMI_NORM_TWO(lumiNormRel_L2_8u_AC4R, normRelImpl, Lum8u, AC4, kOpSq)
+LUMI_NORM(lumiNorm_Inf_16s_C1R, Lum16s, C1, kOpMax)
+LUMI_NORM(lumiNorm_Inf_16s_C3R, Lum16s, C3, kOpMax)
+LUMI_NORM(lumiNorm_Inf_16s_C4R, Lum16s, C4, kOpMax)
+LUMI_NORM(lumiNorm_Inf_16s_AC4R, Lum16s, AC4, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_16s_C1R, normDiffImpl, Lum16s, C1, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_16s_C3R, normDiffImpl, Lum16s, C3, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_16s_C4R, normDiffImpl, Lum16s, C4, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_16s_AC4R, normDiffImpl, Lum16s, AC4, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_16s_C1R, normRelImpl, Lum16s, C1, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_16s_C3R, normRelImpl, Lum16s, C3, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_16s_C4R, normRelImpl, Lum16s, C4, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_16s_AC4R, normRelImpl, Lum16s, AC4, kOpMax)
+LUMI_NORM(lumiNorm_L1_16s_C1R, Lum16s, C1, kOpAbs)
+LUMI_NORM(lumiNorm_L1_16s_C3R, Lum16s, C3, kOpAbs)
+LUMI_NORM(lumiNorm_L1_16s_C4R, Lum16s, C4, kOpAbs)
+LUMI_NORM(lumiNorm_L1_16s_AC4R, Lum16s, AC4, kOpAbs)
+LUMI_NORM_TWO(lumiNormDiff_L1_16s_C1R, normDiffImpl, Lum16s, C1, kOpAbs)
+LUMI_NORM_TWO(lumiNormDiff_L1_16s_C3R, normDiffImpl, Lum16s, C3, kOpAbs)
+LUMI_NORM_TWO(lumiNormDiff_L1_16s_C4R, normDiffImpl, Lum16s, C4, kOpAbs)
+LUMI_NORM_TWO(lumiNormDiff_L1_16s_AC4R, normDiffImpl, Lum16s, AC4, kOpAbs)
+LUMI_NORM_TWO(lumiNormRel_L1_16s_C1R, normRelImpl, Lum16s, C1, kOpAbs)
+LUMI_NORM_TWO(lumiNormRel_L1_16s_C3R, normRelImpl, Lum16s, C3, kOpAbs)
+LUMI_NORM_TWO(lumiNormRel_L1_16s_C4R, normRelImpl, Lum16s, C4, kOpAbs)
+LUMI_NORM_TWO(lumiNormRel_L1_16s_AC4R, normRelImpl, Lum16s, AC4, kOpAbs)
+LUMI_NORM(lumiNorm_L2_16s_C1R, Lum16s, C1, kOpSq)
+LUMI_NORM(lumiNorm_L2_16s_C3R, Lum16s, C3, kOpSq)
+LUMI_NORM(lumiNorm_L2_16s_C4R, Lum16s, C4, kOpSq)
+LUMI_NORM(lumiNorm_L2_16s_AC4R, Lum16s, AC4, kOpSq)
+LUMI_NORM_TWO(lumiNormDiff_L2_16s_C1R, normDiffImpl, Lum16s, C1, kOpSq)
+LUMI_NORM_TWO(lumiNormDiff_L2_16s_C3R, normDiffImpl, Lum16s, C3, kOpSq)
+LUMI_NORM_TWO(lumiNormDiff_L2_16s_C4R, normDiffImpl, Lum16s, C4, kOpSq)
+LUMI_NORM_TWO(lumiNormDiff_L2_16s_AC4R, normDiffImpl, Lum16s, AC4, kOpSq)
+LUMI_NORM_TWO(lumiNormRel_L2_16s_C1R, normRelImpl, Lum16s, C1, kOpSq)
+LUMI_NORM_TWO(lumiNormRel_L2_16s_C3R, normRelImpl, Lum16s, C3, kOpSq)
+LUMI_NORM_TWO(lumiNormRel_L2_16s_C4R, normRelImpl, Lum16s, C4, kOpSq)
+LUMI_NORM_TWO(lumiNormRel_L2_16s_AC4R, normRelImpl, Lum16s, AC4, kOpSq)
+LUMI_NORM(lumiNorm_Inf_16u_C1R, Lum16u, C1, kOpMax)
+LUMI_NORM(lumiNorm_Inf_16u_C3R, Lum16u, C3, kOpMax)
+LUMI_NORM(lumiNorm_Inf_16u_C4R, Lum16u, C4, kOpMax)
+LUMI_NORM(lumiNorm_Inf_16u_AC4R, Lum16u, AC4, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_16u_C1R, normDiffImpl, Lum16u, C1, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_16u_C3R, normDiffImpl, Lum16u, C3, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_16u_C4R, normDiffImpl, Lum16u, C4, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_16u_AC4R, normDiffImpl, Lum16u, AC4, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_16u_C1R, normRelImpl, Lum16u, C1, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_16u_C3R, normRelImpl, Lum16u, C3, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_16u_C4R, normRelImpl, Lum16u, C4, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_16u_AC4R, normRelImpl, Lum16u, AC4, kOpMax)
+LUMI_NORM(lumiNorm_L1_16u_C1R, Lum16u, C1, kOpAbs)
+LUMI_NORM(lumiNorm_L1_16u_C3R, Lum16u, C3, kOpAbs)
+LUMI_NORM(lumiNorm_L1_16u_C4R, Lum16u, C4, kOpAbs)
+LUMI_NORM(lumiNorm_L1_16u_AC4R, Lum16u, AC4, kOpAbs)
+LUMI_NORM_TWO(lumiNormDiff_L1_16u_C1R, normDiffImpl, Lum16u, C1, kOpAbs)
+LUMI_NORM_TWO(lumiNormDiff_L1_16u_C3R, normDiffImpl, Lum16u, C3, kOpAbs)
+LUMI_NORM_TWO(lumiNormDiff_L1_16u_C4R, normDiffImpl, Lum16u, C4, kOpAbs)
+LUMI_NORM_TWO(lumiNormDiff_L1_16u_AC4R, normDiffImpl, Lum16u, AC4, kOpAbs)
+LUMI_NORM_TWO(lumiNormRel_L1_16u_C1R, normRelImpl, Lum16u, C1, kOpAbs)
+LUMI_NORM_TWO(lumiNormRel_L1_16u_C3R, normRelImpl, Lum16u, C3, kOpAbs)
+LUMI_NORM_TWO(lumiNormRel_L1_16u_C4R, normRelImpl, Lum16u, C4, kOpAbs)
+LUMI_NORM_TWO(lumiNormRel_L1_16u_AC4R, normRelImpl, Lum16u, AC4, kOpAbs)
+LUMI_NORM(lumiNorm_L2_16u_C1R, Lum16u, C1, kOpSq)
+LUMI_NORM(lumiNorm_L2_16u_C3R, Lum16u, C3, kOpSq)
+LUMI_NORM(lumiNorm_L2_16u_C4R, Lum16u, C4, kOpSq)
+LUMI_NORM(lumiNorm_L2_16u_AC4R, Lum16u, AC4, kOpSq)
+LUMI_NORM_TWO(lumiNormDiff_L2_16u_C1R, normDiffImpl, Lum16u, C1, kOpSq)
+LUMI_NORM_TWO(lumiNormDiff_L2_16u_C3R, normDiffImpl, Lum16u, C3, kOpSq)
+LUMI_NORM_TWO(lumiNormDiff_L2_16u_C4R, normDiffImpl, Lum16u, C4, kOpSq)
+LUMI_NORM_TWO(lumiNormDiff_L2_16u_AC4R, normDiffImpl, Lum16u, AC4, kOpSq)
+LUMI_NORM_TWO(lumiNormRel_L2_16u_C1R, normRelImpl, Lum16u, C1, kOpSq)
+LUMI_NORM_TWO(lumiNormRel_L2_16u_C3R, normRelImpl, Lum16u, C3, kOpSq)
+LUMI_NORM_TWO(lumiNormRel_L2_16u_C4R, normRelImpl, Lum16u, C4, kOpSq)
+LUMI_NORM_TWO(lumiNormRel_L2_16u_AC4R, normRelImpl, Lum16u, AC4, kOpSq)
+LUMI_NORM(lumiNorm_Inf_32f_C1R, Lum32f, C1, kOpMax)
+LUMI_NORM(lumiNorm_Inf_32f_C3R, Lum32f, C3, kOpMax)
+LUMI_NORM(lumiNorm_Inf_32f_C4R, Lum32f, C4, kOpMax)
+LUMI_NORM(lumiNorm_Inf_32f_AC4R, Lum32f, AC4, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_32f_C1R, normDiffImpl, Lum32f, C1, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_32f_C3R, normDiffImpl, Lum32f, C3, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_32f_C4R, normDiffImpl, Lum32f, C4, kOpMax)
+LUMI_NORM_TWO(lumiNormDiff_Inf_32f_AC4R, normDiffImpl, Lum32f, AC4, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_32f_C1R, normRelImpl, Lum32f, C1, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_32f_C3R, normRelImpl, Lum32f, C3, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_32f_C4R, normRelImpl, Lum32f, C4, kOpMax)
+LUMI_NORM_TWO(lumiNormRel_Inf_32f_AC4R, normRelImpl, Lum32f, AC4, kOpMax)
+LUMI_NORM_HINT(lumiNorm_L1_32f_C1R, C1, kOpAbs)
+LUMI_NORM_HINT(lumiNorm_L1_32f_C3R, C3, kOpAbs)
+LUMI_NORM_HINT(lumiNorm_L1_32f_C4R, C4, kOpAbs)
+LUMI_NORM_HINT(lumiNorm_L1_32f_AC4R, AC4, kOpAbs)
+LUMI_NORM_TWO_HINT(lumiNormDiff_L1_32f_C1R, normDiffImpl, C1, kOpAbs)
+LUMI_NORM_TWO_HINT(lumiNormDiff_L1_32f_C3R, normDiffImpl, C3, kOpAbs)
+LUMI_NORM_TWO_HINT(lumiNormDiff_L1_32f_C4R, normDiffImpl, C4, kOpAbs)
+LUMI_NORM_TWO_HINT(lumiNormDiff_L1_32f_AC4R, normDiffImpl, AC4, kOpAbs)
+LUMI_NORM_TWO_HINT(lumiNormRel_L1_32f_C1R, normRelImpl, C1, kOpAbs)
+LUMI_NORM_TWO_HINT(lumiNormRel_L1_32f_C3R, normRelImpl, C3, kOpAbs)
+LUMI_NORM_TWO_HINT(lumiNormRel_L1_32f_C4R, normRelImpl, C4, kOpAbs)
+LUMI_NORM_TWO_HINT(lumiNormRel_L1_32f_AC4R, normRelImpl, AC4, kOpAbs)
+LUMI_NORM_HINT(lumiNorm_L2_32f_C1R, C1, kOpSq)
+LUMI_NORM_HINT(lumiNorm_L2_32f_C3R, C3, kOpSq)
+LUMI_NORM_HINT(lumiNorm_L2_32f_C4R, C4, kOpSq)
+LUMI_NORM_HINT(lumiNorm_L2_32f_AC4R, AC4, kOpSq)
+LUMI_NORM_TWO_HINT(lumiNormDiff_L2_32f_C1R, normDiffImpl, C1, kOpSq)
+LUMI_NORM_TWO_HINT(lumiNormDiff_L2_32f_C3R, normDiffImpl, C3, kOpSq)
+LUMI_NORM_TWO_HINT(lumiNormDiff_L2_32f_C4R, normDiffImpl, C4, kOpSq)
+LUMI_NORM_TWO_HINT(lumiNormDiff_L2_32f_AC4R, normDiffImpl, AC4, kOpSq)
+LUMI_NORM_TWO_HINT(lumiNormRel_L2_32f_C1R, normRelImpl, C1, kOpSq)
+LUMI_NORM_TWO_HINT(lumiNormRel_L2_32f_C3R, normRelImpl, C3, kOpSq)
+LUMI_NORM_TWO_HINT(lumiNormRel_L2_32f_C4R, normRelImpl, C4, kOpSq)
+LUMI_NORM_TWO_HINT(lumiNormRel_L2_32f_AC4R, normRelImpl, AC4, kOpSq)
 
+// The one 32-bit signed norm: |-2^31| = 2^31 still fits the unsigned maximum.
 LUMI_API LumStatus lumiNorm_Inf_32s_C1R(const Lum32s* pSrc, int srcStep, LumiSize roiSize,
                                         Lum64f* pValue) {
-  if (lumi::anyNull(pSrc, pValue)) return lumStatusNullPtrErr;
-  if (lumi::badSize(roiSize)) return lumStatusSizeErr;
-  if (lumi::badStep(srcStep)) return lumStatusStepErr;
-  uint32_t m = 0;  // |-2^31| = 2^31 still fits
+  if (LumStatus st = checkNorm(pSrc, srcStep, pSrc, srcStep, false, roiSize, pValue)) return st;
+  uint32_t m = 0;
   for (int y = 0; y < roiSize.height; ++y) {
-    const Lum32s* r = lumi::rowAt(pSrc, srcStep, y);
+    const Lum32s* r = rowAt(pSrc, srcStep, y);
     for (int x = 0; x < roiSize.width; ++x) {
       uint32_t v = r[x] < 0 ? 0u - static_cast<uint32_t>(r[x]) : static_cast<uint32_t>(r[x]);
       m = v > m ? v : m;

@@ -6,15 +6,12 @@
 #define HWY_TARGET_INCLUDE "src/stats/reduce.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
+#include "core/simd.h"
 #include "stats/load_pix-inl.h"
-#include "core/frame.h"
 #include "stats/stats_kernels.h"
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
-#if HWY_TARGET != HWY_SCALAR  // only the x86 vector targets enter the dispatch tables
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
 using namespace ::lumi::stats;
 
 // Per-channel vectors of kCh interleaved channels (pixels x .. x + Lanes - 1).
@@ -44,7 +41,7 @@ HWY_INLINE uint64_t SumU64(D d, V v) {
 // One row of an integer reduction. Vector part over whole vectors of pixels, then the scalar
 // kernel for the leftover pixels; both are exact, so the result equals the scalar one.
 template <class T, int kOp, bool kDiff, int kCh>
-void IntRow(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, int width, uint64_t* acc) {
+void intRow(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, int width, uint64_t* acc) {
   const hn::ScalableTag<T> d;
   using TU = std::make_unsigned_t<T>;
   const hn::Repartition<TU, decltype(d)> du;
@@ -60,8 +57,8 @@ void IntRow(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, int width, uint64_
     VU mx[4];
     for (int c = 0; c < kCh; ++c) mx[c] = hn::Zero(du);
     for (; x + N <= width; x += N) {
-      LoadPix<kCh>(d, a + x * kCh, va);
-      if (kDiff) LoadPix<kCh>(d, b + x * kCh, vb);
+      LoadPix<kCh>(d, a + elemsOf(x, kCh), va);
+      if (kDiff) LoadPix<kCh>(d, b + elemsOf(x, kCh), vb);
       for (int c = 0; c < kCh; ++c) mx[c] = hn::Max(mx[c], Magnitude<kOp, kDiff>(d, va[c], vb[c]));
     }
     HWY_ALIGN TU buf[hn::MaxLanes(du)];
@@ -75,15 +72,15 @@ void IntRow(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, int width, uint64_
     hn::Vec<decltype(d64)> s[4];
     for (int c = 0; c < kCh; ++c) s[c] = hn::Zero(d64);
     while (x + N <= width) {
-      const int blockEnd = x + 8192 * N < width ? x + 8192 * N : width;
+      const int blockEnd = width - x > 8192 * N ? x + 8192 * N : width;
       if constexpr (kOp == kOpSq) {
         const hn::Repartition<int16_t, decltype(d)> d16;
         const hn::Half<decltype(du)> dh;
         hn::Vec<decltype(di32)> q0[4], q1[4];
         for (int c = 0; c < kCh; ++c) q0[c] = q1[c] = hn::Zero(di32);
         for (; x + N <= blockEnd; x += N) {
-          LoadPix<kCh>(d, a + x * kCh, va);
-          if (kDiff) LoadPix<kCh>(d, b + x * kCh, vb);
+          LoadPix<kCh>(d, a + elemsOf(x, kCh), va);
+          if (kDiff) LoadPix<kCh>(d, b + elemsOf(x, kCh), vb);
           for (int c = 0; c < kCh; ++c) {
             auto m = Magnitude<kOp, kDiff>(d, va[c], vb[c]);
             auto lo = hn::BitCast(d16, hn::PromoteTo(hn::Repartition<uint16_t, decltype(d)>(), hn::LowerHalf(dh, m)));
@@ -102,8 +99,8 @@ void IntRow(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, int width, uint64_
         }
       } else {
         for (; x + N <= blockEnd; x += N) {
-          LoadPix<kCh>(d, a + x * kCh, va);
-          if (kDiff) LoadPix<kCh>(d, b + x * kCh, vb);
+          LoadPix<kCh>(d, a + elemsOf(x, kCh), va);
+          if (kDiff) LoadPix<kCh>(d, b + elemsOf(x, kCh), vb);
           for (int c = 0; c < kCh; ++c)
             s[c] = hn::Add(s[c], hn::SumsOf8(Magnitude<kOp, kDiff>(d, va[c], vb[c])));
         }
@@ -119,12 +116,12 @@ void IntRow(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, int width, uint64_
     for (int c = 0; c < kCh; ++c) s[c] = hn::Zero(d64);
     int64_t vectors = 0;
     while (x + N <= width) {
-      const int blockEnd = x + 16384 * N < width ? x + 16384 * N : width;
+      const int blockEnd = width - x > 16384 * N ? x + 16384 * N : width;
       hn::Vec<decltype(d32)> w[4];
       for (int c = 0; c < kCh; ++c) w[c] = hn::Zero(d32);
       for (; x + N <= blockEnd; x += N, ++vectors) {
-        LoadPix<kCh>(d, a + x * kCh, va);
-        if (kDiff) LoadPix<kCh>(d, b + x * kCh, vb);
+        LoadPix<kCh>(d, a + elemsOf(x, kCh), va);
+        if (kDiff) LoadPix<kCh>(d, b + elemsOf(x, kCh), vb);
         for (int c = 0; c < kCh; ++c) {
           if constexpr (kOp == kOpSq && !kDiff && std::is_signed_v<T>) {
             // pairs of 16-bit squares: at most 2 * 32768^2 = 2^31, exact as unsigned
@@ -164,12 +161,12 @@ void IntRow(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, int width, uint64_
       acc[c] += v;
     }
   }
-  intRowScalar<T, kOp, kDiff, kCh>(a, b, x, width, acc);
+  intRowFrom<T, kOp, kDiff, kCh>(a, b, x, width, acc);
 }
 
 // One row of the four-lane single-precision accumulation (same order as the scalar kernel).
 template <int kOp, bool kDiff, int kCh>
-void F32LanesRow(const float* HWY_RESTRICT a, const float* HWY_RESTRICT b, int width,
+void f32LanesRow(const float* HWY_RESTRICT a, const float* HWY_RESTRICT b, int width,
                  float* lanes) {
   const hn::FixedTag<float, 4> d;
   using V = hn::Vec<decltype(d)>;
@@ -177,8 +174,8 @@ void F32LanesRow(const float* HWY_RESTRICT a, const float* HWY_RESTRICT b, int w
   for (int c = 0; c < kCh; ++c) acc[c] = hn::LoadU(d, lanes + 4 * c);
   int x = 0;
   for (; x + 4 <= width; x += 4) {
-    LoadPix<kCh>(d, a + x * kCh, va);
-    if (kDiff) LoadPix<kCh>(d, b + x * kCh, vb);
+    LoadPix<kCh>(d, a + elemsOf(x, kCh), va);
+    if (kDiff) LoadPix<kCh>(d, b + elemsOf(x, kCh), vb);
     for (int c = 0; c < kCh; ++c) {
       V v = kDiff ? hn::Sub(va[c], vb[c]) : va[c];
       if constexpr (kOp == kOpAbs) v = hn::Abs(v);
@@ -191,7 +188,7 @@ void F32LanesRow(const float* HWY_RESTRICT a, const float* HWY_RESTRICT b, int w
 }
 
 template <bool kDiff, int kCh>
-void F32MaxAbsRow(const float* HWY_RESTRICT a, const float* HWY_RESTRICT b, int width, float* m) {
+void f32MaxAbsRow(const float* HWY_RESTRICT a, const float* HWY_RESTRICT b, int width, float* m) {
   const hn::ScalableTag<float> d;
   const int N = static_cast<int>(hn::Lanes(d));
   using V = hn::Vec<decltype(d)>;
@@ -199,22 +196,19 @@ void F32MaxAbsRow(const float* HWY_RESTRICT a, const float* HWY_RESTRICT b, int 
   for (int c = 0; c < kCh; ++c) mx[c] = hn::Set(d, m[c]);
   int x = 0;
   for (; x + N <= width; x += N) {
-    LoadPix<kCh>(d, a + x * kCh, va);
-    if (kDiff) LoadPix<kCh>(d, b + x * kCh, vb);
+    LoadPix<kCh>(d, a + elemsOf(x, kCh), va);
+    if (kDiff) LoadPix<kCh>(d, b + elemsOf(x, kCh), vb);
     for (int c = 0; c < kCh; ++c)
       mx[c] = hn::Max(mx[c], hn::Abs(kDiff ? hn::Sub(va[c], vb[c]) : va[c]));
   }
   for (int c = 0; c < kCh; ++c) m[c] = hn::GetLane(hn::MaxOfLanes(d, mx[c]));
-  f32MaxAbsScalar<kDiff, kCh>(a, b, x, width, m);
+  f32MaxAbsFrom<kDiff, kCh>(a, b, x, width, m);
 }
 
 #endif
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+LUMI_SIMD_END
 
 #if HWY_ONCE
-#include "core/simd.h"
 
 namespace lumi {
 namespace stats {
@@ -225,31 +219,28 @@ using IntRowFn = void (*)(const T*, const T*, int, uint64_t*);
 using F32RowFn = void (*)(const float*, const float*, int, float*);
 
 template <class T, int kOp, bool kDiff, int kCh>
-void intRowScalarFull(const T* a, const T* b, int width, uint64_t* acc) {
-  intRowScalar<T, kOp, kDiff, kCh>(a, b, 0, width, acc);
+void intRowScalar(const T* a, const T* b, int width, uint64_t* acc) {
+  intRowFrom<T, kOp, kDiff, kCh>(a, b, 0, width, acc);
 }
-template <int kOp, bool kDiff, int kCh>
-void f32MaxAbsScalarFull(const float* a, const float* b, int width, float* m) {
-  f32MaxAbsScalar<kDiff, kCh>(a, b, 0, width, m);
+template <bool kDiff, int kCh>
+void f32MaxAbsRowScalar(const float* a, const float* b, int width, float* m) {
+  f32MaxAbsFrom<kDiff, kCh>(a, b, 0, width, m);
 }
 
 template <class T, int kOp, bool kDiff, int kCh>
 IntRowFn<T> pickIntRow() {
-  LUMI_SIMD_TABLE(IntRowFn<T>, table, IntRow<T, kOp, kDiff, kCh>);
-  if (auto f = pickSimd(table)) return f;
-  return &intRowScalarFull<T, kOp, kDiff, kCh>;
+  LUMI_SIMD_TABLE(IntRowFn<T>, table, intRow<T, kOp, kDiff, kCh>);
+  return pick(table, &intRowScalar<T, kOp, kDiff, kCh>);
+}
+template <bool kDiff, int kCh>
+F32RowFn pickF32MaxAbsRow() {
+  LUMI_SIMD_TABLE(F32RowFn, table, f32MaxAbsRow<kDiff, kCh>);
+  return pick(table, &f32MaxAbsRowScalar<kDiff, kCh>);
 }
 template <int kOp, bool kDiff, int kCh>
-F32RowFn pickF32Row() {
-  if constexpr (kOp == kOpMax) {
-    LUMI_SIMD_TABLE(F32RowFn, table, F32MaxAbsRow<kDiff, kCh>);
-    if (auto f = pickSimd(table)) return f;
-    return &f32MaxAbsScalarFull<kOp, kDiff, kCh>;
-  } else {
-    LUMI_SIMD_TABLE(F32RowFn, table, F32LanesRow<kOp, kDiff, kCh>);
-    if (auto f = pickSimd(table)) return f;
-    return &f32RowScalar<kOp, kDiff, kCh>;
-  }
+F32RowFn pickF32LanesRow() {
+  LUMI_SIMD_TABLE(F32RowFn, table, f32LanesRow<kOp, kDiff, kCh>);
+  return pick(table, &f32LanesRowScalar<kOp, kDiff, kCh>);
 }
 
 // Run-time (op, difference, channels) to the compiled combination.
@@ -279,17 +270,26 @@ struct IntPick {
 };
 template <int kOp, bool kDiff, int kCh>
 struct F32Pick {
-  static F32RowFn get() { return pickF32Row<kOp, kDiff, kCh>(); }
+  static F32RowFn get() {
+    if constexpr (kOp == kOpMax) return pickF32MaxAbsRow<kDiff, kCh>();
+    else return pickF32LanesRow<kOp, kDiff, kCh>();
+  }
 };
+
+// Runs a row kernel f(row of a, row of b or null, width, acc) down the ROI, top to bottom.
+template <class F, class T, class A>
+void reduceRows(F f, const T* a, int aStep, const T* b, int bStep, LumiSize roi, A* acc) {
+  for (int y = 0; y < roi.height; ++y)
+    f(rowAt(a, aStep, y), b ? rowAt(b, bStep, y) : nullptr, roi.width, acc);
+}
 
 }  // namespace
 
 template <class T>
 void reduceInt(const T* a, int aStep, const T* b, int bStep, LumiSize roi, int op, int ch,
                uint64_t* acc) {
-  IntRowFn<T> f = pickByArgs<IntRowFn<T>, IntPick<T>::template P>(op, b != nullptr, ch);
-  for (int y = 0; y < roi.height; ++y)
-    f(rowAt(a, aStep, y), b ? rowAt(b, bStep, y) : nullptr, roi.width, acc);
+  reduceRows(pickByArgs<IntRowFn<T>, IntPick<T>::template P>(op, b != nullptr, ch), a, aStep, b,
+             bStep, roi, acc);
 }
 template void reduceInt<Lum8u>(const Lum8u*, int, const Lum8u*, int, LumiSize, int, int, uint64_t*);
 template void reduceInt<Lum16u>(const Lum16u*, int, const Lum16u*, int, LumiSize, int, int, uint64_t*);
@@ -297,16 +297,13 @@ template void reduceInt<Lum16s>(const Lum16s*, int, const Lum16s*, int, LumiSize
 
 void reduceF32Lanes(const float* a, int aStep, const float* b, int bStep, LumiSize roi, int op,
                     int ch, float* lanes) {
-  F32RowFn f = pickByArgs<F32RowFn, F32Pick>(op == kOpMax ? kOpPlain : op, b != nullptr, ch);
-  for (int y = 0; y < roi.height; ++y)
-    f(rowAt(a, aStep, y), b ? rowAt(b, bStep, y) : nullptr, roi.width, lanes);
+  reduceRows(pickByArgs<F32RowFn, F32Pick>(op == kOpMax ? kOpPlain : op, b != nullptr, ch), a,
+             aStep, b, bStep, roi, lanes);
 }
 
 void maxAbsF32(const float* a, int aStep, const float* b, int bStep, LumiSize roi, int ch,
                float* m) {
-  F32RowFn f = pickByArgs<F32RowFn, F32Pick>(kOpMax, b != nullptr, ch);
-  for (int y = 0; y < roi.height; ++y)
-    f(rowAt(a, aStep, y), b ? rowAt(b, bStep, y) : nullptr, roi.width, m);
+  reduceRows(pickByArgs<F32RowFn, F32Pick>(kOpMax, b != nullptr, ch), a, aStep, b, bStep, roi, m);
 }
 
 }  // namespace stats

@@ -6,25 +6,6 @@ namespace lumi {
 namespace stats {
 namespace {
 
-// Double-precision 32f sum: an even-column and an odd-column sum per channel, carried across
-// all rows (an odd last sample goes to the even sum), added at the end.
-template <int kCh>
-void f32SumAccurate(const float* src, int step, LumiSize roi, double* out) {
-  double even[4] = {0, 0, 0, 0}, odd[4] = {0, 0, 0, 0};
-  for (int y = 0; y < roi.height; ++y) {
-    const float* r = rowAt(src, step, y);
-    int x = 0;
-    for (; x + 2 <= roi.width; x += 2)
-      for (int c = 0; c < kCh; ++c) {
-        even[c] += r[x * kCh + c];
-        odd[c] += r[(x + 1) * kCh + c];
-      }
-    if (x < roi.width)
-      for (int c = 0; c < kCh; ++c) even[c] += r[x * kCh + c];
-  }
-  for (int c = 0; c < kCh; ++c) out[c] = odd[c] + even[c];
-}
-
 template <class T, class L>
 LumStatus sumImpl(const T* src, int step, LumiSize roi, Lum64f* sum, int hint) {
   if (anyNull(src, sum)) return lumStatusNullPtrErr;
@@ -33,9 +14,8 @@ LumStatus sumImpl(const T* src, int step, LumiSize roi, Lum64f* sum, int hint) {
   double out[4];
   if constexpr (std::is_same_v<T, Lum32f>) {
     if (hint == lumHintAccurate) {
-      if (L::kCh == 1) f32SumAccurate<1>(src, step, roi, out);
-      else if (L::kCh == 3) f32SumAccurate<3>(src, step, roi, out);
-      else f32SumAccurate<4>(src, step, roi, out);
+      // double precision, the even and odd totals carried across all rows
+      f64EvenOdd<kOpPlain, false, L::kCh, false>(src, step, nullptr, 0, roi, out);
     } else {
       float lanes[16] = {};
       reduceF32Lanes(src, step, nullptr, 0, roi, kOpPlain, L::kCh, lanes);
@@ -77,39 +57,60 @@ LumStatus meanImpl(const T* src, int step, LumiSize roi, Lum64f* mean, int hint)
 }  // namespace stats
 }  // namespace lumi
 
-using lumi::AC4;
-using lumi::C1;
-using lumi::C3;
-using lumi::C4;
+#define LUMI_SUM(NAME, T, L)                                                        \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roiSize, Lum64f* pSum) { \
+    return sumImpl<T, L>(pSrc, srcStep, roiSize, pSum, 0);                          \
+  }
+#define LUMI_MEAN(NAME, T, L)                                                          \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roiSize, Lum64f* pMean) { \
+    return meanImpl<T, L>(pSrc, srcStep, roiSize, pMean, 0);                           \
+  }
+// The 32f forms take an accuracy hint; the integer ones above sum exactly.
+#define LUMI_SUM_HINT(NAME, L)                                                               \
+  LUMI_API LumStatus NAME(const Lum32f* pSrc, int srcStep, LumiSize roiSize, Lum64f* pSum,   \
+                          LumAccuracyHint hint) {                                            \
+    return sumImpl<Lum32f, L>(pSrc, srcStep, roiSize, pSum, hint);                           \
+  }
+#define LUMI_MEAN_HINT(NAME, L)                                                              \
+  LUMI_API LumStatus NAME(const Lum32f* pSrc, int srcStep, LumiSize roiSize, Lum64f* pMean,  \
+                          LumAccuracyHint hint) {                                            \
+    return meanImpl<Lum32f, L>(pSrc, srcStep, roiSize, pMean, hint);                         \
+  }
+
+using namespace lumi;
 using namespace lumi::stats;
 
-#define LUMI_SUM_INT(T, TS, L)                                                                 \
-  LUMI_API LumStatus lumiSum_##TS##_##L##R(const T* pSrc, int srcStep, LumiSize roiSize,      \
-                                           Lum64f* pSum) {                                    \
-    return sumImpl<T, L>(pSrc, srcStep, roiSize, pSum, 0);                                     \
-  }                                                                                            \
-  LUMI_API LumStatus lumiMean_##TS##_##L##R(const T* pSrc, int srcStep, LumiSize roiSize,     \
-                                            Lum64f* pMean) {                                  \
-    return meanImpl<T, L>(pSrc, srcStep, roiSize, pMean, 0);                                   \
-  }
-#define LUMI_SUM_F32(L)                                                                        \
-  LUMI_API LumStatus lumiSum_32f_##L##R(const Lum32f* pSrc, int srcStep, LumiSize roiSize,    \
-                                        Lum64f* pSum, LumAccuracyHint hint) {                 \
-    return sumImpl<Lum32f, L>(pSrc, srcStep, roiSize, pSum, hint);                             \
-  }                                                                                            \
-  LUMI_API LumStatus lumiMean_32f_##L##R(const Lum32f* pSrc, int srcStep, LumiSize roiSize,   \
-                                         Lum64f* pMean, LumAccuracyHint hint) {               \
-    return meanImpl<Lum32f, L>(pSrc, srcStep, roiSize, pMean, hint);                           \
-  }
-#define LUMI_SUM_LAYOUTS(T, TS) \
-  LUMI_SUM_INT(T, TS, C1) LUMI_SUM_INT(T, TS, C3) LUMI_SUM_INT(T, TS, C4) LUMI_SUM_INT(T, TS, AC4)
-
 extern "C" {
-LUMI_SUM_LAYOUTS(Lum8u, 8u)
-LUMI_SUM_LAYOUTS(Lum16s, 16s)
-LUMI_SUM_LAYOUTS(Lum16u, 16u)
-LUMI_SUM_F32(C1)
-LUMI_SUM_F32(C3)
-LUMI_SUM_F32(C4)
-LUMI_SUM_F32(AC4)
+LUMI_SUM(lumiSum_8u_C1R, Lum8u, C1)
+LUMI_MEAN(lumiMean_8u_C1R, Lum8u, C1)
+LUMI_SUM(lumiSum_8u_C3R, Lum8u, C3)
+LUMI_MEAN(lumiMean_8u_C3R, Lum8u, C3)
+LUMI_SUM(lumiSum_8u_C4R, Lum8u, C4)
+LUMI_MEAN(lumiMean_8u_C4R, Lum8u, C4)
+LUMI_SUM(lumiSum_8u_AC4R, Lum8u, AC4)
+LUMI_MEAN(lumiMean_8u_AC4R, Lum8u, AC4)
+LUMI_SUM(lumiSum_16s_C1R, Lum16s, C1)
+LUMI_MEAN(lumiMean_16s_C1R, Lum16s, C1)
+LUMI_SUM(lumiSum_16s_C3R, Lum16s, C3)
+LUMI_MEAN(lumiMean_16s_C3R, Lum16s, C3)
+LUMI_SUM(lumiSum_16s_C4R, Lum16s, C4)
+LUMI_MEAN(lumiMean_16s_C4R, Lum16s, C4)
+LUMI_SUM(lumiSum_16s_AC4R, Lum16s, AC4)
+LUMI_MEAN(lumiMean_16s_AC4R, Lum16s, AC4)
+LUMI_SUM(lumiSum_16u_C1R, Lum16u, C1)
+LUMI_MEAN(lumiMean_16u_C1R, Lum16u, C1)
+LUMI_SUM(lumiSum_16u_C3R, Lum16u, C3)
+LUMI_MEAN(lumiMean_16u_C3R, Lum16u, C3)
+LUMI_SUM(lumiSum_16u_C4R, Lum16u, C4)
+LUMI_MEAN(lumiMean_16u_C4R, Lum16u, C4)
+LUMI_SUM(lumiSum_16u_AC4R, Lum16u, AC4)
+LUMI_MEAN(lumiMean_16u_AC4R, Lum16u, AC4)
+LUMI_SUM_HINT(lumiSum_32f_C1R, C1)
+LUMI_MEAN_HINT(lumiMean_32f_C1R, C1)
+LUMI_SUM_HINT(lumiSum_32f_C3R, C3)
+LUMI_MEAN_HINT(lumiMean_32f_C3R, C3)
+LUMI_SUM_HINT(lumiSum_32f_C4R, C4)
+LUMI_MEAN_HINT(lumiMean_32f_C4R, C4)
+LUMI_SUM_HINT(lumiSum_32f_AC4R, AC4)
+LUMI_MEAN_HINT(lumiMean_32f_AC4R, AC4)
 }
