@@ -15,14 +15,14 @@ namespace gen {
 // Writes v to every channel the layout owns (AC4 keeps the alpha element).
 template <class L, class T>
 inline void putPixel(T* row, int x, T v) {
-  T* p = row + static_cast<std::ptrdiff_t>(x) * L::kCh;
+  T* p = row + elemsOf(x, L::kCh);
   for (int c = 0; c < L::kUse; ++c) p[c] = v;
 }
 
 template <class L, class T>
 inline void fillRow(T* row, int width, T v) {
   if constexpr (L::kCh == L::kUse) {
-    std::fill(row, row + static_cast<std::ptrdiff_t>(width) * L::kCh, v);
+    std::fill(row, row + elemsOf(width, L::kCh), v);
   } else {
     for (int x = 0; x < width; ++x) putPixel<L>(row, x, v);
   }

@@ -62,25 +62,33 @@ LumStatus jaehne(T* dst, int step, LumiSize roi) {
 }  // namespace
 }  // namespace lumi
 
-#define LUMI_JAEHNE(code, T)                                                  \
-  LUMI_API LumStatus lumiImageJaehne_##code##_C1R(T* d, int s, LumiSize r) {  \
-    return lumi::jaehne<T, lumi::C1>(d, s, r);                                \
-  }                                                                           \
-  LUMI_API LumStatus lumiImageJaehne_##code##_C3R(T* d, int s, LumiSize r) {  \
-    return lumi::jaehne<T, lumi::C3>(d, s, r);                                \
-  }                                                                           \
-  LUMI_API LumStatus lumiImageJaehne_##code##_C4R(T* d, int s, LumiSize r) {  \
-    return lumi::jaehne<T, lumi::C4>(d, s, r);                                \
-  }                                                                           \
-  LUMI_API LumStatus lumiImageJaehne_##code##_AC4R(T* d, int s, LumiSize r) { \
-    return lumi::jaehne<T, lumi::AC4>(d, s, r);                               \
-  }
+// One stamp per export.
+#define LUMI_JAEHNE(NAME, T, L) \
+  LUMI_API LumStatus NAME(T* d, int s, LumiSize r) { return lumi::jaehne<T, lumi::L>(d, s, r); }
 
 extern "C" {
-LUMI_JAEHNE(8u, Lum8u)
-LUMI_JAEHNE(8s, Lum8s)
-LUMI_JAEHNE(16u, Lum16u)
-LUMI_JAEHNE(16s, Lum16s)
-LUMI_JAEHNE(32s, Lum32s)
-LUMI_JAEHNE(32f, Lum32f)
+LUMI_JAEHNE(lumiImageJaehne_8u_C1R, Lum8u, C1)
+LUMI_JAEHNE(lumiImageJaehne_8u_C3R, Lum8u, C3)
+LUMI_JAEHNE(lumiImageJaehne_8u_C4R, Lum8u, C4)
+LUMI_JAEHNE(lumiImageJaehne_8u_AC4R, Lum8u, AC4)
+LUMI_JAEHNE(lumiImageJaehne_8s_C1R, Lum8s, C1)
+LUMI_JAEHNE(lumiImageJaehne_8s_C3R, Lum8s, C3)
+LUMI_JAEHNE(lumiImageJaehne_8s_C4R, Lum8s, C4)
+LUMI_JAEHNE(lumiImageJaehne_8s_AC4R, Lum8s, AC4)
+LUMI_JAEHNE(lumiImageJaehne_16u_C1R, Lum16u, C1)
+LUMI_JAEHNE(lumiImageJaehne_16u_C3R, Lum16u, C3)
+LUMI_JAEHNE(lumiImageJaehne_16u_C4R, Lum16u, C4)
+LUMI_JAEHNE(lumiImageJaehne_16u_AC4R, Lum16u, AC4)
+LUMI_JAEHNE(lumiImageJaehne_16s_C1R, Lum16s, C1)
+LUMI_JAEHNE(lumiImageJaehne_16s_C3R, Lum16s, C3)
+LUMI_JAEHNE(lumiImageJaehne_16s_C4R, Lum16s, C4)
+LUMI_JAEHNE(lumiImageJaehne_16s_AC4R, Lum16s, AC4)
+LUMI_JAEHNE(lumiImageJaehne_32s_C1R, Lum32s, C1)
+LUMI_JAEHNE(lumiImageJaehne_32s_C3R, Lum32s, C3)
+LUMI_JAEHNE(lumiImageJaehne_32s_C4R, Lum32s, C4)
+LUMI_JAEHNE(lumiImageJaehne_32s_AC4R, Lum32s, AC4)
+LUMI_JAEHNE(lumiImageJaehne_32f_C1R, Lum32f, C1)
+LUMI_JAEHNE(lumiImageJaehne_32f_C3R, Lum32f, C3)
+LUMI_JAEHNE(lumiImageJaehne_32f_C4R, Lum32f, C4)
+LUMI_JAEHNE(lumiImageJaehne_32f_AC4R, Lum32f, AC4)
 }

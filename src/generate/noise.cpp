@@ -12,20 +12,17 @@
 #include "hwy/foreach_target.h"
 // (foreach_target re-includes this file once per SIMD target)
 #include "hwy/highway.h"
-
-#include "core/frame.h"
+#include "core/simd.h"
 #include "generate/generate_kernels.h"
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
 
 // Adds n noise values to n consecutive samples. Integers round by adding and subtracting
 // 1.5 * 2^52 with the sign of the value: the addition rounds in the current mode exactly as
 // the scalar conversion does (with the sign, toward-zero rounding stays toward zero).
 template <class T>
-void AddNoiseRow(T* HWY_RESTRICT row, const double* HWY_RESTRICT noise, int n) {
+void addNoiseRow(T* HWY_RESTRICT row, const double* HWY_RESTRICT noise, int n) {
   const hn::ScalableTag<double> dd;
   const hn::Rebind<T, decltype(dd)> dt;
   const int lanes = static_cast<int>(hn::Lanes(dd));
@@ -50,23 +47,17 @@ void AddNoiseRow(T* HWY_RESTRICT row, const double* HWY_RESTRICT noise, int n) {
   for (; i < n; ++i) row[i] = gen::addNoise(row[i], noise[i]);
 }
 
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+#endif
+LUMI_SIMD_END
 
 #if HWY_ONCE
 #include <cmath>
-
-#include "core/simd.h"
 
 namespace lumi {
 namespace {
 
 template <class T>
 using AddNoiseRowFn = void (*)(T*, const double*, int);
-LUMI_SIMD_TABLE(AddNoiseRowFn<Lum8u>, kAddNoise8u, AddNoiseRow<Lum8u>);
-LUMI_SIMD_TABLE(AddNoiseRowFn<Lum16s>, kAddNoise16s, AddNoiseRow<Lum16s>);
-LUMI_SIMD_TABLE(AddNoiseRowFn<Lum32f>, kAddNoise32f, AddNoiseRow<Lum32f>);
 
 template <class T>
 void addNoiseRowScalar(T* row, const double* noise, int n) {
@@ -74,12 +65,9 @@ void addNoiseRowScalar(T* row, const double* noise, int n) {
 }
 
 template <class T>
-AddNoiseRowFn<T> pickAddNoise() {
-  AddNoiseRowFn<T> f = nullptr;
-  if constexpr (std::is_same_v<T, Lum8u>) f = pickSimd(kAddNoise8u);
-  if constexpr (std::is_same_v<T, Lum16s>) f = pickSimd(kAddNoise16s);
-  if constexpr (std::is_same_v<T, Lum32f>) f = pickSimd(kAddNoise32f);
-  return f ? f : &addNoiseRowScalar<T>;
+AddNoiseRowFn<T> pickAddNoiseRow() {
+  LUMI_SIMD_TABLE(AddNoiseRowFn<T>, table, addNoiseRow<T>);
+  return pick(table, &addNoiseRowScalar<T>);
 }
 
 class NoiseStream {
@@ -149,13 +137,14 @@ class NoiseValues {
 };
 
 // Adds the values to the ROI's samples in row-major order: whole runs of contiguous samples
-// at a time for one-channel rows, the three colour samples of every pixel for AC4.
-template <int kCh, int kUse, class T, class Values>
+// at a time for one-channel rows, the layout's own samples of every pixel otherwise (AC4: the
+// three colour ones).
+template <class L, class T, class Values>
 void addToRoi(T* p, int step, LumiSize roi, Values& noise) {
-  const AddNoiseRowFn<T> addRow = pickAddNoise<T>();
+  const AddNoiseRowFn<T> addRow = pickAddNoiseRow<T>();
   for (int y = 0; y < roi.height; ++y) {
     T* row = rowAt(p, step, y);
-    if constexpr (kCh == 1) {
+    if constexpr (L::kCh == 1) {
       for (int x = 0; x < roi.width;) {
         const double* v;
         const int k = noise.take(roi.width - x, &v);
@@ -163,13 +152,13 @@ void addToRoi(T* p, int step, LumiSize roi, Values& noise) {
         x += k;
       }
     } else {
-      for (std::ptrdiff_t i = 0; i < static_cast<std::ptrdiff_t>(roi.width) * kCh; i += kCh)
-        for (int c = 0; c < kUse; ++c) row[i + c] = gen::addNoise(row[i + c], noise.next());
+      for (std::ptrdiff_t i = 0; i < elemsOf(roi.width, L::kCh); i += L::kCh)
+        for (int c = 0; c < L::kUse; ++c) row[i + c] = gen::addNoise(row[i + c], noise.next());
     }
   }
 }
 
-template <class T, int kCh, int kUse>
+template <class T, class L>
 LumStatus uniform(T* p, int step, LumiSize roi, T low, T high, unsigned* seed) {
   if (LumStatus st = checkNoise(p, step, roi, seed)) return st;
   double scale, mid;
@@ -193,8 +182,8 @@ LumStatus uniform(T* p, int step, LumiSize roi, T low, T high, unsigned* seed) {
     }
     for (; i < n; ++i) out[i] = draws[i] * scale + mid;
   };
-  NoiseValues<decltype(fill)> noise(static_cast<int64_t>(roi.width) * roi.height * kUse, fill);
-  addToRoi<kCh, kUse>(p, step, roi, noise);
+  NoiseValues<decltype(fill)> noise(static_cast<int64_t>(roi.width) * L::kUse * roi.height, fill);
+  addToRoi<L>(p, step, roi, noise);
   *seed = rng.state();
   return lumStatusOk;
 }
@@ -220,7 +209,7 @@ inline void pairValues(double* out, const double* u1, const double* u2, const do
 // q = u1^2 + u2^2, and gives two consecutive values; the second one may land on the first
 // sample of the next row, and is dropped after the last sample. A block draws its accepted
 // pairs first (a rejected candidate is overwritten by the next), then takes the logarithms.
-template <class T, int kCh, int kUse>
+template <class T, class L>
 LumStatus gauss(T* p, int step, LumiSize roi, T mean, T stdDev, unsigned* seed) {
   if (LumStatus st = checkNoise(p, step, roi, seed)) return st;
   const double m = mean, sd = stdDev;
@@ -243,8 +232,8 @@ LumStatus gauss(T* p, int step, LumiSize roi, T mean, T stdDev, unsigned* seed) 
     q[pairs] = 1.0;
     pairValues(out, u1, u2, q, lnq, pairs, m, sd);
   };
-  NoiseValues<decltype(fill)> noise(static_cast<int64_t>(roi.width) * roi.height * kUse, fill);
-  addToRoi<kCh, kUse>(p, step, roi, noise);
+  NoiseValues<decltype(fill)> noise(static_cast<int64_t>(roi.width) * L::kUse * roi.height, fill);
+  addToRoi<L>(p, step, roi, noise);
   *seed = rng.state();
   return lumStatusOk;
 }
@@ -257,35 +246,56 @@ inline LumStatus widenRow(LumiSize* roi, unsigned channels) {
   return lumStatusOk;
 }
 
+// The noise of one layout: C3 and C4 as one-channel rows of width * channels samples (after
+// the width check), C1 and AC4 pixel by pixel.
+enum NoiseKind { kUniform, kGauss };
+template <NoiseKind kKind, class T, class L>
+LumStatus addNoiseTo(T* p, int step, LumiSize roi, T a, T b, unsigned* seed) {
+  if constexpr (L::kCh > 1 && L::kCh == L::kUse) {
+    if (LumStatus st = widenRow(&roi, L::kCh)) return st;
+    return addNoiseTo<kKind, T, C1>(p, step, roi, a, b, seed);
+  } else if constexpr (kKind == kUniform) {
+    return uniform<T, L>(p, step, roi, a, b, seed);
+  } else {
+    return gauss<T, L>(p, step, roi, a, b, seed);
+  }
+}
+
 }  // namespace
 }  // namespace lumi
 
-#define LUMI_NOISE(Op, impl, code, T)                                                           \
-  LUMI_API LumStatus lumiAddRand##Op##_Direct_##code##_C1IR(T* p, int s, LumiSize r, T a, T b,  \
-                                                            unsigned int* seed) {               \
-    return lumi::impl<T, 1, 1>(p, s, r, a, b, seed);                                            \
-  }                                                                                             \
-  LUMI_API LumStatus lumiAddRand##Op##_Direct_##code##_C3IR(T* p, int s, LumiSize r, T a, T b,  \
-                                                            unsigned int* seed) {               \
-    if (LumStatus st = lumi::widenRow(&r, 3)) return st;                                        \
-    return lumi::impl<T, 1, 1>(p, s, r, a, b, seed);                                            \
-  }                                                                                             \
-  LUMI_API LumStatus lumiAddRand##Op##_Direct_##code##_C4IR(T* p, int s, LumiSize r, T a, T b,  \
-                                                            unsigned int* seed) {               \
-    if (LumStatus st = lumi::widenRow(&r, 4)) return st;                                        \
-    return lumi::impl<T, 1, 1>(p, s, r, a, b, seed);                                            \
-  }                                                                                             \
-  LUMI_API LumStatus lumiAddRand##Op##_Direct_##code##_AC4IR(T* p, int s, LumiSize r, T a, T b, \
-                                                             unsigned int* seed) {              \
-    return lumi::impl<T, 4, 3>(p, s, r, a, b, seed);                                            \
+using namespace lumi;
+
+// One stamp per export; KIND is kUniform or kGauss.
+#define LUMI_NOISE(NAME, KIND, T, L)                                               \
+  LUMI_API LumStatus NAME(T* p, int s, LumiSize r, T a, T b, unsigned int* seed) { \
+    return addNoiseTo<KIND, T, L>(p, s, r, a, b, seed);                            \
   }
 
 extern "C" {
-LUMI_NOISE(Uniform, uniform, 8u, Lum8u)
-LUMI_NOISE(Uniform, uniform, 16s, Lum16s)
-LUMI_NOISE(Uniform, uniform, 32f, Lum32f)
-LUMI_NOISE(Gauss, gauss, 8u, Lum8u)
-LUMI_NOISE(Gauss, gauss, 16s, Lum16s)
-LUMI_NOISE(Gauss, gauss, 32f, Lum32f)
+LUMI_NOISE(lumiAddRandUniform_Direct_8u_C1IR, kUniform, Lum8u, C1)
+LUMI_NOISE(lumiAddRandUniform_Direct_8u_C3IR, kUniform, Lum8u, C3)
+LUMI_NOISE(lumiAddRandUniform_Direct_8u_C4IR, kUniform, Lum8u, C4)
+LUMI_NOISE(lumiAddRandUniform_Direct_8u_AC4IR, kUniform, Lum8u, AC4)
+LUMI_NOISE(lumiAddRandUniform_Direct_16s_C1IR, kUniform, Lum16s, C1)
+LUMI_NOISE(lumiAddRandUniform_Direct_16s_C3IR, kUniform, Lum16s, C3)
+LUMI_NOISE(lumiAddRandUniform_Direct_16s_C4IR, kUniform, Lum16s, C4)
+LUMI_NOISE(lumiAddRandUniform_Direct_16s_AC4IR, kUniform, Lum16s, AC4)
+LUMI_NOISE(lumiAddRandUniform_Direct_32f_C1IR, kUniform, Lum32f, C1)
+LUMI_NOISE(lumiAddRandUniform_Direct_32f_C3IR, kUniform, Lum32f, C3)
+LUMI_NOISE(lumiAddRandUniform_Direct_32f_C4IR, kUniform, Lum32f, C4)
+LUMI_NOISE(lumiAddRandUniform_Direct_32f_AC4IR, kUniform, Lum32f, AC4)
+LUMI_NOISE(lumiAddRandGauss_Direct_8u_C1IR, kGauss, Lum8u, C1)
+LUMI_NOISE(lumiAddRandGauss_Direct_8u_C3IR, kGauss, Lum8u, C3)
+LUMI_NOISE(lumiAddRandGauss_Direct_8u_C4IR, kGauss, Lum8u, C4)
+LUMI_NOISE(lumiAddRandGauss_Direct_8u_AC4IR, kGauss, Lum8u, AC4)
+LUMI_NOISE(lumiAddRandGauss_Direct_16s_C1IR, kGauss, Lum16s, C1)
+LUMI_NOISE(lumiAddRandGauss_Direct_16s_C3IR, kGauss, Lum16s, C3)
+LUMI_NOISE(lumiAddRandGauss_Direct_16s_C4IR, kGauss, Lum16s, C4)
+LUMI_NOISE(lumiAddRandGauss_Direct_16s_AC4IR, kGauss, Lum16s, AC4)
+LUMI_NOISE(lumiAddRandGauss_Direct_32f_C1IR, kGauss, Lum32f, C1)
+LUMI_NOISE(lumiAddRandGauss_Direct_32f_C3IR, kGauss, Lum32f, C3)
+LUMI_NOISE(lumiAddRandGauss_Direct_32f_C4IR, kGauss, Lum32f, C4)
+LUMI_NOISE(lumiAddRandGauss_Direct_32f_AC4IR, kGauss, Lum32f, AC4)
 }
 #endif  // HWY_ONCE

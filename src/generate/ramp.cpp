@@ -53,6 +53,7 @@ LumStatus ramp(T* dst, int step, LumiSize roi, float offset, float slope, int ax
   const int adv = rowAdvance<T>(step);
   if (axis == 0) {
     // One row of converted values, laid out as in the image, copied to every row.
+    // in 64 bits: on 32-bit targets the row may pass what ptrdiff_t holds
     const uint64_t bytes = static_cast<uint64_t>(w) * L::kCh * sizeof(T);
     Lum8u* buf = bytes > 0x7fffffffu ? nullptr : lumsMalloc_8u(static_cast<int>(bytes));
     if (!buf) return lumStatusMemAllocErr;
@@ -64,7 +65,7 @@ LumStatus ramp(T* dst, int step, LumiSize roi, float offset, float slope, int ax
       if constexpr (L::kCh == L::kUse) {
         std::memcpy(row, line, static_cast<std::size_t>(bytes));
       } else {
-        for (std::ptrdiff_t i = 0; i < static_cast<std::ptrdiff_t>(w) * L::kCh; i += L::kCh)
+        for (std::ptrdiff_t i = 0; i < elemsOf(w, L::kCh); i += L::kCh)
           for (int c = 0; c < L::kUse; ++c) row[i + c] = line[i + c];
       }
     }
@@ -87,20 +88,35 @@ LumStatus ramp(T* dst, int step, LumiSize roi, float offset, float slope, int ax
 }  // namespace
 }  // namespace lumi
 
-#define LUMI_RAMP_ONE(code, T, lay)                                                       \
-  LUMI_API LumStatus lumiImageRamp_##code##_##lay##R(T* d, int s, LumiSize r, Lum32f off, \
-                                                     Lum32f slope, int axis) {            \
-    return lumi::ramp<T, lumi::lay>(d, s, r, off, slope, axis);                           \
+// One stamp per export.
+#define LUMI_RAMP(NAME, T, L)                                                                   \
+  LUMI_API LumStatus NAME(T* d, int s, LumiSize r, Lum32f off, Lum32f slope, int axis) {        \
+    return lumi::ramp<T, lumi::L>(d, s, r, off, slope, axis);                                   \
   }
-#define LUMI_RAMP(code, T)   \
-  LUMI_RAMP_ONE(code, T, C1) \
-  LUMI_RAMP_ONE(code, T, C3) LUMI_RAMP_ONE(code, T, C4) LUMI_RAMP_ONE(code, T, AC4)
 
 extern "C" {
-LUMI_RAMP(8u, Lum8u)
-LUMI_RAMP(8s, Lum8s)
-LUMI_RAMP(16u, Lum16u)
-LUMI_RAMP(16s, Lum16s)
-LUMI_RAMP(32s, Lum32s)
-LUMI_RAMP(32f, Lum32f)
+LUMI_RAMP(lumiImageRamp_8u_C1R, Lum8u, C1)
+LUMI_RAMP(lumiImageRamp_8u_C3R, Lum8u, C3)
+LUMI_RAMP(lumiImageRamp_8u_C4R, Lum8u, C4)
+LUMI_RAMP(lumiImageRamp_8u_AC4R, Lum8u, AC4)
+LUMI_RAMP(lumiImageRamp_8s_C1R, Lum8s, C1)
+LUMI_RAMP(lumiImageRamp_8s_C3R, Lum8s, C3)
+LUMI_RAMP(lumiImageRamp_8s_C4R, Lum8s, C4)
+LUMI_RAMP(lumiImageRamp_8s_AC4R, Lum8s, AC4)
+LUMI_RAMP(lumiImageRamp_16u_C1R, Lum16u, C1)
+LUMI_RAMP(lumiImageRamp_16u_C3R, Lum16u, C3)
+LUMI_RAMP(lumiImageRamp_16u_C4R, Lum16u, C4)
+LUMI_RAMP(lumiImageRamp_16u_AC4R, Lum16u, AC4)
+LUMI_RAMP(lumiImageRamp_16s_C1R, Lum16s, C1)
+LUMI_RAMP(lumiImageRamp_16s_C3R, Lum16s, C3)
+LUMI_RAMP(lumiImageRamp_16s_C4R, Lum16s, C4)
+LUMI_RAMP(lumiImageRamp_16s_AC4R, Lum16s, AC4)
+LUMI_RAMP(lumiImageRamp_32s_C1R, Lum32s, C1)
+LUMI_RAMP(lumiImageRamp_32s_C3R, Lum32s, C3)
+LUMI_RAMP(lumiImageRamp_32s_C4R, Lum32s, C4)
+LUMI_RAMP(lumiImageRamp_32s_AC4R, Lum32s, AC4)
+LUMI_RAMP(lumiImageRamp_32f_C1R, Lum32f, C1)
+LUMI_RAMP(lumiImageRamp_32f_C3R, Lum32f, C3)
+LUMI_RAMP(lumiImageRamp_32f_C4R, Lum32f, C4)
+LUMI_RAMP(lumiImageRamp_32f_AC4R, Lum32f, AC4)
 }
