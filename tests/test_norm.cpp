@@ -147,7 +147,7 @@ TEST(Norm, MatchesReferences) {
 
 // One call writing one value: status 0 and exactly `want`.
 #define EXPECT_VALUE(want, fn, ...) \
-  do { Lum64f v_ = -1; ASSERT_EQ(fn(__VA_ARGS__, &v_), 0) << #fn; EXPECT_EQ(v_, (want)) << #fn " " #__VA_ARGS__; } while (0)
+  do { Lum64f v_ = -1; ASSERT_EQ(fn(__VA_ARGS__, &v_), lumStatusOk) << #fn; EXPECT_EQ(v_, (want)) << #fn " " #__VA_ARGS__; } while (0)
 
 TEST(Norm, ExtremeMagnitudes) {
   std::vector<Lum16s> s(7, 5), t(7, 32767), m(64, -32768);
@@ -225,7 +225,7 @@ TEST(Norm, RelativeZeroReference) {
   EXPECT_VALUE(v, lumiNorm_L2_8u_C1R, a.ptr(), a.step(), a.roi());
   // 32f: a denominator below the smallest normal double counts as zero, NaN as well
   std::vector<float> fa = {1.0f, -2.0f}, fz = {0.0f, -0.0f}, ft = {1e-45f, 0.0f}, fn = {NAN, 1.0f};
-  EXPECT_EQ(lumiNormRel_Inf_32f_C1R(fa.data(), 8, ft.data(), 8, LumiSize{2, 1}, &v), 0);
+  EXPECT_EQ(lumiNormRel_Inf_32f_C1R(fa.data(), 8, ft.data(), 8, LumiSize{2, 1}, &v), lumStatusOk);
   EXPECT_EQ(v, 2.0 / double(1e-45f));  // a denormal float is still a normal double
   EXPECT_EQ(lumiNormRel_L2_32f_C1R(fa.data(), 8, fz.data(), 8, LumiSize{2, 1}, &v, 2), lumStatusDivByZeroWarn);
   EXPECT_EQ(v, std::sqrt(5.0));
@@ -241,7 +241,7 @@ TEST(Norm, RelativeZeroReference) {
   // AC4 ignores a zero alpha channel
   a4.fillRandom(r);
   b4.fill([](int x, int, int c) { return Lum8u(c == 3 ? 0 : 1 + x); });
-  EXPECT_EQ(lumiNormRel_L1_8u_AC4R(a4.ptr(), a4.step(), b4.ptr(), b4.step(), a4.roi(), got), 0);
+  EXPECT_EQ(lumiNormRel_L1_8u_AC4R(a4.ptr(), a4.step(), b4.ptr(), b4.step(), a4.roi(), got), lumStatusOk);
   EXPECT_TRUE(a.guardsIntact() && z.guardsIntact() && a3.guardsIntact() && b3.guardsIntact() && a4.guardsIntact() &&
               b4.guardsIntact());
 }

@@ -7,7 +7,8 @@ extern "C" {
 #endif
 
 /* Jaehne test pattern: sin(2*pi*r^2 / (4*height)) around the ROI centre, scaled to the
-   type's range (32f: 0 to 1). Every channel of a pixel gets the same value; AC4 keeps alpha. */
+   type's range (32f: 0 to 1). Every channel of a pixel gets the same value; AC4 keeps alpha.
+   src/generate/jaehne.cpp. */
 LUMI_API LumStatus lumiImageJaehne_8u_C1R(Lum8u* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiImageJaehne_8u_C3R(Lum8u* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiImageJaehne_8u_C4R(Lum8u* pDst, int dstStep, LumiSize roiSize);
@@ -34,7 +35,7 @@ LUMI_API LumStatus lumiImageJaehne_32f_C4R(Lum32f* pDst, int dstStep, LumiSize r
 LUMI_API LumStatus lumiImageJaehne_32f_AC4R(Lum32f* pDst, int dstStep, LumiSize roiSize);
 
 /* Ramp: offset + slope * t with t the column (axis 0), the row (axis 1) or their product
-   (axis 2); any other axis writes nothing and succeeds. */
+   (axis 2); any other axis writes nothing and succeeds. src/generate/ramp.cpp. */
 LUMI_API LumStatus lumiImageRamp_8u_C1R(Lum8u* pDst, int dstStep, LumiSize roiSize, Lum32f offset, Lum32f slope, int axis);
 LUMI_API LumStatus lumiImageRamp_8u_C3R(Lum8u* pDst, int dstStep, LumiSize roiSize, Lum32f offset, Lum32f slope, int axis);
 LUMI_API LumStatus lumiImageRamp_8u_C4R(Lum8u* pDst, int dstStep, LumiSize roiSize, Lum32f offset, Lum32f slope, int axis);
@@ -61,7 +62,8 @@ LUMI_API LumStatus lumiImageRamp_32f_C4R(Lum32f* pDst, int dstStep, LumiSize roi
 LUMI_API LumStatus lumiImageRamp_32f_AC4R(Lum32f* pDst, int dstStep, LumiSize roiSize, Lum32f offset, Lum32f slope, int axis);
 
 /* Additive uniform noise in [low, high], in place. *pSeed is read at the start and receives
-   the generator's last state word, so consecutive calls continue one stream. */
+   the generator's last state word, so consecutive calls continue one stream.
+   src/generate/noise.cpp. */
 LUMI_API LumStatus lumiAddRandUniform_Direct_8u_C1IR(Lum8u* pSrcDst, int srcDstStep, LumiSize roiSize, Lum8u low, Lum8u high, unsigned int* pSeed);
 LUMI_API LumStatus lumiAddRandUniform_Direct_8u_C3IR(Lum8u* pSrcDst, int srcDstStep, LumiSize roiSize, Lum8u low, Lum8u high, unsigned int* pSeed);
 LUMI_API LumStatus lumiAddRandUniform_Direct_8u_C4IR(Lum8u* pSrcDst, int srcDstStep, LumiSize roiSize, Lum8u low, Lum8u high, unsigned int* pSeed);
@@ -76,7 +78,7 @@ LUMI_API LumStatus lumiAddRandUniform_Direct_32f_C4IR(Lum32f* pSrcDst, int srcDs
 LUMI_API LumStatus lumiAddRandUniform_Direct_32f_AC4IR(Lum32f* pSrcDst, int srcDstStep, LumiSize roiSize, Lum32f low, Lum32f high, unsigned int* pSeed);
 
 /* Additive Gaussian noise of the given mean and standard deviation, in place; the seed as
-   for the uniform noise. */
+   for the uniform noise. src/generate/noise.cpp. */
 LUMI_API LumStatus lumiAddRandGauss_Direct_8u_C1IR(Lum8u* pSrcDst, int srcDstStep, LumiSize roiSize, Lum8u mean, Lum8u stdDev, unsigned int* pSeed);
 LUMI_API LumStatus lumiAddRandGauss_Direct_8u_C3IR(Lum8u* pSrcDst, int srcDstStep, LumiSize roiSize, Lum8u mean, Lum8u stdDev, unsigned int* pSeed);
 LUMI_API LumStatus lumiAddRandGauss_Direct_8u_C4IR(Lum8u* pSrcDst, int srcDstStep, LumiSize roiSize, Lum8u mean, Lum8u stdDev, unsigned int* pSeed);

@@ -9,11 +9,13 @@ extern "C" {
 /* Moment states (400 bytes, opaque): created by lumiMomentInitAlloc_* (or, for the exact
    integer kind, in caller memory by lumiMomentInit_64s), filled by lumiMoments64f_* or
    lumiMoments64s_*, queried by the lumiGet*Moment* functions. The _64s queries return their
-   results as Lum64f, unscaled. */
+   results as Lum64f, unscaled. src/stats/moments.cpp. */
 typedef struct LumiMomentState_64f LumiMomentState_64f;
 typedef struct LumiMomentState_64s LumiMomentState_64s;
 
-/* ---- norms: one Lum64f per channel (3 for C3 and AC4, 4 for C4) ---- */
+/* Norms (Inf, L1, L2) of an image, of the difference of two and of that difference relative
+   to the second image: one Lum64f per channel (3 for C3 and AC4, 4 for C4). src/stats/norm.cpp,
+   with the row reductions of src/stats/reduce.cpp. */
 LUMI_API LumStatus lumiNorm_Inf_8u_C1R(const Lum8u* pSrc, int srcStep, LumiSize roiSize, Lum64f* pValue);
 LUMI_API LumStatus lumiNormDiff_Inf_8u_C1R(const Lum8u* pSrc1, int src1Step, const Lum8u* pSrc2, int src2Step, LumiSize roiSize, Lum64f* pValue);
 LUMI_API LumStatus lumiNormRel_Inf_8u_C1R(const Lum8u* pSrc1, int src1Step, const Lum8u* pSrc2, int src2Step, LumiSize roiSize, Lum64f* pValue);
@@ -160,7 +162,8 @@ LUMI_API LumStatus lumiNormDiff_L2_32f_AC4R(const Lum32f* pSrc1, int src1Step, c
 LUMI_API LumStatus lumiNormRel_L2_32f_AC4R(const Lum32f* pSrc1, int src1Step, const Lum32f* pSrc2, int src2Step, LumiSize roiSize, Lum64f* pValue, LumAccuracyHint hint);
 LUMI_API LumStatus lumiNorm_Inf_32s_C1R(const Lum32s* pSrc, int srcStep, LumiSize roiSize, Lum64f* pValue);
 
-/* ---- sums and means ---- */
+/* Sums and means: one Lum64f per channel. src/stats/sum.cpp, with the row reductions of
+   src/stats/reduce.cpp. */
 LUMI_API LumStatus lumiSum_8u_C1R(const Lum8u* pSrc, int srcStep, LumiSize roiSize, Lum64f* pSum);
 LUMI_API LumStatus lumiMean_8u_C1R(const Lum8u* pSrc, int srcStep, LumiSize roiSize, Lum64f* pMean);
 LUMI_API LumStatus lumiSum_8u_C3R(const Lum8u* pSrc, int srcStep, LumiSize roiSize, Lum64f* pSum);
@@ -194,7 +197,8 @@ LUMI_API LumStatus lumiMean_32f_C4R(const Lum32f* pSrc, int srcStep, LumiSize ro
 LUMI_API LumStatus lumiSum_32f_AC4R(const Lum32f* pSrc, int srcStep, LumiSize roiSize, Lum64f* pSum, LumAccuracyHint hint);
 LUMI_API LumStatus lumiMean_32f_AC4R(const Lum32f* pSrc, int srcStep, LumiSize roiSize, Lum64f* pMean, LumAccuracyHint hint);
 
-/* ---- extrema; positions are per channel, relative to the ROI origin ---- */
+/* Extrema per channel, alone or with the first position in row-major order (relative to the
+   ROI origin). src/stats/minmax.cpp. */
 LUMI_API LumStatus lumiMin_8u_C1R(const Lum8u* pSrc, int srcStep, LumiSize roiSize, Lum8u* pMin);
 LUMI_API LumStatus lumiMax_8u_C1R(const Lum8u* pSrc, int srcStep, LumiSize roiSize, Lum8u* pMax);
 LUMI_API LumStatus lumiMinMax_8u_C1R(const Lum8u* pSrc, int srcStep, LumiSize roiSize, Lum8u* pMin, Lum8u* pMax);
@@ -256,7 +260,7 @@ LUMI_API LumStatus lumiMinMax_32f_AC4R(const Lum32f* pSrc, int srcStep, LumiSize
 LUMI_API LumStatus lumiMinIndx_32f_AC4R(const Lum32f* pSrc, int srcStep, LumiSize roiSize, Lum32f* pMin, int* pIndexX, int* pIndexY);
 LUMI_API LumStatus lumiMaxIndx_32f_AC4R(const Lum32f* pSrc, int srcStep, LumiSize roiSize, Lum32f* pMax, int* pIndexX, int* pIndexY);
 
-/* ---- samples inside [lowerBound, upperBound] ---- */
+/* Count of samples inside [lowerBound, upperBound], per channel. src/stats/minmax.cpp. */
 LUMI_API LumStatus lumiCountInRange_8u_C1R(const Lum8u* pSrc, int srcStep, LumiSize roiSize, int* pCounts, Lum8u lowerBound, Lum8u upperBound);
 LUMI_API LumStatus lumiCountInRange_8u_C3R(const Lum8u* pSrc, int srcStep, LumiSize roiSize, int pCounts[3], const Lum8u lowerBound[3], const Lum8u upperBound[3]);
 LUMI_API LumStatus lumiCountInRange_8u_AC4R(const Lum8u* pSrc, int srcStep, LumiSize roiSize, int pCounts[3], const Lum8u lowerBound[3], const Lum8u upperBound[3]);
@@ -264,7 +268,7 @@ LUMI_API LumStatus lumiCountInRange_32f_C1R(const Lum32f* pSrc, int srcStep, Lum
 LUMI_API LumStatus lumiCountInRange_32f_C3R(const Lum32f* pSrc, int srcStep, LumiSize roiSize, int pCounts[3], const Lum32f lowerBound[3], const Lum32f upperBound[3]);
 LUMI_API LumStatus lumiCountInRange_32f_AC4R(const Lum32f* pSrc, int srcStep, LumiSize roiSize, int pCounts[3], const Lum32f lowerBound[3], const Lum32f upperBound[3]);
 
-/* ---- image moments up to order 3 ---- */
+/* Image moments up to order 3 (states, filling, queries). src/stats/moments.cpp. */
 LUMI_API LumStatus lumiMomentInitAlloc_64f(LumiMomentState_64f** ppState, LumAccuracyHint hint);
 LUMI_API LumStatus lumiMomentFree_64f(LumiMomentState_64f* pState);
 LUMI_API LumStatus lumiMomentInitAlloc_64s(LumiMomentState_64s** ppState, LumAccuracyHint hint);
