@@ -1,5 +1,6 @@
 // Floating-point and complex image arithmetic against plain scalar references.
 #include <cfloat>
+#include <climits>
 #include <cmath>
 #include <functional>
 #include <string>
@@ -322,6 +323,59 @@ void checkComplexInt(const std::vector<Case<CT>>& cases, uint32_t salt) {
 TEST(ComplexInt, ScaledMembersMatchExactReference) {
   checkComplexInt<Lum16sc>(kC16sc, 6);
   checkComplexInt<Lum32sc>(kC32sc, 7);
+}
+
+// Scale factors at both ends of the int range: every nonzero result already saturates or
+// rounds to zero one step inside, so INT_MIN and INT_MAX must give what their neighbours give
+// (for the complex members and the scaled square, root, logarithm and exponential).
+template <class T, class Run>
+void expectExtremesMatchNeighbours(const std::string& name, Run run) {
+  GuardedImage<T> a(37, 2, 1, -1, -1, 11), b(37, 2, 1, -1, -1, 12);
+  auto result = [&](int sf) {
+    GuardedImage<T> d(37, 2, 1, -1, -1, 13);
+    run(a, b, d, sf);
+    return std::vector<unsigned char>(reinterpret_cast<const unsigned char*>(d.ptr()),
+                                      reinterpret_cast<const unsigned char*>(d.ptr()) +
+                                          sizeof(T) * 37);
+  };
+  EXPECT_EQ(result(INT_MIN), result(INT_MIN + 1)) << name;
+  EXPECT_EQ(result(INT_MAX), result(INT_MAX - 1)) << name;
+}
+
+template <class T>
+using ScaledFn = LumStatus (*)(const T*, int, T*, int, LumiSize, int);
+template <class T>
+void expectExtremesMatchNeighbours(const char* name, ScaledFn<T> f) {
+  expectExtremesMatchNeighbours<T>(name, [f](auto& a, auto&, auto& d, int sf) {
+    f(a.ptr(), a.step(), d.ptr(), d.step(), LumiSize{37, 1}, sf);
+  });
+}
+
+TEST(ScaleFactor, ExtremesMatchTheirNeighbours) {
+  for (const auto& c : kC16sc)
+    expectExtremesMatchNeighbours<Lum16sc>(c.name, [&c](auto& a, auto& b, auto& d, int sf) {
+      c.run[0](a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), LumiSize{37 / c.l.ch, 1},
+               b.ptr(), sf);
+    });
+  for (const auto& c : kC32sc)
+    expectExtremesMatchNeighbours<Lum32sc>(c.name, [&c](auto& a, auto& b, auto& d, int sf) {
+      c.run[0](a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), LumiSize{37 / c.l.ch, 1},
+               b.ptr(), sf);
+    });
+  const std::pair<const char*, ScaledFn<Lum8u>> u8[] = {
+      {"Sqr_8u", lumiSqr_8u_C1RSfs}, {"Sqrt_8u", lumiSqrt_8u_C1RSfs},
+      {"Ln_8u", lumiLn_8u_C1RSfs}, {"Exp_8u", lumiExp_8u_C1RSfs}};
+  const std::pair<const char*, ScaledFn<Lum16u>> u16[] = {
+      {"Sqr_16u", lumiSqr_16u_C1RSfs}, {"Sqrt_16u", lumiSqrt_16u_C1RSfs}};
+  const std::pair<const char*, ScaledFn<Lum16s>> s16[] = {
+      {"Sqr_16s", lumiSqr_16s_C1RSfs}, {"Sqrt_16s", lumiSqrt_16s_C1RSfs},
+      {"Ln_16s", lumiLn_16s_C1RSfs}, {"Exp_16s", lumiExp_16s_C1RSfs}};
+  for (const auto& [name, f] : u8) expectExtremesMatchNeighbours<Lum8u>(name, f);
+  for (const auto& [name, f] : u16) expectExtremesMatchNeighbours<Lum16u>(name, f);
+  for (const auto& [name, f] : s16) expectExtremesMatchNeighbours<Lum16s>(name, f);
+  Lum8u ten = 10, out = 0;  // 100 x 2^huge saturates
+  EXPECT_EQ(lumiSqr_8u_C1RSfs(&ten, 1, &out, 1, {1, 1}, INT_MIN), lumStatusOk);
+  EXPECT_EQ(out, 255);
 }
 
 TEST(ComplexInt, ScaleFactorExamples) {
