@@ -25,7 +25,7 @@ inline void forEachSample(const T* src, int sstep, LumiSize roi, F&& f) {
   for (int y = 0; y < roi.height; ++y) {
     const T* s = rowAt(src, sstep, y);
     for (int x = 0; x < roi.width; ++x)
-      for (int c = 0; c < L::kUse; ++c) f(c, s[x * L::kCh + c]);
+      for (int c = 0; c < L::kUse; ++c) f(c, s[elemsOf(x, L::kCh) + c]);
   }
 }
 
@@ -77,11 +77,11 @@ void count8u(const Lum8u* src, int sstep, LumiSize roi, uint32_t (*out)[256]) {
       int x = 0;
       for (; x + 2 <= roi.width; x += 2)
         for (int c = 0; c < L::kUse; ++c) {
-          ++t[0][c][s[x * L::kCh + c]];
-          ++t[1][c][s[(x + 1) * L::kCh + c]];
+          ++t[0][c][s[elemsOf(x, L::kCh) + c]];
+          ++t[1][c][s[elemsOf(x + 1, L::kCh) + c]];
         }
       for (; x < roi.width; ++x)
-        for (int c = 0; c < L::kUse; ++c) ++t[0][c][s[x * L::kCh + c]];
+        for (int c = 0; c < L::kUse; ++c) ++t[0][c][s[elemsOf(x, L::kCh) + c]];
     }
     for (int c = 0; c < L::kUse; ++c)
       for (int k = 0; k < 256; ++k) out[c][k] = t[0][c][k] + t[1][c][k];
@@ -315,6 +315,7 @@ LumStatus hist32f(const Lum32f* src, int sstep, LumiSize roi, Lum32s* const* his
 template <class T, class L, class P>
 LumStatus histRun(const T* src, int sstep, LumiSize roi, Lum32s* const* hist,
                   const P* const* lev, const int* n) {
+  roi = coalesceRows(roi, bytesOf(1, L::kCh, sizeof(T)), sstep);
   if constexpr (std::is_same_v<T, Lum8u>)
     return hist8u<L>(src, sstep, roi, hist, lev, n);
   else if constexpr (std::is_same_v<T, Lum32f>)
@@ -402,43 +403,58 @@ LumStatus evenCn(const T* src, int sstep, LumiSize roi, Lum32s* const* hist, Lum
 }  // namespace
 }  // namespace lumi
 
-#define LUMI_HIST_RANGE(TT, T, P)                                                                \
-  LUMI_API LumStatus lumiHistogramRange_##TT##_C1R(const T* pSrc, int srcStep, LumiSize roi,    \
-                                                   Lum32s* pHist, const P* pLevels, int n) {     \
-    return lumi::rangeC1<T, P>(pSrc, srcStep, roi, pHist, pLevels, n);                          \
-  }                                                                                              \
-  LUMI_HIST_RANGE_N(TT, T, P, C3, 3)                                                             \
-  LUMI_HIST_RANGE_N(TT, T, P, C4, 4)                                                             \
-  LUMI_HIST_RANGE_N(TT, T, P, AC4, 3)
-#define LUMI_HIST_RANGE_N(TT, T, P, LAY, NCH)                                                    \
-  LUMI_API LumStatus lumiHistogramRange_##TT##_##LAY##R(const T* pSrc, int srcStep,             \
-                                                        LumiSize roi, Lum32s* const h[NCH],     \
-                                                        const P* const l[NCH],                  \
-                                                        const int n[NCH]) {                     \
-    return lumi::rangeCn<T, lumi::LAY, P>(pSrc, srcStep, roi, h, l, n);                         \
+// ---- exported functions -----------------------------------------------------------------------
+// T the sample type, P the level type; C3, C4 and AC4 take one histogram and level list per
+// channel (NCH of them).
+#define LUMI_HIST_RANGE(NAME, T, P)                                                            \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roi, Lum32s* pHist,             \
+                          const P* pLevels, int n) {                                           \
+    return lumi::rangeC1<T, P>(pSrc, srcStep, roi, pHist, pLevels, n);                         \
   }
-#define LUMI_HIST_EVEN(TT, T)                                                                    \
-  LUMI_API LumStatus lumiHistogramEven_##TT##_C1R(const T* pSrc, int srcStep, LumiSize roi,     \
-                                                  Lum32s* pHist, Lum32s* pLevels, int n,        \
-                                                  Lum32s lower, Lum32s upper) {                 \
-    return lumi::evenC1<T>(pSrc, srcStep, roi, pHist, pLevels, n, lower, upper);                \
-  }                                                                                              \
-  LUMI_HIST_EVEN_N(TT, T, C3, 3)                                                                 \
-  LUMI_HIST_EVEN_N(TT, T, C4, 4)                                                                 \
-  LUMI_HIST_EVEN_N(TT, T, AC4, 3)
-#define LUMI_HIST_EVEN_N(TT, T, LAY, NCH)                                                        \
-  LUMI_API LumStatus lumiHistogramEven_##TT##_##LAY##R(                                          \
-      const T* pSrc, int srcStep, LumiSize roi, Lum32s* const h[NCH], Lum32s* const l[NCH],      \
-      const int n[NCH], const Lum32s lower[NCH], const Lum32s upper[NCH]) {                      \
-    return lumi::evenCn<T, lumi::LAY>(pSrc, srcStep, roi, h, l, n, lower, upper);                \
+#define LUMI_HIST_RANGE_N(NAME, T, P, L, NCH)                                                  \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roi, Lum32s* const h[NCH],      \
+                          const P* const l[NCH], const int n[NCH]) {                           \
+    return lumi::rangeCn<T, lumi::L, P>(pSrc, srcStep, roi, h, l, n);                          \
+  }
+#define LUMI_HIST_EVEN(NAME, T)                                                                \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roi, Lum32s* pHist,             \
+                          Lum32s* pLevels, int n, Lum32s lower, Lum32s upper) {                \
+    return lumi::evenC1<T>(pSrc, srcStep, roi, pHist, pLevels, n, lower, upper);               \
+  }
+#define LUMI_HIST_EVEN_N(NAME, T, L, NCH)                                                      \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roi, Lum32s* const h[NCH],      \
+                          Lum32s* const l[NCH], const int n[NCH], const Lum32s lower[NCH],     \
+                          const Lum32s upper[NCH]) {                                           \
+    return lumi::evenCn<T, lumi::L>(pSrc, srcStep, roi, h, l, n, lower, upper);                \
   }
 
 extern "C" {
-LUMI_HIST_RANGE(8u, Lum8u, Lum32s)
-LUMI_HIST_RANGE(16s, Lum16s, Lum32s)
-LUMI_HIST_RANGE(16u, Lum16u, Lum32s)
-LUMI_HIST_RANGE(32f, Lum32f, Lum32f)
-LUMI_HIST_EVEN(8u, Lum8u)
-LUMI_HIST_EVEN(16s, Lum16s)
-LUMI_HIST_EVEN(16u, Lum16u)
+LUMI_HIST_RANGE(lumiHistogramRange_8u_C1R, Lum8u, Lum32s)
+LUMI_HIST_RANGE_N(lumiHistogramRange_8u_C3R, Lum8u, Lum32s, C3, 3)
+LUMI_HIST_RANGE_N(lumiHistogramRange_8u_C4R, Lum8u, Lum32s, C4, 4)
+LUMI_HIST_RANGE_N(lumiHistogramRange_8u_AC4R, Lum8u, Lum32s, AC4, 3)
+LUMI_HIST_RANGE(lumiHistogramRange_16s_C1R, Lum16s, Lum32s)
+LUMI_HIST_RANGE_N(lumiHistogramRange_16s_C3R, Lum16s, Lum32s, C3, 3)
+LUMI_HIST_RANGE_N(lumiHistogramRange_16s_C4R, Lum16s, Lum32s, C4, 4)
+LUMI_HIST_RANGE_N(lumiHistogramRange_16s_AC4R, Lum16s, Lum32s, AC4, 3)
+LUMI_HIST_RANGE(lumiHistogramRange_16u_C1R, Lum16u, Lum32s)
+LUMI_HIST_RANGE_N(lumiHistogramRange_16u_C3R, Lum16u, Lum32s, C3, 3)
+LUMI_HIST_RANGE_N(lumiHistogramRange_16u_C4R, Lum16u, Lum32s, C4, 4)
+LUMI_HIST_RANGE_N(lumiHistogramRange_16u_AC4R, Lum16u, Lum32s, AC4, 3)
+LUMI_HIST_RANGE(lumiHistogramRange_32f_C1R, Lum32f, Lum32f)
+LUMI_HIST_RANGE_N(lumiHistogramRange_32f_C3R, Lum32f, Lum32f, C3, 3)
+LUMI_HIST_RANGE_N(lumiHistogramRange_32f_C4R, Lum32f, Lum32f, C4, 4)
+LUMI_HIST_RANGE_N(lumiHistogramRange_32f_AC4R, Lum32f, Lum32f, AC4, 3)
+LUMI_HIST_EVEN(lumiHistogramEven_8u_C1R, Lum8u)
+LUMI_HIST_EVEN_N(lumiHistogramEven_8u_C3R, Lum8u, C3, 3)
+LUMI_HIST_EVEN_N(lumiHistogramEven_8u_C4R, Lum8u, C4, 4)
+LUMI_HIST_EVEN_N(lumiHistogramEven_8u_AC4R, Lum8u, AC4, 3)
+LUMI_HIST_EVEN(lumiHistogramEven_16s_C1R, Lum16s)
+LUMI_HIST_EVEN_N(lumiHistogramEven_16s_C3R, Lum16s, C3, 3)
+LUMI_HIST_EVEN_N(lumiHistogramEven_16s_C4R, Lum16s, C4, 4)
+LUMI_HIST_EVEN_N(lumiHistogramEven_16s_AC4R, Lum16s, AC4, 3)
+LUMI_HIST_EVEN(lumiHistogramEven_16u_C1R, Lum16u)
+LUMI_HIST_EVEN_N(lumiHistogramEven_16u_C3R, Lum16u, C3, 3)
+LUMI_HIST_EVEN_N(lumiHistogramEven_16u_C4R, Lum16u, C4, 4)
+LUMI_HIST_EVEN_N(lumiHistogramEven_16u_AC4R, Lum16u, AC4, 3)
 }

@@ -7,14 +7,13 @@
 #define HWY_TARGET_INCLUDE "src/threshold/lut.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
+#include "core/simd.h"
+#include "core/alpha-inl.h"
 
-#include "core/frame.h"
-
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
-
-#if HWY_TARGET == HWY_AVX3
+LUMI_SIMD_BEGIN
+// Only AVX-512 has a vector lookup worth having (two-table byte permutes); the other targets
+// take the scalar twin.
+#if LUMI_TABLE_TARGET && HWY_TARGET == HWY_AVX3
 // A 256-byte map held in registers, read as 128 little-endian words: two-table word permutes
 // pick the word holding map[v] (v >> 1), bit 7 of v chooses the table pair and bit 0 the byte.
 struct Map8uRegs {
@@ -38,37 +37,32 @@ struct Map8uRegs {
   }
 };
 
-// Full-map lookup of n bytes; with alphaKept, every fourth byte of the destination is left as
+// Full-map lookup of n bytes; with keepAlpha, every fourth byte of the destination is left as
 // it was.
-void MapRow8u(const uint8_t* s, uint8_t* d, int n, const uint8_t* map, int alphaKept) {
+void mapRow8u(const uint8_t* s, uint8_t* d, std::ptrdiff_t n, const uint8_t* map, bool keepAlpha) {
   const Map8uRegs t(map);
-  const __mmask64 keep = alphaKept ? 0x7777777777777777ull : ~0ull;
-  int i = 0;
+  const hn::Full512<uint8_t> d8;
+  const auto colour = colourLanes(d8);
+  std::ptrdiff_t i = 0;
   for (; i + 64 <= n; i += 64)
-    _mm512_mask_storeu_epi8(d + i, keep, t.lookup(_mm512_loadu_si512(s + i)));
-  if (i < n) {
-    const __mmask64 m = (~0ull) >> (64 - (n - i));
-    _mm512_mask_storeu_epi8(d + i, m & keep, t.lookup(_mm512_maskz_loadu_epi8(m, s + i)));
-  }
+    storeColour(d8, hn::Vec512<uint8_t>{t.lookup(_mm512_loadu_si512(s + i))}, d + i, keepAlpha,
+                colour);
+  for (; i < n; ++i)
+    if (!keepAlpha || (i & 3) != 3) d[i] = map[s[i]];
 }
 #endif
 
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+LUMI_SIMD_END
 
 #if HWY_ONCE
 #include <algorithm>
 #include <cmath>
 
-#include "core/simd.h"
 #include "threshold/lut_kernels.h"
 
 namespace lumi {
 namespace {
 
-using MapRow8uFn = void (*)(const uint8_t*, uint8_t*, int, const uint8_t*, int);
-static MapRow8uFn const kMapRow8u[4] = {nullptr, nullptr, nullptr, LUMI_CHOOSE_AVX3(MapRow8u)};
 
 using levels::SampleRange;
 using levels::clampToRange;
@@ -189,8 +183,8 @@ void buildMap(Kind kind, T* map, const Lum32s* val, const Lum32s* lev, int n) {
 
 // maps[c] points at the entry of sample value 0 (value + 32768 offset already applied for 16s).
 template <class T>
-inline void mapRow(const T* s, T* d, int n, const T* map) {
-  int i = 0;
+inline void mapRow(const T* s, T* d, std::ptrdiff_t n, const T* map) {
+  std::ptrdiff_t i = 0;
   for (; i + 4 <= n; i += 4) {
     T a = map[s[i]], b = map[s[i + 1]], c = map[s[i + 2]], e = map[s[i + 3]];
     d[i] = a;
@@ -199,6 +193,22 @@ inline void mapRow(const T* s, T* d, int n, const T* map) {
     d[i + 3] = e;
   }
   for (; i < n; ++i) d[i] = map[s[i]];
+}
+
+using MapRow8uFn = void (*)(const uint8_t*, uint8_t*, std::ptrdiff_t, const uint8_t*, bool);
+
+// The twin of the AVX-512 lookup: a full-map lookup of n bytes, sparing every fourth when
+// keepAlpha.
+void mapRow8uScalar(const uint8_t* s, uint8_t* d, std::ptrdiff_t n, const uint8_t* map,
+                    bool keepAlpha) {
+  if (!keepAlpha) return mapRow(s, d, n, map);
+  for (std::ptrdiff_t i = 0; i < n; ++i)
+    if ((i & 3) != 3) d[i] = map[s[i]];
+}
+
+MapRow8uFn pickMapRow8u() {
+  static MapRow8uFn const table[4] = {nullptr, nullptr, nullptr, LUMI_CHOOSE_AVX3(mapRow8u)};
+  return pick(table, &mapRow8uScalar);
 }
 
 template <class T, class L>
@@ -234,17 +244,17 @@ void applyMaps(const T* src, int sstep, T* dst, int dstep, LumiSize roi, T* cons
   }
   // One table for every channel: the row is a single run of samples. Separate tables per
   // channel go pixel by pixel (three or four register lookups per vector gain nothing there).
-  MapRow8uFn simd = nullptr;
-  if constexpr (sizeof(T) == 1) simd = pickSimd(kMapRow8u);
   const bool ac4 = L::kUse != L::kCh;
+  const std::ptrdiff_t n = elemsOf(roi.width, L::kCh);
+  const MapRow8uFn map8u = sizeof(T) == 1 && same ? pickMapRow8u() : nullptr;
   for (int y = 0; y < roi.height; ++y) {
     const T* s = rowAt(src, sstep, y);
     T* d = rowAt(dst, dstep, y);
-    if (same && simd) {
-      simd(reinterpret_cast<const uint8_t*>(s), reinterpret_cast<uint8_t*>(d),
-           roi.width * L::kCh, reinterpret_cast<const uint8_t*>(tables[0]), ac4);
+    if (map8u) {  // 8u with one table
+      map8u(reinterpret_cast<const uint8_t*>(s), reinterpret_cast<uint8_t*>(d), n,
+            reinterpret_cast<const uint8_t*>(tables[0]), ac4);
     } else if (same && !ac4) {
-      mapRow(s, d, roi.width * L::kCh, maps[0]);
+      mapRow(s, d, n, maps[0]);
     } else {
       mapPixels<T, L>(s, d, roi.width, maps);
     }
@@ -260,12 +270,12 @@ void searchRows(const T* src, int sstep, T* dst, int dstep, LumiSize roi,
     T* d = rowAt(dst, dstep, y);
     for (int x = 0; x < roi.width; ++x) {
       for (int c = 0; c < L::kUse; ++c) {
-        int v = s[x * L::kCh + c];
+        int v = s[elemsOf(x, L::kCh) + c];
         const Lum32s* l = lev[c];
         int m = n[c];
         T out = static_cast<T>(v);
         if (v >= l[0] && v < l[m - 1]) out = saturate<T>(val[c][levels::searchInterval(l, m, v)]);
-        d[x * L::kCh + c] = out;
+        d[elemsOf(x, L::kCh) + c] = out;
       }
     }
   }
@@ -411,7 +421,7 @@ LumStatus lut32f(Kind kind, const Lum32f* src, int sstep, Lum32f* dst, int dstep
     const Lum32f* s = rowAt(src, sstep, y);
     Lum32f* d = rowAt(dst, dstep, y);
     for (int x = 0; x < roi.width; ++x)
-      for (int c = 0; c < ch; ++c) d[x * L::kCh + c] = chan[c].apply(s[x * L::kCh + c]);
+      for (int c = 0; c < ch; ++c) d[elemsOf(x, L::kCh) + c] = chan[c].apply(s[elemsOf(x, L::kCh) + c]);
   }
   lumsFree(scratch);
   return lumStatusOk;
@@ -422,6 +432,7 @@ LumStatus lut32f(Kind kind, const Lum32f* src, int sstep, Lum32f* dst, int dstep
 template <class T, class L, class P>
 LumStatus lutRun(Kind kind, const T* src, int sstep, T* dst, int dstep, LumiSize roi,
                  const P* const* val, const P* const* lev, const int* n) {
+  roi = coalesceRows(roi, bytesOf(1, L::kCh, sizeof(T)), sstep, dstep);
   if constexpr (std::is_same_v<T, Lum32f>)
     return lut32f<L>(kind, src, sstep, dst, dstep, roi, val, lev, n);
   else
@@ -456,41 +467,126 @@ LumStatus lutCn(Kind kind, const T* src, int sstep, T* dst, int dstep, LumiSize 
 }  // namespace
 }  // namespace lumi
 
-#define LUMI_LUT_C1(OP, KIND, TT, T, P)                                                          \
-  LUMI_API LumStatus lumi##OP##_##TT##_C1R(const T* pSrc, int srcStep, T* pDst, int dstStep,     \
-                                           LumiSize roi, const P* v, const P* l, int n) {        \
-    return lumi::lutC1<T, P>(lumi::Kind::KIND, pSrc, srcStep, pDst, dstStep, roi, v, l, n);      \
-  }                                                                                              \
-  LUMI_API LumStatus lumi##OP##_##TT##_C1IR(T* p, int step, LumiSize roi, const P* v,            \
-                                            const P* l, int n) {                                 \
-    return lumi::lutC1<T, P>(lumi::Kind::KIND, p, step, p, step, roi, v, l, n);                  \
+// ---- exported functions -----------------------------------------------------------------------
+// T the sample type, P the level and value type; C3, C4 and AC4 take one level list per
+// channel (NCH of them).
+#define LUMI_LUT_C1(NAME, KIND, T, P)                                                          \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize roi,      \
+                          const P* v, const P* l, int n) {                                     \
+    return lumi::lutC1<T, P>(lumi::Kind::KIND, pSrc, srcStep, pDst, dstStep, roi, v, l, n);    \
   }
-#define LUMI_LUT_CN(OP, KIND, TT, T, P, LAY, NCH)                                                \
-  LUMI_API LumStatus lumi##OP##_##TT##_##LAY##R(const T* pSrc, int srcStep, T* pDst,             \
-                                                int dstStep, LumiSize roi, const P* const v[NCH], \
-                                                const P* const l[NCH], const int n[NCH]) {       \
-    return lumi::lutCn<T, lumi::LAY, P>(lumi::Kind::KIND, pSrc, srcStep, pDst, dstStep, roi, v,  \
-                                        l, n);                                                   \
-  }                                                                                              \
-  LUMI_API LumStatus lumi##OP##_##TT##_##LAY##IR(T* p, int step, LumiSize roi,                   \
-                                                 const P* const v[NCH], const P* const l[NCH],   \
-                                                 const int n[NCH]) {                             \
-    return lumi::lutCn<T, lumi::LAY, P>(lumi::Kind::KIND, p, step, p, step, roi, v, l, n);       \
+#define LUMI_LUT_C1_I(NAME, KIND, T, P)                                                        \
+  LUMI_API LumStatus NAME(T* p, int step, LumiSize roi, const P* v, const P* l, int n) {       \
+    return lumi::lutC1<T, P>(lumi::Kind::KIND, p, step, p, step, roi, v, l, n);                \
   }
-#define LUMI_LUT_TYPE(OP, KIND, TT, T, P) \
-  LUMI_LUT_C1(OP, KIND, TT, T, P)         \
-  LUMI_LUT_CN(OP, KIND, TT, T, P, C3, 3)  \
-  LUMI_LUT_CN(OP, KIND, TT, T, P, C4, 4)  \
-  LUMI_LUT_CN(OP, KIND, TT, T, P, AC4, 3)
-#define LUMI_LUT_KIND(OP, KIND)                   \
-  LUMI_LUT_TYPE(OP, KIND, 8u, Lum8u, Lum32s)      \
-  LUMI_LUT_TYPE(OP, KIND, 16s, Lum16s, Lum32s)    \
-  LUMI_LUT_TYPE(OP, KIND, 16u, Lum16u, Lum32s)    \
-  LUMI_LUT_TYPE(OP, KIND, 32f, Lum32f, Lum32f)
+#define LUMI_LUT_CN(NAME, KIND, T, P, L, NCH)                                                  \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize roi,      \
+                          const P* const v[NCH], const P* const l[NCH], const int n[NCH]) {    \
+    return lumi::lutCn<T, lumi::L, P>(lumi::Kind::KIND, pSrc, srcStep, pDst, dstStep, roi, v,  \
+                                      l, n);                                                   \
+  }
+#define LUMI_LUT_CN_I(NAME, KIND, T, P, L, NCH)                                                \
+  LUMI_API LumStatus NAME(T* p, int step, LumiSize roi, const P* const v[NCH],                 \
+                          const P* const l[NCH], const int n[NCH]) {                           \
+    return lumi::lutCn<T, lumi::L, P>(lumi::Kind::KIND, p, step, p, step, roi, v, l, n);       \
+  }
 
 extern "C" {
-LUMI_LUT_KIND(LUT, Step)
-LUMI_LUT_KIND(LUT_Linear, Linear)
-LUMI_LUT_KIND(LUT_Cubic, Cubic)
+LUMI_LUT_C1(lumiLUT_8u_C1R, Step, Lum8u, Lum32s)
+LUMI_LUT_C1_I(lumiLUT_8u_C1IR, Step, Lum8u, Lum32s)
+LUMI_LUT_CN(lumiLUT_8u_C3R, Step, Lum8u, Lum32s, C3, 3)
+LUMI_LUT_CN_I(lumiLUT_8u_C3IR, Step, Lum8u, Lum32s, C3, 3)
+LUMI_LUT_CN(lumiLUT_8u_C4R, Step, Lum8u, Lum32s, C4, 4)
+LUMI_LUT_CN_I(lumiLUT_8u_C4IR, Step, Lum8u, Lum32s, C4, 4)
+LUMI_LUT_CN(lumiLUT_8u_AC4R, Step, Lum8u, Lum32s, AC4, 3)
+LUMI_LUT_CN_I(lumiLUT_8u_AC4IR, Step, Lum8u, Lum32s, AC4, 3)
+LUMI_LUT_C1(lumiLUT_16s_C1R, Step, Lum16s, Lum32s)
+LUMI_LUT_C1_I(lumiLUT_16s_C1IR, Step, Lum16s, Lum32s)
+LUMI_LUT_CN(lumiLUT_16s_C3R, Step, Lum16s, Lum32s, C3, 3)
+LUMI_LUT_CN_I(lumiLUT_16s_C3IR, Step, Lum16s, Lum32s, C3, 3)
+LUMI_LUT_CN(lumiLUT_16s_C4R, Step, Lum16s, Lum32s, C4, 4)
+LUMI_LUT_CN_I(lumiLUT_16s_C4IR, Step, Lum16s, Lum32s, C4, 4)
+LUMI_LUT_CN(lumiLUT_16s_AC4R, Step, Lum16s, Lum32s, AC4, 3)
+LUMI_LUT_CN_I(lumiLUT_16s_AC4IR, Step, Lum16s, Lum32s, AC4, 3)
+LUMI_LUT_C1(lumiLUT_16u_C1R, Step, Lum16u, Lum32s)
+LUMI_LUT_C1_I(lumiLUT_16u_C1IR, Step, Lum16u, Lum32s)
+LUMI_LUT_CN(lumiLUT_16u_C3R, Step, Lum16u, Lum32s, C3, 3)
+LUMI_LUT_CN_I(lumiLUT_16u_C3IR, Step, Lum16u, Lum32s, C3, 3)
+LUMI_LUT_CN(lumiLUT_16u_C4R, Step, Lum16u, Lum32s, C4, 4)
+LUMI_LUT_CN_I(lumiLUT_16u_C4IR, Step, Lum16u, Lum32s, C4, 4)
+LUMI_LUT_CN(lumiLUT_16u_AC4R, Step, Lum16u, Lum32s, AC4, 3)
+LUMI_LUT_CN_I(lumiLUT_16u_AC4IR, Step, Lum16u, Lum32s, AC4, 3)
+LUMI_LUT_C1(lumiLUT_32f_C1R, Step, Lum32f, Lum32f)
+LUMI_LUT_C1_I(lumiLUT_32f_C1IR, Step, Lum32f, Lum32f)
+LUMI_LUT_CN(lumiLUT_32f_C3R, Step, Lum32f, Lum32f, C3, 3)
+LUMI_LUT_CN_I(lumiLUT_32f_C3IR, Step, Lum32f, Lum32f, C3, 3)
+LUMI_LUT_CN(lumiLUT_32f_C4R, Step, Lum32f, Lum32f, C4, 4)
+LUMI_LUT_CN_I(lumiLUT_32f_C4IR, Step, Lum32f, Lum32f, C4, 4)
+LUMI_LUT_CN(lumiLUT_32f_AC4R, Step, Lum32f, Lum32f, AC4, 3)
+LUMI_LUT_CN_I(lumiLUT_32f_AC4IR, Step, Lum32f, Lum32f, AC4, 3)
+LUMI_LUT_C1(lumiLUT_Linear_8u_C1R, Linear, Lum8u, Lum32s)
+LUMI_LUT_C1_I(lumiLUT_Linear_8u_C1IR, Linear, Lum8u, Lum32s)
+LUMI_LUT_CN(lumiLUT_Linear_8u_C3R, Linear, Lum8u, Lum32s, C3, 3)
+LUMI_LUT_CN_I(lumiLUT_Linear_8u_C3IR, Linear, Lum8u, Lum32s, C3, 3)
+LUMI_LUT_CN(lumiLUT_Linear_8u_C4R, Linear, Lum8u, Lum32s, C4, 4)
+LUMI_LUT_CN_I(lumiLUT_Linear_8u_C4IR, Linear, Lum8u, Lum32s, C4, 4)
+LUMI_LUT_CN(lumiLUT_Linear_8u_AC4R, Linear, Lum8u, Lum32s, AC4, 3)
+LUMI_LUT_CN_I(lumiLUT_Linear_8u_AC4IR, Linear, Lum8u, Lum32s, AC4, 3)
+LUMI_LUT_C1(lumiLUT_Linear_16s_C1R, Linear, Lum16s, Lum32s)
+LUMI_LUT_C1_I(lumiLUT_Linear_16s_C1IR, Linear, Lum16s, Lum32s)
+LUMI_LUT_CN(lumiLUT_Linear_16s_C3R, Linear, Lum16s, Lum32s, C3, 3)
+LUMI_LUT_CN_I(lumiLUT_Linear_16s_C3IR, Linear, Lum16s, Lum32s, C3, 3)
+LUMI_LUT_CN(lumiLUT_Linear_16s_C4R, Linear, Lum16s, Lum32s, C4, 4)
+LUMI_LUT_CN_I(lumiLUT_Linear_16s_C4IR, Linear, Lum16s, Lum32s, C4, 4)
+LUMI_LUT_CN(lumiLUT_Linear_16s_AC4R, Linear, Lum16s, Lum32s, AC4, 3)
+LUMI_LUT_CN_I(lumiLUT_Linear_16s_AC4IR, Linear, Lum16s, Lum32s, AC4, 3)
+LUMI_LUT_C1(lumiLUT_Linear_16u_C1R, Linear, Lum16u, Lum32s)
+LUMI_LUT_C1_I(lumiLUT_Linear_16u_C1IR, Linear, Lum16u, Lum32s)
+LUMI_LUT_CN(lumiLUT_Linear_16u_C3R, Linear, Lum16u, Lum32s, C3, 3)
+LUMI_LUT_CN_I(lumiLUT_Linear_16u_C3IR, Linear, Lum16u, Lum32s, C3, 3)
+LUMI_LUT_CN(lumiLUT_Linear_16u_C4R, Linear, Lum16u, Lum32s, C4, 4)
+LUMI_LUT_CN_I(lumiLUT_Linear_16u_C4IR, Linear, Lum16u, Lum32s, C4, 4)
+LUMI_LUT_CN(lumiLUT_Linear_16u_AC4R, Linear, Lum16u, Lum32s, AC4, 3)
+LUMI_LUT_CN_I(lumiLUT_Linear_16u_AC4IR, Linear, Lum16u, Lum32s, AC4, 3)
+LUMI_LUT_C1(lumiLUT_Linear_32f_C1R, Linear, Lum32f, Lum32f)
+LUMI_LUT_C1_I(lumiLUT_Linear_32f_C1IR, Linear, Lum32f, Lum32f)
+LUMI_LUT_CN(lumiLUT_Linear_32f_C3R, Linear, Lum32f, Lum32f, C3, 3)
+LUMI_LUT_CN_I(lumiLUT_Linear_32f_C3IR, Linear, Lum32f, Lum32f, C3, 3)
+LUMI_LUT_CN(lumiLUT_Linear_32f_C4R, Linear, Lum32f, Lum32f, C4, 4)
+LUMI_LUT_CN_I(lumiLUT_Linear_32f_C4IR, Linear, Lum32f, Lum32f, C4, 4)
+LUMI_LUT_CN(lumiLUT_Linear_32f_AC4R, Linear, Lum32f, Lum32f, AC4, 3)
+LUMI_LUT_CN_I(lumiLUT_Linear_32f_AC4IR, Linear, Lum32f, Lum32f, AC4, 3)
+LUMI_LUT_C1(lumiLUT_Cubic_8u_C1R, Cubic, Lum8u, Lum32s)
+LUMI_LUT_C1_I(lumiLUT_Cubic_8u_C1IR, Cubic, Lum8u, Lum32s)
+LUMI_LUT_CN(lumiLUT_Cubic_8u_C3R, Cubic, Lum8u, Lum32s, C3, 3)
+LUMI_LUT_CN_I(lumiLUT_Cubic_8u_C3IR, Cubic, Lum8u, Lum32s, C3, 3)
+LUMI_LUT_CN(lumiLUT_Cubic_8u_C4R, Cubic, Lum8u, Lum32s, C4, 4)
+LUMI_LUT_CN_I(lumiLUT_Cubic_8u_C4IR, Cubic, Lum8u, Lum32s, C4, 4)
+LUMI_LUT_CN(lumiLUT_Cubic_8u_AC4R, Cubic, Lum8u, Lum32s, AC4, 3)
+LUMI_LUT_CN_I(lumiLUT_Cubic_8u_AC4IR, Cubic, Lum8u, Lum32s, AC4, 3)
+LUMI_LUT_C1(lumiLUT_Cubic_16s_C1R, Cubic, Lum16s, Lum32s)
+LUMI_LUT_C1_I(lumiLUT_Cubic_16s_C1IR, Cubic, Lum16s, Lum32s)
+LUMI_LUT_CN(lumiLUT_Cubic_16s_C3R, Cubic, Lum16s, Lum32s, C3, 3)
+LUMI_LUT_CN_I(lumiLUT_Cubic_16s_C3IR, Cubic, Lum16s, Lum32s, C3, 3)
+LUMI_LUT_CN(lumiLUT_Cubic_16s_C4R, Cubic, Lum16s, Lum32s, C4, 4)
+LUMI_LUT_CN_I(lumiLUT_Cubic_16s_C4IR, Cubic, Lum16s, Lum32s, C4, 4)
+LUMI_LUT_CN(lumiLUT_Cubic_16s_AC4R, Cubic, Lum16s, Lum32s, AC4, 3)
+LUMI_LUT_CN_I(lumiLUT_Cubic_16s_AC4IR, Cubic, Lum16s, Lum32s, AC4, 3)
+LUMI_LUT_C1(lumiLUT_Cubic_16u_C1R, Cubic, Lum16u, Lum32s)
+LUMI_LUT_C1_I(lumiLUT_Cubic_16u_C1IR, Cubic, Lum16u, Lum32s)
+LUMI_LUT_CN(lumiLUT_Cubic_16u_C3R, Cubic, Lum16u, Lum32s, C3, 3)
+LUMI_LUT_CN_I(lumiLUT_Cubic_16u_C3IR, Cubic, Lum16u, Lum32s, C3, 3)
+LUMI_LUT_CN(lumiLUT_Cubic_16u_C4R, Cubic, Lum16u, Lum32s, C4, 4)
+LUMI_LUT_CN_I(lumiLUT_Cubic_16u_C4IR, Cubic, Lum16u, Lum32s, C4, 4)
+LUMI_LUT_CN(lumiLUT_Cubic_16u_AC4R, Cubic, Lum16u, Lum32s, AC4, 3)
+LUMI_LUT_CN_I(lumiLUT_Cubic_16u_AC4IR, Cubic, Lum16u, Lum32s, AC4, 3)
+LUMI_LUT_C1(lumiLUT_Cubic_32f_C1R, Cubic, Lum32f, Lum32f)
+LUMI_LUT_C1_I(lumiLUT_Cubic_32f_C1IR, Cubic, Lum32f, Lum32f)
+LUMI_LUT_CN(lumiLUT_Cubic_32f_C3R, Cubic, Lum32f, Lum32f, C3, 3)
+LUMI_LUT_CN_I(lumiLUT_Cubic_32f_C3IR, Cubic, Lum32f, Lum32f, C3, 3)
+LUMI_LUT_CN(lumiLUT_Cubic_32f_C4R, Cubic, Lum32f, Lum32f, C4, 4)
+LUMI_LUT_CN_I(lumiLUT_Cubic_32f_C4IR, Cubic, Lum32f, Lum32f, C4, 4)
+LUMI_LUT_CN(lumiLUT_Cubic_32f_AC4R, Cubic, Lum32f, Lum32f, AC4, 3)
+LUMI_LUT_CN_I(lumiLUT_Cubic_32f_AC4IR, Cubic, Lum32f, Lum32f, AC4, 3)
 }
 #endif  // HWY_ONCE

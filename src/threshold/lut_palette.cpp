@@ -48,17 +48,18 @@ LumStatus palette(const S* src, int sstep, D* dst, int dstep, LumiSize roi, cons
 }  // namespace
 }  // namespace lumi
 
+// ---- exported functions -----------------------------------------------------------------------
+// S the sample type, D the destination element, BYTES the bytes of one table entry.
 #define LUMI_PALETTE(NAME, S, D, BYTES)                                                        \
-  LUMI_API LumStatus lumiLUTPalette_##NAME##_C1R(const S* pSrc, int srcStep, D* pDst,          \
-                                                 int dstStep, LumiSize roi, const D* pTable,   \
-                                                 int nBitSize) {                               \
+  LUMI_API LumStatus NAME(const S* pSrc, int srcStep, D* pDst, int dstStep, LumiSize roi,      \
+                          const D* pTable, int nBitSize) {                                     \
     return lumi::palette<S, D, BYTES>(pSrc, srcStep, pDst, dstStep, roi, pTable, nBitSize);    \
   }
 
 extern "C" {
-LUMI_PALETTE(8u24u, Lum8u, Lum8u, 3)
-LUMI_PALETTE(8u32u, Lum8u, Lum32u, 4)
-LUMI_PALETTE(16u8u, Lum16u, Lum8u, 1)
-LUMI_PALETTE(16u24u, Lum16u, Lum8u, 3)
-LUMI_PALETTE(16u32u, Lum16u, Lum32u, 4)
+LUMI_PALETTE(lumiLUTPalette_8u24u_C1R, Lum8u, Lum8u, 3)
+LUMI_PALETTE(lumiLUTPalette_8u32u_C1R, Lum8u, Lum32u, 4)
+LUMI_PALETTE(lumiLUTPalette_16u8u_C1R, Lum16u, Lum8u, 1)
+LUMI_PALETTE(lumiLUTPalette_16u24u_C1R, Lum16u, Lum8u, 3)
+LUMI_PALETTE(lumiLUTPalette_16u32u_C1R, Lum16u, Lum32u, 4)
 }
