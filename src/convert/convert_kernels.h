@@ -1,88 +1,99 @@
-// Row kernels of the type conversions and range scalings, and the image walker they share.
-// The kernels themselves live in convert.cpp (compiled once per SIMD target); Convert and
-// Scale only validate, set the rounding mode where they need one, and walk rows.
+// Row kernels of the type conversions and range scalings, and the image walk they share. The
+// kernels live in convert.cpp (compiled once per SIMD target, with plain scalar twins);
+// Convert and Scale only validate, set the rounding mode where they need one, and walk rows.
 #pragma once
 
 #include "core/frame.h"
+#include "convert/rows.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 
 namespace lumi {
 
 // Constants of the affine kernels: up-scaling to 32f computes v * a + b; the scalings down to
 // 8u compute (v + off) * a - b, all in single precision, in that order. Float-to-integer
 // kernels may round explicitly rather than by the current mode: `truncate` names the mode the
-// caller has set (toward zero, else to nearest even).
+// caller has set (toward zero, else to nearest even). `keepAlpha`: the row is of AC4 pixels,
+// whose fourth elements are not written.
 struct RowParams {
   float off = 0.0f, a = 1.0f, b = 0.0f;
   bool truncate = false;
+  bool keepAlpha = false;
 };
 
 // One row of n elements (channels counted individually).
 using RowFn = void (*)(const void* src, void* dst, std::ptrdiff_t n, const RowParams& p);
 
-enum class Kernel : int {
-  // widening (8u16s shares the bits of 8u16u)
-  k8u16u, k8u32s, k8u32f, k8s32s, k8s32f, k16u32s, k16u32f, k16s32f,
-  // saturating narrowing
-  k16u8u, k16s8u, k32s8u, k32s8s,
-  // float to integer under the current rounding mode, saturating
-  k32f8u, k32f8s, k32f16u, k32f16s,
-  // full-range scalings
-  kScale8u16u, kScale8u16s, kScale8u32s, kScale8u32f,
-  kScale16u8u, kScale16s8u, kScale32s8u, kScale32f8u,
-  kCount
+// What a kernel does to each element.
+enum class Kind : int {
+  kWiden,       // integer to a wider integer or to 32f, exact (but 32-bit integers to 32f)
+  kNarrow,      // saturating integer narrowing
+  kFloatToInt,  // float to integer under the current rounding mode, saturating
+  kScaleUp,     // 8u onto the full range of 16u, 16s or 32s: each byte repeated, sign flipped
+  kScaleToFloat,  // 8u to 32f: v * a + b
+  kScaleTo8u,     // (v + off) * a - b, rounded by the current mode, saturated to 0..255
 };
 
-// The kernel for k: the best SIMD variant for this processor, or the scalar one when none
-// fits or LUMI_SCALAR forces the scalar path. Both give the same bits.
-RowFn rowKernel(Kernel k);
+// Every kernel: its name, kind, source and destination element types.
+#define LUMI_CONVERT_KERNELS(X)                                                              \
+  X(k8u16u, kWiden, uint8_t, uint16_t) X(k8u32s, kWiden, uint8_t, int32_t)                   \
+  X(k8u32f, kWiden, uint8_t, float) X(k8s32s, kWiden, int8_t, int32_t)                       \
+  X(k8s32f, kWiden, int8_t, float) X(k16u32s, kWiden, uint16_t, int32_t)                     \
+  X(k16u32f, kWiden, uint16_t, float) X(k16s32f, kWiden, int16_t, float)                     \
+  X(k16u8u, kNarrow, uint16_t, uint8_t) X(k16s8u, kNarrow, int16_t, uint8_t)                 \
+  X(k32s8u, kNarrow, int32_t, uint8_t) X(k32s8s, kNarrow, int32_t, int8_t)                   \
+  X(k32f8u, kFloatToInt, float, uint8_t) X(k32f8s, kFloatToInt, float, int8_t)               \
+  X(k32f16u, kFloatToInt, float, uint16_t) X(k32f16s, kFloatToInt, float, int16_t)           \
+  X(kScale8u16u, kScaleUp, uint8_t, uint16_t) X(kScale8u16s, kScaleUp, uint8_t, int16_t)     \
+  X(kScale8u32s, kScaleUp, uint8_t, int32_t) X(kScale8u32f, kScaleToFloat, uint8_t, float)   \
+  X(kScale16u8u, kScaleTo8u, uint16_t, uint8_t) X(kScale16s8u, kScaleTo8u, int16_t, uint8_t) \
+  X(kScale32s8u, kScaleTo8u, int32_t, uint8_t) X(kScale32f8u, kScaleTo8u, float, uint8_t)
+
+#define LUMI_CONVERT_KERNEL_NAME(K, KIND, S, D) K,
+enum class Kernel : int { LUMI_CONVERT_KERNELS(LUMI_CONVERT_KERNEL_NAME) kCount };
+#undef LUMI_CONVERT_KERNEL_NAME
+
+// The kernel k: the best SIMD variant for this processor, or the scalar twin when none fits or
+// the scalar path is forced. Both give the same bits. (convert.cpp)
+RowFn pickRowKernel(Kernel k);
 
 // The validation of most conversions: pointers, then sizes, then steps.
 inline LumStatus checkImages(const void* src, int srcStep, const void* dst, int dstStep,
                              LumiSize roi) {
-  if (anyNull(src, dst)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  if (badStep(srcStep, dstStep)) return lumStatusStepErr;
-  return lumStatusOk;
+  if (LumStatus st = checkPointersSize(roi, src, dst)) return st;
+  return badStep(srcStep, dstStep) ? lumStatusStepErr : lumStatusOk;
 }
 
-// Runs fn over n pixels of layout L. Layouts that write every channel run as one flat row;
-// AC4 converts a block of whole pixels into a scratch row and copies the three colour channels
-// out, so the destination's alpha is never written.
-template <class L, class TS, class TD>
-inline void convertPixels(const TS* s, TD* d, std::ptrdiff_t n, RowFn fn, const RowParams& p) {
-  if constexpr (L::kUse == L::kCh) {
-    fn(s, d, n * L::kCh, p);
-  } else {
-    constexpr std::ptrdiff_t kBlock = 256;
-    alignas(64) TD tmp[kBlock * L::kCh];
-    for (std::ptrdiff_t i = 0; i < n; i += kBlock) {
-      std::ptrdiff_t m = n - i < kBlock ? n - i : kBlock;
-      fn(s + i * L::kCh, tmp, m * L::kCh, p);
-      TD* out = d + i * L::kCh;
-      for (std::ptrdiff_t k = 0; k < m; ++k)
-        for (int c = 0; c < L::kUse; ++c) out[k * L::kCh + c] = tmp[k * L::kCh + c];
-    }
-  }
-}
-
-// Walks the ROI row by row. When both images are stored without row padding the ROI is one
-// long row; `areaLimit` restricts that to areas below 2^31 - 1 pixels.
+// Runs fn over the ROI of layout L row by row, or as one long row when neither image has row
+// padding; AC4 rows keep the destination's alpha.
 template <class L, class TS, class TD>
 inline void convertRows(const TS* src, int srcStep, TD* dst, int dstStep, LumiSize roi,
-                        RowFn fn, const RowParams& p, bool areaLimit = false) {
-  const std::ptrdiff_t w = roi.width;
-  const bool packed = srcStep == w * L::kCh * static_cast<std::ptrdiff_t>(sizeof(TS)) &&
-                      dstStep == w * L::kCh * static_cast<std::ptrdiff_t>(sizeof(TD));
-  const std::int64_t area = static_cast<std::int64_t>(roi.width) * roi.height;
-  if (packed && (!areaLimit || area < 2147483647)) {
-    convertPixels<L>(src, dst, static_cast<std::ptrdiff_t>(area), fn, p);
-    return;
-  }
-  for (int y = 0; y < roi.height; ++y)
-    convertPixels<L>(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), w, fn, p);
+                        RowFn fn, RowParams p) {
+  p.keepAlpha = L::kUse < L::kCh;
+  const LumiSize walk =
+      coalesceBoth(roi, coalesceRows(roi, bytesOf(1, L::kCh, sizeof(TS)), srcStep),
+                   coalesceRows(roi, bytesOf(1, L::kCh, sizeof(TD)), dstStep));
+  for (int y = 0; y < walk.height; ++y)
+    fn(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), elemsOf(walk.width, L::kCh), p);
+}
+
+// No rounding selector: the call keeps the caller's mode.
+inline constexpr std::optional<int> kCallerRounding{};
+
+// One conversion or scaling call: validates, sets the rounding mode of the call from the
+// selector (lumRndNear to nearest, any other value toward zero; kCallerRounding keeps the
+// caller's), then runs kernel k with the constants params() gives, computed under that mode.
+template <class L, class TS, class TD, class Params>
+LumStatus convertImage(const TS* src, int srcStep, TD* dst, int dstStep, LumiSize roi, Kernel k,
+                       std::optional<int> rounding, Params&& params) {
+  if (LumStatus st = checkImages(src, srcStep, dst, dstStep, roi)) return st;
+  const RowFn fn = pickRowKernel(k);
+  std::optional<ConversionRounding> mode;
+  if (rounding) mode.emplace(*rounding);
+  convertRows<L>(src, srcStep, dst, dstStep, roi, fn, params());
+  return lumStatusOk;
 }
 
 }  // namespace lumi
