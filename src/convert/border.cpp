@@ -23,12 +23,6 @@ LumStatus checkBorder(const T* src, int srcStep, LumiSize srcRoi, const T* dst, 
   return lumStatusOk;
 }
 
-// The destination origin of an in-place call: the source sits at (left, top) inside it.
-template <class T, class L>
-T* originOf(const T* src, int step, int top, int left) {
-  return const_cast<T*>(rowAt(src, step, -top)) - static_cast<std::ptrdiff_t>(left) * L::kCh;
-}
-
 template <class T, class L>
 LumStatus constBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, int dstStep,
                       LumiSize dstRoi, int top, int left, const T* value) {
@@ -43,38 +37,12 @@ LumStatus constBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, int ds
   for (int y = 0; y < srcRoi.height; ++y) {
     T* d = rowAt(dst, dstStep, top + y);
     dm::fillPixels<T, L>(d, static_cast<std::size_t>(left), value);
-    dm::copyPixels<T, L>(rowAt(src, srcStep, y), d + std::size_t(left) * L::kCh, sw);
-    dm::fillPixels<T, L>(d + (std::size_t(left) + sw) * L::kCh, right, value);
+    dm::copyPixels<T, L>(rowAt(src, srcStep, y), d + elemsOf(left, L::kCh), sw);
+    dm::fillPixels<T, L>(d + elemsOf(left, L::kCh) + elemsOf(srcRoi.width, L::kCh), right,
+                         value);
   }
   for (int y = bottom; y < dstRoi.height; ++y)
     dm::fillPixels<T, L>(rowAt(dst, dstStep, y), dw, value);
-  return lumStatusOk;
-}
-
-// Each source row gets its first pixel repeated to the left and its last to the right; then
-// the rows below repeat the last row written and the rows above the first one.
-template <class T, class L, bool kInPlace>
-LumStatus replicateBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, int dstStep,
-                          LumiSize dstRoi, int top, int left) {
-  if (LumStatus st = checkBorder(src, srcStep, srcRoi, dst, dstStep, dstRoi, top, left))
-    return st;
-  if constexpr (kInPlace) dst = originOf<T, L>(src, dstStep, top, left);
-  const std::size_t dw = static_cast<std::size_t>(dstRoi.width);
-  const std::size_t sw = static_cast<std::size_t>(srcRoi.width);
-  const std::size_t l = static_cast<std::size_t>(left);
-  const std::size_t right = dw - sw - l;
-  for (int y = 0; y < srcRoi.height; ++y) {
-    T* d = rowAt(dst, dstStep, top + y);
-    T* row = d + l * L::kCh;
-    if constexpr (!kInPlace) dm::copyPixels<T, L>(rowAt(src, srcStep, y), row, sw);
-    dm::fillPixels<T, L>(d, l, row);
-    dm::fillPixels<T, L>(row + sw * L::kCh, right, row + (sw - 1) * L::kCh);
-  }
-  const int bottom = top + srcRoi.height;
-  const T* last = rowAt(dst, dstStep, bottom - 1);
-  for (int y = bottom; y < dstRoi.height; ++y) dm::copyPixels<T, L>(last, rowAt(dst, dstStep, y), dw);
-  const T* first = rowAt(dst, dstStep, top);
-  for (int y = 0; y < top; ++y) dm::copyPixels<T, L>(first, rowAt(dst, dstStep, y), dw);
   return lumStatusOk;
 }
 
@@ -83,35 +51,51 @@ inline int floorMod(std::int64_t a, int m) {
   return static_cast<int>(r < 0 ? r + m : r);
 }
 
-// dst(x, y) = src((x - left) mod width, (y - top) mod height). The source rows are completed
-// first, from pieces of the row already in place; every other row is a copy of one of them.
-template <class T, bool kInPlace>
-LumStatus wrapBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, int dstStep,
-                     LumiSize dstRoi, int top, int left) {
+// How the frame continues the source: with the nearest edge pixel, or periodically.
+enum class Extend { kReplicate, kWrap };
+
+// The source rows are completed first: replicate repeats a row's first pixel to the left and
+// its last to the right; wrap gives dst(x) = row((x - left) mod width) from pieces of the row
+// already in place. Every other destination row is then a copy of one source row: the nearest
+// one, or the one (y - top) mod height.
+template <class T, class L, Extend kMode, bool kInPlace>
+LumStatus extendBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, int dstStep,
+                       LumiSize dstRoi, int top, int left) {
   if (LumStatus st = checkBorder(src, srcStep, srcRoi, dst, dstStep, dstRoi, top, left))
     return st;
-  if constexpr (kInPlace) dst = originOf<T, C1>(src, dstStep, top, left);
+  // In place, the source sits at (left, top) inside the destination.
+  if constexpr (kInPlace) dst = const_cast<T*>(rowAt(src, dstStep, -top)) - elemsOf(left, L::kCh);
   const std::size_t dw = static_cast<std::size_t>(dstRoi.width);
   const std::size_t sw = static_cast<std::size_t>(srcRoi.width);
   const std::size_t l = static_cast<std::size_t>(left);
   for (int y = 0; y < srcRoi.height; ++y) {
     T* d = rowAt(dst, dstStep, top + y);
-    T* row = d + l;
-    if constexpr (!kInPlace) std::memcpy(row, rowAt(src, srcStep, y), sw * sizeof(T));
-    std::size_t x = 0, k = static_cast<std::size_t>(floorMod(-std::int64_t{left}, srcRoi.width));
-    while (x < l) {
-      const std::size_t len = std::min(sw - k, l - x);
-      std::memcpy(d + x, row + k, len * sizeof(T));
-      x += len;
-      k = 0;
+    T* row = d + elemsOf(left, L::kCh);
+    if constexpr (!kInPlace) dm::copyPixels<T, L>(rowAt(src, srcStep, y), row, sw);
+    if constexpr (kMode == Extend::kReplicate) {
+      dm::fillPixels<T, L>(d, l, row);
+      dm::fillPixels<T, L>(row + elemsOf(srcRoi.width, L::kCh), dw - sw - l,
+                           row + elemsOf(srcRoi.width - 1, L::kCh));
+    } else {
+      static_assert(L::kCh == L::kUse, "wrap runs on layouts that write every channel");
+      std::size_t x = 0, k = static_cast<std::size_t>(floorMod(-std::int64_t{left}, srcRoi.width));
+      while (x < l) {
+        const std::size_t len = std::min(sw - k, l - x);
+        dm::copyPixels<T, L>(row + k * L::kCh, d + x * L::kCh, len);
+        x += len;
+        k = 0;
+      }
+      for (x = l + sw; x < dw; x += sw)
+        dm::copyPixels<T, L>(row, d + x * L::kCh, std::min(sw, dw - x));
     }
-    for (x = l + sw; x < dw; x += sw) std::memcpy(d + x, row, std::min(sw, dw - x) * sizeof(T));
   }
   const int bottom = top + srcRoi.height;
   for (int y = 0; y < dstRoi.height; ++y) {
     if (y >= top && y < bottom) continue;
-    const int from = top + floorMod(std::int64_t{y} - top, srcRoi.height);
-    std::memcpy(rowAt(dst, dstStep, y), rowAt(dst, dstStep, from), dw * sizeof(T));
+    const int from = kMode == Extend::kReplicate
+                         ? std::clamp(y, top, bottom - 1)
+                         : top + floorMod(std::int64_t{y} - top, srcRoi.height);
+    dm::copyPixels<T, L>(rowAt(dst, dstStep, from), rowAt(dst, dstStep, y), dw);
   }
   return lumStatusOk;
 }
@@ -119,55 +103,67 @@ LumStatus wrapBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, int dst
 }  // namespace
 }  // namespace lumi
 
-#define LUMI_BORDER_CONST(t, L, valueDecl, valuePtr)                                          \
-  LUMI_API LumStatus lumiCopyConstBorder_##t##_##L##R(                                        \
-      const Lum##t* pSrc, int srcStep, LumiSize srcRoiSize, Lum##t* pDst, int dstStep,        \
-      LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, valueDecl) {             \
-    return lumi::constBorder<Lum##t, lumi::L>(pSrc, srcStep, srcRoiSize, pDst, dstStep,       \
-                                              dstRoiSize, topBorderHeight, leftBorderWidth,   \
-                                              valuePtr);                                      \
+#define LUMI_BORDER_CONST(NAME, T, L, VALUE_DECL, VALUE_PTR)                                  \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize srcRoiSize, T* pDst,           \
+                          int dstStep, LumiSize dstRoiSize, int topBorderHeight,              \
+                          int leftBorderWidth, VALUE_DECL) {                                  \
+    return lumi::constBorder<T, lumi::L>(pSrc, srcStep, srcRoiSize, pDst, dstStep,            \
+                                         dstRoiSize, topBorderHeight, leftBorderWidth,        \
+                                         VALUE_PTR);                                          \
   }
-#define LUMI_BORDER_REPLICATE(t, L)                                                           \
-  LUMI_API LumStatus lumiCopyReplicateBorder_##t##_##L##R(                                    \
-      const Lum##t* pSrc, int srcStep, LumiSize srcRoiSize, Lum##t* pDst, int dstStep,        \
-      LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth) {                        \
-    return lumi::replicateBorder<Lum##t, lumi::L, false>(pSrc, srcStep, srcRoiSize, pDst,     \
-                                                         dstStep, dstRoiSize,                 \
-                                                         topBorderHeight, leftBorderWidth);   \
-  }                                                                                           \
-  LUMI_API LumStatus lumiCopyReplicateBorder_##t##_##L##IR(                                   \
-      const Lum##t* pSrc, int srcDstStep, LumiSize srcRoiSize, LumiSize dstRoiSize,           \
-      int topBorderHeight, int leftBorderWidth) {                                             \
-    return lumi::replicateBorder<Lum##t, lumi::L, true>(                                      \
-        pSrc, srcDstStep, srcRoiSize, const_cast<Lum##t*>(pSrc), srcDstStep, dstRoiSize,      \
+#define LUMI_BORDER(NAME, T, L, MODE)                                                         \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize srcRoiSize, T* pDst,           \
+                          int dstStep, LumiSize dstRoiSize, int topBorderHeight,              \
+                          int leftBorderWidth) {                                              \
+    return lumi::extendBorder<T, lumi::L, lumi::Extend::MODE, false>(                         \
+        pSrc, srcStep, srcRoiSize, pDst, dstStep, dstRoiSize, topBorderHeight,                \
+        leftBorderWidth);                                                                     \
+  }
+#define LUMI_BORDER_INPLACE(NAME, T, L, MODE)                                                 \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcDstStep, LumiSize srcRoiSize,                 \
+                          LumiSize dstRoiSize, int topBorderHeight, int leftBorderWidth) {    \
+    return lumi::extendBorder<T, lumi::L, lumi::Extend::MODE, true>(                          \
+        pSrc, srcDstStep, srcRoiSize, const_cast<T*>(pSrc), srcDstStep, dstRoiSize,           \
         topBorderHeight, leftBorderWidth);                                                    \
   }
-#define LUMI_BORDER_TYPE(t)                                  \
-  LUMI_BORDER_CONST(t, C1, Lum##t value, &value)             \
-  LUMI_BORDER_CONST(t, C3, const Lum##t value[3], value)     \
-  LUMI_BORDER_CONST(t, C4, const Lum##t value[4], value)     \
-  LUMI_BORDER_CONST(t, AC4, const Lum##t value[3], value)    \
-  LUMI_BORDER_REPLICATE(t, C1)                               \
-  LUMI_BORDER_REPLICATE(t, C3)                               \
-  LUMI_BORDER_REPLICATE(t, C4)                               \
-  LUMI_BORDER_REPLICATE(t, AC4)
 
 extern "C" {
-LUMI_BORDER_TYPE(8u)
-LUMI_BORDER_TYPE(16s)
-LUMI_BORDER_TYPE(32s)
-
-LUMI_API LumStatus lumiCopyWrapBorder_32s_C1R(const Lum32s* pSrc, int srcStep,
-                                              LumiSize srcRoiSize, Lum32s* pDst, int dstStep,
-                                              LumiSize dstRoiSize, int topBorderHeight,
-                                              int leftBorderWidth) {
-  return lumi::wrapBorder<Lum32s, false>(pSrc, srcStep, srcRoiSize, pDst, dstStep, dstRoiSize,
-                                         topBorderHeight, leftBorderWidth);
-}
-LUMI_API LumStatus lumiCopyWrapBorder_32s_C1IR(const Lum32s* pSrc, int srcDstStep,
-                                               LumiSize srcRoiSize, LumiSize dstRoiSize,
-                                               int topBorderHeight, int leftBorderWidth) {
-  return lumi::wrapBorder<Lum32s, true>(pSrc, srcDstStep, srcRoiSize, const_cast<Lum32s*>(pSrc),
-                                        srcDstStep, dstRoiSize, topBorderHeight, leftBorderWidth);
-}
-}
+LUMI_BORDER_CONST(lumiCopyConstBorder_8u_C1R, Lum8u, C1, Lum8u value, &value)
+LUMI_BORDER_CONST(lumiCopyConstBorder_8u_C3R, Lum8u, C3, const Lum8u value[3], value)
+LUMI_BORDER_CONST(lumiCopyConstBorder_8u_C4R, Lum8u, C4, const Lum8u value[4], value)
+LUMI_BORDER_CONST(lumiCopyConstBorder_8u_AC4R, Lum8u, AC4, const Lum8u value[3], value)
+LUMI_BORDER(lumiCopyReplicateBorder_8u_C1R, Lum8u, C1, kReplicate)
+LUMI_BORDER_INPLACE(lumiCopyReplicateBorder_8u_C1IR, Lum8u, C1, kReplicate)
+LUMI_BORDER(lumiCopyReplicateBorder_8u_C3R, Lum8u, C3, kReplicate)
+LUMI_BORDER_INPLACE(lumiCopyReplicateBorder_8u_C3IR, Lum8u, C3, kReplicate)
+LUMI_BORDER(lumiCopyReplicateBorder_8u_C4R, Lum8u, C4, kReplicate)
+LUMI_BORDER_INPLACE(lumiCopyReplicateBorder_8u_C4IR, Lum8u, C4, kReplicate)
+LUMI_BORDER(lumiCopyReplicateBorder_8u_AC4R, Lum8u, AC4, kReplicate)
+LUMI_BORDER_INPLACE(lumiCopyReplicateBorder_8u_AC4IR, Lum8u, AC4, kReplicate)
+LUMI_BORDER_CONST(lumiCopyConstBorder_16s_C1R, Lum16s, C1, Lum16s value, &value)
+LUMI_BORDER_CONST(lumiCopyConstBorder_16s_C3R, Lum16s, C3, const Lum16s value[3], value)
+LUMI_BORDER_CONST(lumiCopyConstBorder_16s_C4R, Lum16s, C4, const Lum16s value[4], value)
+LUMI_BORDER_CONST(lumiCopyConstBorder_16s_AC4R, Lum16s, AC4, const Lum16s value[3], value)
+LUMI_BORDER(lumiCopyReplicateBorder_16s_C1R, Lum16s, C1, kReplicate)
+LUMI_BORDER_INPLACE(lumiCopyReplicateBorder_16s_C1IR, Lum16s, C1, kReplicate)
+LUMI_BORDER(lumiCopyReplicateBorder_16s_C3R, Lum16s, C3, kReplicate)
+LUMI_BORDER_INPLACE(lumiCopyReplicateBorder_16s_C3IR, Lum16s, C3, kReplicate)
+LUMI_BORDER(lumiCopyReplicateBorder_16s_C4R, Lum16s, C4, kReplicate)
+LUMI_BORDER_INPLACE(lumiCopyReplicateBorder_16s_C4IR, Lum16s, C4, kReplicate)
+LUMI_BORDER(lumiCopyReplicateBorder_16s_AC4R, Lum16s, AC4, kReplicate)
+LUMI_BORDER_INPLACE(lumiCopyReplicateBorder_16s_AC4IR, Lum16s, AC4, kReplicate)
+LUMI_BORDER_CONST(lumiCopyConstBorder_32s_C1R, Lum32s, C1, Lum32s value, &value)
+LUMI_BORDER_CONST(lumiCopyConstBorder_32s_C3R, Lum32s, C3, const Lum32s value[3], value)
+LUMI_BORDER_CONST(lumiCopyConstBorder_32s_C4R, Lum32s, C4, const Lum32s value[4], value)
+LUMI_BORDER_CONST(lumiCopyConstBorder_32s_AC4R, Lum32s, AC4, const Lum32s value[3], value)
+LUMI_BORDER(lumiCopyReplicateBorder_32s_C1R, Lum32s, C1, kReplicate)
+LUMI_BORDER_INPLACE(lumiCopyReplicateBorder_32s_C1IR, Lum32s, C1, kReplicate)
+LUMI_BORDER(lumiCopyReplicateBorder_32s_C3R, Lum32s, C3, kReplicate)
+LUMI_BORDER_INPLACE(lumiCopyReplicateBorder_32s_C3IR, Lum32s, C3, kReplicate)
+LUMI_BORDER(lumiCopyReplicateBorder_32s_C4R, Lum32s, C4, kReplicate)
+LUMI_BORDER_INPLACE(lumiCopyReplicateBorder_32s_C4IR, Lum32s, C4, kReplicate)
+LUMI_BORDER(lumiCopyReplicateBorder_32s_AC4R, Lum32s, AC4, kReplicate)
+LUMI_BORDER_INPLACE(lumiCopyReplicateBorder_32s_AC4IR, Lum32s, AC4, kReplicate)
+LUMI_BORDER(lumiCopyWrapBorder_32s_C1R, Lum32s, C1, kWrap)
+LUMI_BORDER_INPLACE(lumiCopyWrapBorder_32s_C1IR, Lum32s, C1, kWrap)
+}  // extern "C"

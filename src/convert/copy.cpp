@@ -3,13 +3,13 @@
 #define HWY_TARGET_INCLUDE "src/convert/copy.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
-#include "core/frame.h"
+#include "core/simd.h"
 #include "convert/datamove_kernels.h"
+#include "core/alpha-inl.h"
+#include "convert/datamove_kernels-inl.h"
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
-namespace hn = hwy::HWY_NAMESPACE;
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
 namespace {  // kernels of this file only
 
 // One element every kSrc of s to one every kDst of d, the other destination channels kept.
@@ -17,7 +17,7 @@ namespace {  // kernels of this file only
 // through it reaches up to kCh - 1 elements past that pixel run: the vector part stops one
 // pixel short of the row end.
 template <class T, int kSrc, int kDst>
-void StrideCopy(const T* s, T* d, std::size_t n) {
+void strideCopy(const T* s, T* d, std::size_t n) {
   const hn::ScalableTag<T> dt;
   const std::size_t N = hn::Lanes(dt);
   std::size_t i = 0;
@@ -45,25 +45,25 @@ void StrideCopy(const T* s, T* d, std::size_t n) {
   dm::strideCopyScalar<T, kSrc, kDst>(s + kSrc * i, d + kDst * i, n - i);
 }
 
-// Channels 0..2 of four-channel pixels; the fourth lane of each pixel is masked off the store.
+// Channels 0..2 of n four-channel pixels, the fourth left alone.
 template <class T>
-void CopyKeepAlpha(const T* s, T* d, std::size_t n) {
+void copyKeepAlpha(const T* s, T* d, std::size_t n) {
   const hn::ScalableTag<T> dt;
   const std::size_t N = hn::Lanes(dt);
-  const auto colour = dmv::colourLanes(dt);
+  const auto colour = colourLanes(dt);
   const std::size_t total = 4 * n;
   std::size_t i = 0;
-  for (; i + N <= total; i += N) hn::BlendedStore(hn::LoadU(dt, s + i), colour, dt, d + i);
-  dm::copyPixelsScalar<T, lumi::AC4>(s + i, d + i, (total - i) / 4);
+  for (; i + N <= total; i += N) storeColour(dt, hn::LoadU(dt, s + i), d + i, true, colour);
+  dm::copyKeepAlphaScalar(s + i, d + i, (total - i) / 4);
 }
 
 template <class T, class L>
-void MaskedCopy(const T* s, T* d, const uint8_t* m, std::size_t n) {
+void maskedCopy(const T* s, T* d, const uint8_t* m, std::size_t n) {
   const hn::ScalableTag<T> dt;
   const std::size_t N = hn::Lanes(dt);
   std::size_t i = 0;
   for (; i + N <= n; i += N) {
-    const auto mk = dmv::pixelMask(dt, m + i);
+    const auto mk = pixelMask(dt, m + i);
     if constexpr (L::kCh == 1) {
       hn::BlendedStore(hn::LoadU(dt, s + i), mk, dt, d + i);
     } else if constexpr (L::kCh == 3) {
@@ -85,109 +85,70 @@ void MaskedCopy(const T* s, T* d, const uint8_t* m, std::size_t n) {
 }
 
 }  // namespace
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
 
 #if HWY_ONCE
-#include "core/simd.h"
-
 namespace lumi {
 namespace {
 
-LUMI_TABLES_BY_SIZE(copyKeepAlphaSimd, CopyKeepAlpha)
-LUMI_TABLES_BY_SIZE(extract3Simd, StrideCopy, , 3, 1)
-LUMI_TABLES_BY_SIZE(extract4Simd, StrideCopy, , 4, 1)
-LUMI_TABLES_BY_SIZE(insert3Simd, StrideCopy, , 1, 3)
-LUMI_TABLES_BY_SIZE(insert4Simd, StrideCopy, , 1, 4)
-LUMI_TABLES_BY_SIZE(channel3Simd, StrideCopy, , 3, 3)
-LUMI_TABLES_BY_SIZE(channel4Simd, StrideCopy, , 4, 4)
-LUMI_TABLES_BY_SIZE(maskedC1Simd, MaskedCopy, , lumi::C1)
-LUMI_TABLES_BY_SIZE(maskedC3Simd, MaskedCopy, , lumi::C3)
-LUMI_TABLES_BY_SIZE(maskedC4Simd, MaskedCopy, , lumi::C4)
-LUMI_TABLES_BY_SIZE(maskedAC4Simd, MaskedCopy, , lumi::AC4)
-
+// The choosers run on the element bits (dm::Bits).
 template <class T>
-void copyKeepAlphaT(const T* s, T* d, std::size_t n) {
-  if (auto f = copyKeepAlphaSimd<T>())
-    f(s, d, n);
-  else
-    dm::copyPixelsScalar<T, AC4>(s, d, n);
+auto pickCopyKeepAlpha() {
+  LUMI_SIMD_TABLE(decltype(&dm::copyKeepAlphaScalar<T>), table, copyKeepAlpha<T>);
+  return pick(table, &dm::copyKeepAlphaScalar<T>);
 }
-
 template <class T, int kSrc, int kDst>
-auto strideSimd() {
-  if constexpr (kSrc == 3 && kDst == 1) return extract3Simd<T>();
-  else if constexpr (kSrc == 4 && kDst == 1) return extract4Simd<T>();
-  else if constexpr (kSrc == 1 && kDst == 3) return insert3Simd<T>();
-  else if constexpr (kSrc == 1 && kDst == 4) return insert4Simd<T>();
-  else if constexpr (kSrc == 3) return channel3Simd<T>();
-  else return channel4Simd<T>();
+auto pickStrideCopy() {
+  LUMI_SIMD_TABLE(decltype(&dm::strideCopyScalar<T, kSrc, kDst>), table, strideCopy<T, kSrc, kDst>);
+  return pick(table, &dm::strideCopyScalar<T, kSrc, kDst>);
 }
 template <class T, class L>
-auto maskedSimd() {
-  if constexpr (std::is_same_v<L, C1>) return maskedC1Simd<T>();
-  else if constexpr (std::is_same_v<L, C3>) return maskedC3Simd<T>();
-  else if constexpr (std::is_same_v<L, C4>) return maskedC4Simd<T>();
-  else return maskedAC4Simd<T>();
-}
-
-inline std::ptrdiff_t rowBytesOf(LumiSize roi, int elems, std::size_t elemBytes) {
-  return static_cast<std::ptrdiff_t>(roi.width) * elems * static_cast<std::ptrdiff_t>(elemBytes);
+auto pickMaskedCopy() {
+  LUMI_SIMD_TABLE(decltype(&dm::maskedCopyScalar<T, L>), table, maskedCopy<T, L>);
+  return pick(table, &dm::maskedCopyScalar<T, L>);
 }
 
 // Steps are not tested: any step, zero or negative included, walks the rows it describes.
 template <class T, class L>
 LumStatus copyRoi(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
-  if (anyNull(src, dst)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  const auto rowBytes = rowBytesOf(roi, L::kCh, sizeof(T));
-  dm::walkRows(roi, dm::stepsAre(rowBytes, srcStep, dstStep), [&](int y, std::size_t n) {
+  if (LumStatus st = checkPointersSize(roi, src, dst)) return st;
+  const LumiSize walk = coalesceRows(roi, bytesOf(1, L::kCh, sizeof(T)), srcStep, dstStep);
+  [[maybe_unused]] const auto keepAlpha = pickCopyKeepAlpha<dm::Bits<T>>();
+  for (int y = 0; y < walk.height; ++y) {
     const T* s = rowAt(src, srcStep, y);
     T* d = rowAt(dst, dstStep, y);
     if constexpr (L::kUse < L::kCh)
-      copyKeepAlphaT(dm::bits(s), dm::bits(d), n);
+      keepAlpha(dm::bits(s), dm::bits(d), static_cast<std::size_t>(walk.width));
     else if (s != d)
-      std::memmove(d, s, n * L::kCh * sizeof(T));
-  });
+      std::memmove(d, s, static_cast<std::size_t>(bytesOf(walk.width, L::kCh, sizeof(T))));
+  }
   return lumStatusOk;
 }
 
 template <class T, int kSrc, int kDst>
 LumStatus copyStride(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
-  if (anyNull(src, dst)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  const auto simd = strideSimd<dm::Bits<T>, kSrc, kDst>();
-  const bool oneRow = srcStep == rowBytesOf(roi, kSrc, sizeof(T)) &&
-                      dstStep == rowBytesOf(roi, kDst, sizeof(T));
-  dm::walkRows(roi, oneRow, [&](int y, std::size_t n) {
-    const T* s = rowAt(src, srcStep, y);
-    T* d = rowAt(dst, dstStep, y);
-    if (simd)
-      simd(dm::bits(s), dm::bits(d), n);
-    else
-      dm::strideCopyScalar<T, kSrc, kDst>(s, d, n);
-  });
+  if (LumStatus st = checkPointersSize(roi, src, dst)) return st;
+  const auto copy = pickStrideCopy<dm::Bits<T>, kSrc, kDst>();
+  const LumiSize walk = coalesceBoth(roi, coalesceRows(roi, bytesOf(1, kSrc, sizeof(T)), srcStep),
+                                         coalesceRows(roi, bytesOf(1, kDst, sizeof(T)), dstStep));
+  for (int y = 0; y < walk.height; ++y)
+    copy(dm::bits(rowAt(src, srcStep, y)), dm::bits(rowAt(dst, dstStep, y)),
+         static_cast<std::size_t>(walk.width));
   return lumStatusOk;
 }
 
 template <class T, class L>
 LumStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi,
                      const Lum8u* mask, int maskStep) {
-  if (anyNull(src, dst, mask)) return lumStatusNullPtrErr;
-  if (badSize(roi)) return lumStatusSizeErr;
-  const auto simd = maskedSimd<dm::Bits<T>, L>();
-  const auto rowBytes = rowBytesOf(roi, L::kCh, sizeof(T));
-  const bool oneRow = dm::stepsAre(rowBytes, srcStep, dstStep) && maskStep == roi.width;
-  dm::walkRows(roi, oneRow, [&](int y, std::size_t n) {
-    const T* s = rowAt(src, srcStep, y);
-    T* d = rowAt(dst, dstStep, y);
-    const Lum8u* m = rowAt(mask, maskStep, y);
-    if (simd)
-      simd(dm::bits(s), dm::bits(d), m, n);
-    else
-      dm::maskedCopyScalar<T, L>(s, d, m, n);
-  });
+  if (LumStatus st = checkPointersSize(roi, src, dst, mask)) return st;
+  const auto copy = pickMaskedCopy<dm::Bits<T>, L>();
+  const LumiSize walk = coalesceBoth(
+      roi, coalesceRows(roi, bytesOf(1, L::kCh, sizeof(T)), srcStep, dstStep),
+      coalesceRows(roi, 1, maskStep));
+  for (int y = 0; y < walk.height; ++y)
+    copy(dm::bits(rowAt(src, srcStep, y)), dm::bits(rowAt(dst, dstStep, y)),
+         rowAt(mask, maskStep, y), static_cast<std::size_t>(walk.width));
   return lumStatusOk;
 }
 
@@ -195,48 +156,100 @@ LumStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, LumiSize ro
 
 void dm::copyKeepAlpha(const void* s, void* d, std::size_t n, int elemBytes) {
   if (elemBytes == 1)
-    copyKeepAlphaT(static_cast<const uint8_t*>(s), static_cast<uint8_t*>(d), n);
+    pickCopyKeepAlpha<uint8_t>()(static_cast<const uint8_t*>(s), static_cast<uint8_t*>(d), n);
   else if (elemBytes == 2)
-    copyKeepAlphaT(static_cast<const uint16_t*>(s), static_cast<uint16_t*>(d), n);
+    pickCopyKeepAlpha<uint16_t>()(static_cast<const uint16_t*>(s), static_cast<uint16_t*>(d), n);
   else
-    copyKeepAlphaT(static_cast<const uint32_t*>(s), static_cast<uint32_t*>(d), n);
+    pickCopyKeepAlpha<uint32_t>()(static_cast<const uint32_t*>(s), static_cast<uint32_t*>(d), n);
 }
 
 }  // namespace lumi
 
-#define LUMI_COPY_FN(t, name, ...)                                                           \
-  LUMI_API LumStatus lumiCopy_##t##_##name(const Lum##t* pSrc, int srcStep, Lum##t* pDst,    \
-                                           int dstStep, LumiSize roiSize) {                  \
-    return lumi::__VA_ARGS__(pSrc, srcStep, pDst, dstStep, roiSize);                         \
+#define LUMI_COPY(NAME, T, L)                                                                 \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize roiSize) { \
+    return lumi::copyRoi<T, lumi::L>(pSrc, srcStep, pDst, dstStep, roiSize);                  \
   }
-#define LUMI_COPY_MASKED(t, L)                                                               \
-  LUMI_API LumStatus lumiCopy_##t##_##L##MR(const Lum##t* pSrc, int srcStep, Lum##t* pDst,   \
-                                            int dstStep, LumiSize roiSize, const Lum8u* pMask, \
-                                            int maskStep) {                                  \
-    return lumi::copyMasked<Lum##t, lumi::L>(pSrc, srcStep, pDst, dstStep, roiSize, pMask,   \
-                                             maskStep);                                      \
+#define LUMI_COPY_STRIDE(NAME, T, kSrc, kDst)                                                 \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize roiSize) { \
+    return lumi::copyStride<T, kSrc, kDst>(pSrc, srcStep, pDst, dstStep, roiSize);            \
   }
-#define LUMI_COPY_TYPE(t)                                       \
-  LUMI_COPY_FN(t, C1R, copyRoi<Lum##t, lumi::C1>)               \
-  LUMI_COPY_FN(t, C3R, copyRoi<Lum##t, lumi::C3>)               \
-  LUMI_COPY_FN(t, C4R, copyRoi<Lum##t, lumi::C4>)               \
-  LUMI_COPY_FN(t, AC4R, copyRoi<Lum##t, lumi::AC4>)             \
-  LUMI_COPY_FN(t, C3C1R, copyStride<Lum##t, 3, 1>)              \
-  LUMI_COPY_FN(t, C4C1R, copyStride<Lum##t, 4, 1>)              \
-  LUMI_COPY_FN(t, C1C3R, copyStride<Lum##t, 1, 3>)              \
-  LUMI_COPY_FN(t, C1C4R, copyStride<Lum##t, 1, 4>)              \
-  LUMI_COPY_FN(t, C3CR, copyStride<Lum##t, 3, 3>)               \
-  LUMI_COPY_FN(t, C4CR, copyStride<Lum##t, 4, 4>)               \
-  LUMI_COPY_MASKED(t, C1)                                       \
-  LUMI_COPY_MASKED(t, C3)                                       \
-  LUMI_COPY_MASKED(t, C4)                                       \
-  LUMI_COPY_MASKED(t, AC4)
+#define LUMI_COPY_MASKED(NAME, T, L)                                                          \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize roiSize, \
+                          const Lum8u* pMask, int maskStep) {                                 \
+    return lumi::copyMasked<T, lumi::L>(pSrc, srcStep, pDst, dstStep, roiSize, pMask,         \
+                                        maskStep);                                            \
+  }
 
 extern "C" {
-LUMI_COPY_TYPE(8u)
-LUMI_COPY_TYPE(16u)
-LUMI_COPY_TYPE(16s)
-LUMI_COPY_TYPE(32s)
-LUMI_COPY_TYPE(32f)
-}
+LUMI_COPY(lumiCopy_8u_C1R, Lum8u, C1)
+LUMI_COPY(lumiCopy_8u_C3R, Lum8u, C3)
+LUMI_COPY(lumiCopy_8u_C4R, Lum8u, C4)
+LUMI_COPY(lumiCopy_8u_AC4R, Lum8u, AC4)
+LUMI_COPY_STRIDE(lumiCopy_8u_C3C1R, Lum8u, 3, 1)
+LUMI_COPY_STRIDE(lumiCopy_8u_C4C1R, Lum8u, 4, 1)
+LUMI_COPY_STRIDE(lumiCopy_8u_C1C3R, Lum8u, 1, 3)
+LUMI_COPY_STRIDE(lumiCopy_8u_C1C4R, Lum8u, 1, 4)
+LUMI_COPY_STRIDE(lumiCopy_8u_C3CR, Lum8u, 3, 3)
+LUMI_COPY_STRIDE(lumiCopy_8u_C4CR, Lum8u, 4, 4)
+LUMI_COPY_MASKED(lumiCopy_8u_C1MR, Lum8u, C1)
+LUMI_COPY_MASKED(lumiCopy_8u_C3MR, Lum8u, C3)
+LUMI_COPY_MASKED(lumiCopy_8u_C4MR, Lum8u, C4)
+LUMI_COPY_MASKED(lumiCopy_8u_AC4MR, Lum8u, AC4)
+LUMI_COPY(lumiCopy_16u_C1R, Lum16u, C1)
+LUMI_COPY(lumiCopy_16u_C3R, Lum16u, C3)
+LUMI_COPY(lumiCopy_16u_C4R, Lum16u, C4)
+LUMI_COPY(lumiCopy_16u_AC4R, Lum16u, AC4)
+LUMI_COPY_STRIDE(lumiCopy_16u_C3C1R, Lum16u, 3, 1)
+LUMI_COPY_STRIDE(lumiCopy_16u_C4C1R, Lum16u, 4, 1)
+LUMI_COPY_STRIDE(lumiCopy_16u_C1C3R, Lum16u, 1, 3)
+LUMI_COPY_STRIDE(lumiCopy_16u_C1C4R, Lum16u, 1, 4)
+LUMI_COPY_STRIDE(lumiCopy_16u_C3CR, Lum16u, 3, 3)
+LUMI_COPY_STRIDE(lumiCopy_16u_C4CR, Lum16u, 4, 4)
+LUMI_COPY_MASKED(lumiCopy_16u_C1MR, Lum16u, C1)
+LUMI_COPY_MASKED(lumiCopy_16u_C3MR, Lum16u, C3)
+LUMI_COPY_MASKED(lumiCopy_16u_C4MR, Lum16u, C4)
+LUMI_COPY_MASKED(lumiCopy_16u_AC4MR, Lum16u, AC4)
+LUMI_COPY(lumiCopy_16s_C1R, Lum16s, C1)
+LUMI_COPY(lumiCopy_16s_C3R, Lum16s, C3)
+LUMI_COPY(lumiCopy_16s_C4R, Lum16s, C4)
+LUMI_COPY(lumiCopy_16s_AC4R, Lum16s, AC4)
+LUMI_COPY_STRIDE(lumiCopy_16s_C3C1R, Lum16s, 3, 1)
+LUMI_COPY_STRIDE(lumiCopy_16s_C4C1R, Lum16s, 4, 1)
+LUMI_COPY_STRIDE(lumiCopy_16s_C1C3R, Lum16s, 1, 3)
+LUMI_COPY_STRIDE(lumiCopy_16s_C1C4R, Lum16s, 1, 4)
+LUMI_COPY_STRIDE(lumiCopy_16s_C3CR, Lum16s, 3, 3)
+LUMI_COPY_STRIDE(lumiCopy_16s_C4CR, Lum16s, 4, 4)
+LUMI_COPY_MASKED(lumiCopy_16s_C1MR, Lum16s, C1)
+LUMI_COPY_MASKED(lumiCopy_16s_C3MR, Lum16s, C3)
+LUMI_COPY_MASKED(lumiCopy_16s_C4MR, Lum16s, C4)
+LUMI_COPY_MASKED(lumiCopy_16s_AC4MR, Lum16s, AC4)
+LUMI_COPY(lumiCopy_32s_C1R, Lum32s, C1)
+LUMI_COPY(lumiCopy_32s_C3R, Lum32s, C3)
+LUMI_COPY(lumiCopy_32s_C4R, Lum32s, C4)
+LUMI_COPY(lumiCopy_32s_AC4R, Lum32s, AC4)
+LUMI_COPY_STRIDE(lumiCopy_32s_C3C1R, Lum32s, 3, 1)
+LUMI_COPY_STRIDE(lumiCopy_32s_C4C1R, Lum32s, 4, 1)
+LUMI_COPY_STRIDE(lumiCopy_32s_C1C3R, Lum32s, 1, 3)
+LUMI_COPY_STRIDE(lumiCopy_32s_C1C4R, Lum32s, 1, 4)
+LUMI_COPY_STRIDE(lumiCopy_32s_C3CR, Lum32s, 3, 3)
+LUMI_COPY_STRIDE(lumiCopy_32s_C4CR, Lum32s, 4, 4)
+LUMI_COPY_MASKED(lumiCopy_32s_C1MR, Lum32s, C1)
+LUMI_COPY_MASKED(lumiCopy_32s_C3MR, Lum32s, C3)
+LUMI_COPY_MASKED(lumiCopy_32s_C4MR, Lum32s, C4)
+LUMI_COPY_MASKED(lumiCopy_32s_AC4MR, Lum32s, AC4)
+LUMI_COPY(lumiCopy_32f_C1R, Lum32f, C1)
+LUMI_COPY(lumiCopy_32f_C3R, Lum32f, C3)
+LUMI_COPY(lumiCopy_32f_C4R, Lum32f, C4)
+LUMI_COPY(lumiCopy_32f_AC4R, Lum32f, AC4)
+LUMI_COPY_STRIDE(lumiCopy_32f_C3C1R, Lum32f, 3, 1)
+LUMI_COPY_STRIDE(lumiCopy_32f_C4C1R, Lum32f, 4, 1)
+LUMI_COPY_STRIDE(lumiCopy_32f_C1C3R, Lum32f, 1, 3)
+LUMI_COPY_STRIDE(lumiCopy_32f_C1C4R, Lum32f, 1, 4)
+LUMI_COPY_STRIDE(lumiCopy_32f_C3CR, Lum32f, 3, 3)
+LUMI_COPY_STRIDE(lumiCopy_32f_C4CR, Lum32f, 4, 4)
+LUMI_COPY_MASKED(lumiCopy_32f_C1MR, Lum32f, C1)
+LUMI_COPY_MASKED(lumiCopy_32f_C3MR, Lum32f, C3)
+LUMI_COPY_MASKED(lumiCopy_32f_C4MR, Lum32f, C4)
+LUMI_COPY_MASKED(lumiCopy_32f_AC4MR, Lum32f, AC4)
+}  // extern "C"
 #endif  // HWY_ONCE

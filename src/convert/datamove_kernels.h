@@ -1,19 +1,20 @@
-// Private helpers of the data-movement family (copy, set, channel swap, duplicate, borders).
-//
-// The first part is plain C++: the scalar reference kernels, the row walker and the internal
-// entry points one source file offers the others. The second part holds the small Highway
-// helpers shared by the vector kernels; it is compiled once per SIMD target whenever this
-// header is included after "hwy/highway.h".
-#ifndef LUMI_DATAMOVE_KERNELS_H
-#define LUMI_DATAMOVE_KERNELS_H
+// Private helpers of the data-movement family (copy, set, channel swap, duplicate, borders),
+// compiled once: the scalar kernels (the plain twins of the vector ones in copy.cpp, set.cpp
+// and swap.cpp), the row walk and the internal entry points one source file offers the others.
+// The per-target helpers of the vector kernels are in datamove_kernels-inl.h.
+#pragma once
 
 #include "core/frame.h"
+#include "convert/rows.h"
+
+#include <cstdint>
+#include <cstring>
 
 namespace lumi {
 namespace dm {
 
-// The vector kernels never look at values, only at bits: every element type runs on the
-// unsigned integer of its size.
+// The kernels never look at values, only at bits: every element type runs on the unsigned
+// integer of its size.
 template <class T>
 using Bits = std::conditional_t<sizeof(T) == 1, uint8_t,
                                 std::conditional_t<sizeof(T) == 2, uint16_t, uint32_t>>;
@@ -22,31 +23,16 @@ inline Bits<T>* bits(T* p) { return reinterpret_cast<Bits<T>*>(p); }
 template <class T>
 inline const Bits<T>* bits(const T* p) { return reinterpret_cast<const Bits<T>*>(p); }
 
-// Calls body(y, n) for every row of the ROI with n pixels per row; when the caller has found
-// every step equal to the row length, the whole ROI is a single row of width * height pixels.
-template <class Body>
-inline void walkRows(LumiSize roi, bool oneRow, Body&& body) {
-  if (oneRow) {
-    body(0, static_cast<std::size_t>(roi.width) * static_cast<std::size_t>(roi.height));
-    return;
-  }
-  for (int y = 0; y < roi.height; ++y) body(y, static_cast<std::size_t>(roi.width));
-}
-template <class... S>
-inline bool stepsAre(std::ptrdiff_t rowBytes, S... steps) {
-  return ((static_cast<std::ptrdiff_t>(steps) == rowBytes) && ...);
-}
-
 // ---- scalar kernels: n pixels of the layout L (kCh elements in memory, kUse written) -----
-template <class T, class L>
-void copyPixelsScalar(const T* s, T* d, std::size_t n) {
+template <class T>
+void copyKeepAlphaScalar(const T* s, T* d, std::size_t n) {
   for (std::size_t i = 0; i < n; ++i)
-    for (int c = 0; c < L::kUse; ++c) d[i * L::kCh + c] = s[i * L::kCh + c];
+    for (int c = 0; c < AC4::kUse; ++c) d[i * AC4::kCh + c] = s[i * AC4::kCh + c];
 }
-template <class T, class L>
-void setPixelsScalar(const T* v, T* d, std::size_t n) {
+template <class T>
+void fillKeepAlphaScalar(T* d, std::size_t n, const T* v) {
   for (std::size_t i = 0; i < n; ++i)
-    for (int c = 0; c < L::kUse; ++c) d[i * L::kCh + c] = v[c];
+    for (int c = 0; c < AC4::kUse; ++c) d[i * AC4::kCh + c] = v[c];
 }
 template <class T, class L>
 void maskedCopyScalar(const T* s, T* d, const uint8_t* m, std::size_t n) {
@@ -73,7 +59,7 @@ void strideSetScalar(T v, T* d, std::size_t n) {
 // Destination channel c receives source channel order[c]; the three source values of a pixel
 // are read before any is written, so source and destination may be the same image.
 template <class T, int kCh>
-void swapScalar(const T* s, T* d, std::size_t n, const int* order) {
+void swapChannelsScalar(const T* s, T* d, std::size_t n, const int* order) {
   const int o0 = order[0], o1 = order[1], o2 = order[2];
   for (std::size_t i = 0; i < n; ++i) {
     const T* p = s + i * kCh;
@@ -150,65 +136,3 @@ inline void fillPixels(T* d, std::size_t n, const T* v) {
 
 }  // namespace dm
 }  // namespace lumi
-
-// One dispatch table per element size for a kernel template whose first parameter is the
-// element's bits type, plus NAME<T>() returning the best variant for T (null: scalar path).
-// Use inside `#if HWY_ONCE`, in namespace lumi: LUMI_TABLES_BY_SIZE(extract3, Extract, , 3).
-#define LUMI_TABLES_BY_SIZE(NAME, K, ...)                                              \
-  LUMI_SIMD_TABLE(decltype(&HWY_NAMESPACE::K<uint8_t __VA_ARGS__>), NAME##1_,          \
-                  K<uint8_t __VA_ARGS__>);                                             \
-  LUMI_SIMD_TABLE(decltype(&HWY_NAMESPACE::K<uint16_t __VA_ARGS__>), NAME##2_,         \
-                  K<uint16_t __VA_ARGS__>);                                            \
-  LUMI_SIMD_TABLE(decltype(&HWY_NAMESPACE::K<uint32_t __VA_ARGS__>), NAME##4_,         \
-                  K<uint32_t __VA_ARGS__>);                                            \
-  template <class T>                                                                   \
-  inline auto NAME() {                                                                 \
-    if constexpr (sizeof(T) == 1) return pickSimd(NAME##1_);                           \
-    else if constexpr (sizeof(T) == 2) return pickSimd(NAME##2_);                      \
-    else return pickSimd(NAME##4_);                                                    \
-  }
-
-#endif  // LUMI_DATAMOVE_KERNELS_H
-
-// ---- Highway helpers, once per target -----------------------------------------------------
-#if defined(HWY_NAMESPACE)
-#if defined(LUMI_DATAMOVE_SIMD_H_) == defined(HWY_TARGET_TOGGLE)
-#ifdef LUMI_DATAMOVE_SIMD_H_
-#undef LUMI_DATAMOVE_SIMD_H_
-#else
-#define LUMI_DATAMOVE_SIMD_H_
-#endif
-
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
-namespace dmv {
-namespace hn = hwy::HWY_NAMESPACE;
-
-// Lane mask of the pixels whose mask byte is nonzero, one lane per pixel of type T.
-template <class D>
-HWY_INLINE auto pixelMask(D d, const uint8_t* m) {
-  using T = hn::TFromD<D>;
-  if constexpr (sizeof(T) == 1) {
-    return hn::Ne(hn::LoadU(d, m), hn::Zero(d));
-  } else {
-    const hn::Rebind<uint8_t, D> d8;
-    return hn::Ne(hn::PromoteTo(d, hn::LoadU(d8, m)), hn::Zero(d));
-  }
-}
-
-// Lanes holding channels 0..2 of four-channel pixels (every lane but each fourth).
-template <class D>
-HWY_INLINE auto colourLanes(D d) {
-  using T = hn::TFromD<D>;
-  const auto three = hn::Set(d, T{3});
-  return hn::Ne(hn::And(hn::Iota(d, 0), three), three);
-}
-
-}  // namespace dmv
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
-
-#endif  // toggle
-#endif  // HWY_NAMESPACE
