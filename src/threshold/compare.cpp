@@ -162,19 +162,11 @@ void runCompare(const T* a, int aStep, const T* b, int bStep, bool bConst, Lum8u
   }
 }
 
-// Pointers, steps, size (b holds constants and has no step when bConst).
-template <class T>
-LumStatus checkCompare(const T* a, int aStep, const T* b, int bStep, bool bConst, Lum8u* dst,
-                       int dstStep, LumiSize roi) {
-  return bConst ? thr::checkStepsThenSize(anyNull(a, b, dst), roi, aStep, dstStep)
-                : thr::checkStepsThenSize(anyNull(a, b, dst), roi, aStep, bStep, dstStep);
-}
-
 // The images; an operation outside 0..4 then succeeds without writing.
 template <class T, class L>
 LumStatus compareImpl(const T* a, int aStep, const T* b, int bStep, bool bConst, Lum8u* dst,
                       int dstStep, LumiSize roi, LumCompareOp op) {
-  if (LumStatus st = checkCompare(a, aStep, b, bStep, bConst, dst, dstStep, roi)) return st;
+  if (LumStatus st = thr::checkOperands(a, aStep, b, bStep, bConst, dst, dstStep, roi)) return st;
   if (op < lumCmpLess || op > lumCmpGreater) return lumStatusOk;
   runCompare<T, L>(a, aStep, b, bStep, bConst, dst, dstStep, roi, op, T());
   return lumStatusOk;
@@ -184,7 +176,7 @@ LumStatus compareImpl(const T* a, int aStep, const T* b, int bStep, bool bConst,
 template <class L>
 LumStatus compareEpsImpl(const Lum32f* a, int aStep, const Lum32f* b, int bStep, bool bConst,
                          Lum8u* dst, int dstStep, LumiSize roi, Lum32f eps) {
-  if (LumStatus st = checkCompare(a, aStep, b, bStep, bConst, dst, dstStep, roi)) return st;
+  if (LumStatus st = thr::checkOperands(a, aStep, b, bStep, bConst, dst, dstStep, roi)) return st;
   if (!(eps >= 0.0f)) return lumStatusEpsilonErr;
   runCompare<Lum32f, L>(a, aStep, b, bStep, bConst, dst, dstStep, roi, thr::kRelEqEps, eps);
   return lumStatusOk;

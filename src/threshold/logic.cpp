@@ -64,39 +64,24 @@ LogicRowsFn<U> pickLogicRows() {
   return pick(table, &logicRowsScalar<U>);
 }
 
-// Logic is on bits only, so every type runs as the unsigned type of its width. b is the
-// second image, or (bStep 0) the per-channel constants.
+// Pointers, steps, then the size. Logic is on bits only, so every type runs as the unsigned
+// type of its width. b is the second image, or (bConst) the per-channel constants.
 template <class T, class L>
-void runLogic(const T* a, int aStep, const T* b, int bStep, T* dst, int dstStep, LumiSize roi,
-              int op) {
+LumStatus logicImpl(const T* a, int aStep, const T* b, int bStep, bool bConst, T* dst,
+                    int dstStep, LumiSize roi, int op) {
+  if (LumStatus st = thr::checkOperands(a, aStep, b, bStep, bConst, dst, dstStep, roi))
+    return st;
   using U = std::make_unsigned_t<T>;
   const U* ub = reinterpret_cast<const U*>(b);
   thr::Pattern<U> pat;
-  if (!bStep) {
+  if (bConst) {
     thr::fillPattern(pat, ub, L::kCh, L::kUse);
     ub = pat.v;
   }
-  pickLogicRows<U>()(thr::elemRows<L>(reinterpret_cast<const U*>(a), aStep, ub, bStep,
-                                      reinterpret_cast<U*>(dst), dstStep, roi),
+  pickLogicRows<U>()(thr::elemRows<L>(reinterpret_cast<const U*>(a), aStep, ub,
+                                      bConst ? 0 : bStep, reinterpret_cast<U*>(dst), dstStep,
+                                      roi),
                      op);
-}
-
-// Pointers, steps, then the size.
-template <class T, class L>
-LumStatus logicImpl(const T* a, int aStep, const T* b, int bStep, T* dst, int dstStep,
-                    LumiSize roi, int op) {
-  if (LumStatus st = thr::checkStepsThenSize(anyNull(a, b, dst), roi, aStep, bStep, dstStep))
-    return st;
-  runLogic<T, L>(a, aStep, b, bStep, dst, dstStep, roi, op);
-  return lumStatusOk;
-}
-
-template <class T, class L>
-LumStatus logicConstImpl(const T* a, int aStep, const T* value, T* dst, int dstStep,
-                         LumiSize roi, int op) {
-  if (LumStatus st = thr::checkStepsThenSize(anyNull(a, value, dst), roi, aStep, dstStep))
-    return st;
-  runLogic<T, L>(a, aStep, value, 0, dst, dstStep, roi, op);
   return lumStatusOk;
 }
 
@@ -104,7 +89,7 @@ LumStatus logicConstImpl(const T* a, int aStep, const T* value, T* dst, int dstS
 template <class L>
 LumStatus notImpl(const Lum8u* src, int srcStep, Lum8u* dst, int dstStep, LumiSize roi) {
   static const Lum8u kOnes[4] = {0xFF, 0xFF, 0xFF, 0xFF};
-  return logicConstImpl<Lum8u, L>(src, srcStep, kOnes, dst, dstStep, roi, thr::kXor);
+  return logicImpl<Lum8u, L>(src, srcStep, kOnes, 0, true, dst, dstStep, roi, thr::kXor);
 }
 
 }  // namespace
@@ -120,25 +105,25 @@ LumStatus notImpl(const Lum8u* src, int srcStep, Lum8u* dst, int dstStep, LumiSi
 #define LUMI_LOGIC(NAME, OP, T, L)                                                            \
   LUMI_API LumStatus NAME(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step,         \
                           T* pDst, int dstStep, LumiSize roi) {                               \
-    return lumi::logicImpl<T, lumi::L>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roi,  \
-                                       lumi::thr::OP);                                        \
+    return lumi::logicImpl<T, lumi::L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst, dstStep, \
+                                       roi, lumi::thr::OP);                                   \
   }
 #define LUMI_LOGIC_I(NAME, OP, T, L)                                                          \
   LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep,             \
                           LumiSize roi) {                                                     \
-    return lumi::logicImpl<T, lumi::L>(pSrc, srcStep, pSrcDst, srcDstStep, pSrcDst,           \
+    return lumi::logicImpl<T, lumi::L>(pSrc, srcStep, pSrcDst, srcDstStep, false, pSrcDst,    \
                                        srcDstStep, roi, lumi::thr::OP);                       \
   }
 #define LUMI_LOGIC_C(NAME, OP, T, L, K)                                                       \
   LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LUMI_LOGIC_##K(T) value, T* pDst,       \
                           int dstStep, LumiSize roi) {                                        \
-    return lumi::logicConstImpl<T, lumi::L>(pSrc, srcStep, LUMI_LOGIC_ADDR_##K(value), pDst,  \
-                                            dstStep, roi, lumi::thr::OP);                     \
+    return lumi::logicImpl<T, lumi::L>(pSrc, srcStep, LUMI_LOGIC_ADDR_##K(value), 0, true,    \
+                                       pDst, dstStep, roi, lumi::thr::OP);                    \
   }
 #define LUMI_LOGIC_CI(NAME, OP, T, L, K)                                                      \
   LUMI_API LumStatus NAME(LUMI_LOGIC_##K(T) value, T* pSrcDst, int srcDstStep, LumiSize roi) { \
-    return lumi::logicConstImpl<T, lumi::L>(pSrcDst, srcDstStep, LUMI_LOGIC_ADDR_##K(value),  \
-                                            pSrcDst, srcDstStep, roi, lumi::thr::OP);         \
+    return lumi::logicImpl<T, lumi::L>(pSrcDst, srcDstStep, LUMI_LOGIC_ADDR_##K(value), 0,    \
+                                       true, pSrcDst, srcDstStep, roi, lumi::thr::OP);        \
   }
 #define LUMI_NOT(NAME, L)                                                                     \
   LUMI_API LumStatus NAME(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep,           \

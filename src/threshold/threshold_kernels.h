@@ -97,6 +97,15 @@ inline LumStatus checkStepsThenSize(bool nullPtr, LumiSize roi, S... steps) {
   return lumStatusOk;
 }
 
+// Pointers, steps, then size of a call on a source a and a second operand b: an image, or
+// per-channel constants (bConst) that have no step.
+template <class T, class O>
+inline LumStatus checkOperands(const T* a, int aStep, const T* b, int bStep, bool bConst,
+                               const O* dst, int dstStep, LumiSize roi) {
+  return bConst ? checkStepsThenSize(anyNull(a, b, dst), roi, aStep, dstStep)
+                : checkStepsThenSize(anyNull(a, b, dst), roi, aStep, bStep, dstStep);
+}
+
 // ---- per-sample rules, shared by the scalar twins and the vector tails ----------------------
 
 // Threshold modes.
