@@ -318,25 +318,9 @@ LumStatus constInt(const CT* s, int sStep, const CT* value, CT* d, int dStep, Lu
 }  // namespace lumi
 
 // ---- exports -------------------------------------------------------------------------------
-// One line per member. VT is how the constant is passed (the value for C1, else a pointer to
-// one per channel) and VP its address.
-#define LUMI_32FC_IMAGE(NAME, OP, L)                                                            \
-  LUMI_API LumStatus NAME(const Lum32fc* a, int as, const Lum32fc* b, int bs, Lum32fc* d,      \
-                          int ds, LumiSize r) {                                                \
-    return lumi::arithf::binary32fc<lumi::L>(OP, a, as, b, bs, d, ds, r);                      \
-  }
-#define LUMI_32FC_IMAGE_I(NAME, OP, L)                                                           \
-  LUMI_API LumStatus NAME(const Lum32fc* s, int ss, Lum32fc* sd, int sds, LumiSize r) {         \
-    return lumi::arithf::binary32fc<lumi::L>(OP, s, ss, sd, sds, sd, sds, r);                   \
-  }
-#define LUMI_32FC_CONST(NAME, OP, L, VT, VP)                                                     \
-  LUMI_API LumStatus NAME(const Lum32fc* s, int ss, VT value, Lum32fc* d, int ds, LumiSize r) { \
-    return lumi::arithf::const32fc<lumi::L>(OP, s, ss, VP, d, ds, r);                           \
-  }
-#define LUMI_32FC_CONST_I(NAME, OP, L, VT, VP)                                \
-  LUMI_API LumStatus NAME(VT value, Lum32fc* sd, int sds, LumiSize r) {      \
-    return lumi::arithf::const32fc<lumi::L>(OP, sd, sds, VP, sd, sds, r);    \
-  }
+// One line per member; the 32fc stamps are those of the 32f members (float_kernels.h). VT is
+// how the constant is passed (the value for C1, else a pointer to one per channel), VP its
+// address.
 #define LUMI_CINT_IMAGE(NAME, OP, CT, L)                                                         \
   LUMI_API LumStatus NAME(const CT* a, int as, const CT* b, int bs, CT* d, int ds, LumiSize r,  \
                           int sf) {                                                             \
@@ -356,54 +340,54 @@ LumStatus constInt(const CT* s, int sStep, const CT* value, CT* d, int dStep, Lu
   }
 
 extern "C" {
-LUMI_32FC_IMAGE(lumiAdd_32fc_C1R, 0, C1)
-LUMI_32FC_IMAGE_I(lumiAdd_32fc_C1IR, 0, C1)
-LUMI_32FC_IMAGE(lumiAdd_32fc_C3R, 0, C3)
-LUMI_32FC_IMAGE_I(lumiAdd_32fc_C3IR, 0, C3)
-LUMI_32FC_IMAGE(lumiAdd_32fc_AC4R, 0, AC4)
-LUMI_32FC_IMAGE_I(lumiAdd_32fc_AC4IR, 0, AC4)
-LUMI_32FC_CONST(lumiAddC_32fc_C1R, 0, C1, Lum32fc, &value)
-LUMI_32FC_CONST_I(lumiAddC_32fc_C1IR, 0, C1, Lum32fc, &value)
-LUMI_32FC_CONST(lumiAddC_32fc_C3R, 0, C3, const Lum32fc*, value)
-LUMI_32FC_CONST_I(lumiAddC_32fc_C3IR, 0, C3, const Lum32fc*, value)
-LUMI_32FC_CONST(lumiAddC_32fc_AC4R, 0, AC4, const Lum32fc*, value)
-LUMI_32FC_CONST_I(lumiAddC_32fc_AC4IR, 0, AC4, const Lum32fc*, value)
-LUMI_32FC_IMAGE(lumiSub_32fc_C1R, 1, C1)
-LUMI_32FC_IMAGE_I(lumiSub_32fc_C1IR, 1, C1)
-LUMI_32FC_IMAGE(lumiSub_32fc_C3R, 1, C3)
-LUMI_32FC_IMAGE_I(lumiSub_32fc_C3IR, 1, C3)
-LUMI_32FC_IMAGE(lumiSub_32fc_AC4R, 1, AC4)
-LUMI_32FC_IMAGE_I(lumiSub_32fc_AC4IR, 1, AC4)
-LUMI_32FC_CONST(lumiSubC_32fc_C1R, 1, C1, Lum32fc, &value)
-LUMI_32FC_CONST_I(lumiSubC_32fc_C1IR, 1, C1, Lum32fc, &value)
-LUMI_32FC_CONST(lumiSubC_32fc_C3R, 1, C3, const Lum32fc*, value)
-LUMI_32FC_CONST_I(lumiSubC_32fc_C3IR, 1, C3, const Lum32fc*, value)
-LUMI_32FC_CONST(lumiSubC_32fc_AC4R, 1, AC4, const Lum32fc*, value)
-LUMI_32FC_CONST_I(lumiSubC_32fc_AC4IR, 1, AC4, const Lum32fc*, value)
-LUMI_32FC_IMAGE(lumiMul_32fc_C1R, 2, C1)
-LUMI_32FC_IMAGE_I(lumiMul_32fc_C1IR, 2, C1)
-LUMI_32FC_IMAGE(lumiMul_32fc_C3R, 2, C3)
-LUMI_32FC_IMAGE_I(lumiMul_32fc_C3IR, 2, C3)
-LUMI_32FC_IMAGE(lumiMul_32fc_AC4R, 2, AC4)
-LUMI_32FC_IMAGE_I(lumiMul_32fc_AC4IR, 2, AC4)
-LUMI_32FC_CONST(lumiMulC_32fc_C1R, 2, C1, Lum32fc, &value)
-LUMI_32FC_CONST_I(lumiMulC_32fc_C1IR, 2, C1, Lum32fc, &value)
-LUMI_32FC_CONST(lumiMulC_32fc_C3R, 2, C3, const Lum32fc*, value)
-LUMI_32FC_CONST_I(lumiMulC_32fc_C3IR, 2, C3, const Lum32fc*, value)
-LUMI_32FC_CONST(lumiMulC_32fc_AC4R, 2, AC4, const Lum32fc*, value)
-LUMI_32FC_CONST_I(lumiMulC_32fc_AC4IR, 2, AC4, const Lum32fc*, value)
-LUMI_32FC_IMAGE(lumiDiv_32fc_C1R, 3, C1)
-LUMI_32FC_IMAGE_I(lumiDiv_32fc_C1IR, 3, C1)
-LUMI_32FC_IMAGE(lumiDiv_32fc_C3R, 3, C3)
-LUMI_32FC_IMAGE_I(lumiDiv_32fc_C3IR, 3, C3)
-LUMI_32FC_IMAGE(lumiDiv_32fc_AC4R, 3, AC4)
-LUMI_32FC_IMAGE_I(lumiDiv_32fc_AC4IR, 3, AC4)
-LUMI_32FC_CONST(lumiDivC_32fc_C1R, 3, C1, Lum32fc, &value)
-LUMI_32FC_CONST_I(lumiDivC_32fc_C1IR, 3, C1, Lum32fc, &value)
-LUMI_32FC_CONST(lumiDivC_32fc_C3R, 3, C3, const Lum32fc*, value)
-LUMI_32FC_CONST_I(lumiDivC_32fc_C3IR, 3, C3, const Lum32fc*, value)
-LUMI_32FC_CONST(lumiDivC_32fc_AC4R, 3, AC4, const Lum32fc*, value)
-LUMI_32FC_CONST_I(lumiDivC_32fc_AC4IR, 3, AC4, const Lum32fc*, value)
+LUMI_FLOAT_IMAGE(lumiAdd_32fc_C1R, binary32fc, Lum32fc, 0, C1)
+LUMI_FLOAT_IMAGE_I(lumiAdd_32fc_C1IR, binary32fc, Lum32fc, 0, C1)
+LUMI_FLOAT_IMAGE(lumiAdd_32fc_C3R, binary32fc, Lum32fc, 0, C3)
+LUMI_FLOAT_IMAGE_I(lumiAdd_32fc_C3IR, binary32fc, Lum32fc, 0, C3)
+LUMI_FLOAT_IMAGE(lumiAdd_32fc_AC4R, binary32fc, Lum32fc, 0, AC4)
+LUMI_FLOAT_IMAGE_I(lumiAdd_32fc_AC4IR, binary32fc, Lum32fc, 0, AC4)
+LUMI_FLOAT_CONST(lumiAddC_32fc_C1R, const32fc, Lum32fc, 0, C1, Lum32fc, &value)
+LUMI_FLOAT_CONST_I(lumiAddC_32fc_C1IR, const32fc, Lum32fc, 0, C1, Lum32fc, &value)
+LUMI_FLOAT_CONST(lumiAddC_32fc_C3R, const32fc, Lum32fc, 0, C3, const Lum32fc*, value)
+LUMI_FLOAT_CONST_I(lumiAddC_32fc_C3IR, const32fc, Lum32fc, 0, C3, const Lum32fc*, value)
+LUMI_FLOAT_CONST(lumiAddC_32fc_AC4R, const32fc, Lum32fc, 0, AC4, const Lum32fc*, value)
+LUMI_FLOAT_CONST_I(lumiAddC_32fc_AC4IR, const32fc, Lum32fc, 0, AC4, const Lum32fc*, value)
+LUMI_FLOAT_IMAGE(lumiSub_32fc_C1R, binary32fc, Lum32fc, 1, C1)
+LUMI_FLOAT_IMAGE_I(lumiSub_32fc_C1IR, binary32fc, Lum32fc, 1, C1)
+LUMI_FLOAT_IMAGE(lumiSub_32fc_C3R, binary32fc, Lum32fc, 1, C3)
+LUMI_FLOAT_IMAGE_I(lumiSub_32fc_C3IR, binary32fc, Lum32fc, 1, C3)
+LUMI_FLOAT_IMAGE(lumiSub_32fc_AC4R, binary32fc, Lum32fc, 1, AC4)
+LUMI_FLOAT_IMAGE_I(lumiSub_32fc_AC4IR, binary32fc, Lum32fc, 1, AC4)
+LUMI_FLOAT_CONST(lumiSubC_32fc_C1R, const32fc, Lum32fc, 1, C1, Lum32fc, &value)
+LUMI_FLOAT_CONST_I(lumiSubC_32fc_C1IR, const32fc, Lum32fc, 1, C1, Lum32fc, &value)
+LUMI_FLOAT_CONST(lumiSubC_32fc_C3R, const32fc, Lum32fc, 1, C3, const Lum32fc*, value)
+LUMI_FLOAT_CONST_I(lumiSubC_32fc_C3IR, const32fc, Lum32fc, 1, C3, const Lum32fc*, value)
+LUMI_FLOAT_CONST(lumiSubC_32fc_AC4R, const32fc, Lum32fc, 1, AC4, const Lum32fc*, value)
+LUMI_FLOAT_CONST_I(lumiSubC_32fc_AC4IR, const32fc, Lum32fc, 1, AC4, const Lum32fc*, value)
+LUMI_FLOAT_IMAGE(lumiMul_32fc_C1R, binary32fc, Lum32fc, 2, C1)
+LUMI_FLOAT_IMAGE_I(lumiMul_32fc_C1IR, binary32fc, Lum32fc, 2, C1)
+LUMI_FLOAT_IMAGE(lumiMul_32fc_C3R, binary32fc, Lum32fc, 2, C3)
+LUMI_FLOAT_IMAGE_I(lumiMul_32fc_C3IR, binary32fc, Lum32fc, 2, C3)
+LUMI_FLOAT_IMAGE(lumiMul_32fc_AC4R, binary32fc, Lum32fc, 2, AC4)
+LUMI_FLOAT_IMAGE_I(lumiMul_32fc_AC4IR, binary32fc, Lum32fc, 2, AC4)
+LUMI_FLOAT_CONST(lumiMulC_32fc_C1R, const32fc, Lum32fc, 2, C1, Lum32fc, &value)
+LUMI_FLOAT_CONST_I(lumiMulC_32fc_C1IR, const32fc, Lum32fc, 2, C1, Lum32fc, &value)
+LUMI_FLOAT_CONST(lumiMulC_32fc_C3R, const32fc, Lum32fc, 2, C3, const Lum32fc*, value)
+LUMI_FLOAT_CONST_I(lumiMulC_32fc_C3IR, const32fc, Lum32fc, 2, C3, const Lum32fc*, value)
+LUMI_FLOAT_CONST(lumiMulC_32fc_AC4R, const32fc, Lum32fc, 2, AC4, const Lum32fc*, value)
+LUMI_FLOAT_CONST_I(lumiMulC_32fc_AC4IR, const32fc, Lum32fc, 2, AC4, const Lum32fc*, value)
+LUMI_FLOAT_IMAGE(lumiDiv_32fc_C1R, binary32fc, Lum32fc, 3, C1)
+LUMI_FLOAT_IMAGE_I(lumiDiv_32fc_C1IR, binary32fc, Lum32fc, 3, C1)
+LUMI_FLOAT_IMAGE(lumiDiv_32fc_C3R, binary32fc, Lum32fc, 3, C3)
+LUMI_FLOAT_IMAGE_I(lumiDiv_32fc_C3IR, binary32fc, Lum32fc, 3, C3)
+LUMI_FLOAT_IMAGE(lumiDiv_32fc_AC4R, binary32fc, Lum32fc, 3, AC4)
+LUMI_FLOAT_IMAGE_I(lumiDiv_32fc_AC4IR, binary32fc, Lum32fc, 3, AC4)
+LUMI_FLOAT_CONST(lumiDivC_32fc_C1R, const32fc, Lum32fc, 3, C1, Lum32fc, &value)
+LUMI_FLOAT_CONST_I(lumiDivC_32fc_C1IR, const32fc, Lum32fc, 3, C1, Lum32fc, &value)
+LUMI_FLOAT_CONST(lumiDivC_32fc_C3R, const32fc, Lum32fc, 3, C3, const Lum32fc*, value)
+LUMI_FLOAT_CONST_I(lumiDivC_32fc_C3IR, const32fc, Lum32fc, 3, C3, const Lum32fc*, value)
+LUMI_FLOAT_CONST(lumiDivC_32fc_AC4R, const32fc, Lum32fc, 3, AC4, const Lum32fc*, value)
+LUMI_FLOAT_CONST_I(lumiDivC_32fc_AC4IR, const32fc, Lum32fc, 3, AC4, const Lum32fc*, value)
 LUMI_CINT_IMAGE(lumiAdd_16sc_C1RSfs, 0, Lum16sc, C1)
 LUMI_CINT_IMAGE_I(lumiAdd_16sc_C1IRSfs, 0, Lum16sc, C1)
 LUMI_CINT_IMAGE(lumiAdd_16sc_C3RSfs, 0, Lum16sc, C3)

@@ -131,3 +131,24 @@ void endStreaming();
 
 }  // namespace arithf
 }  // namespace lumi
+
+// ---- export stamps of the 32f and 32fc image arithmetic ------------------------------------
+// One line per member: IMPL is binary32f/binary32fc (image members) or const32f/const32fc
+// (constant members), T the pixel type, VT how the constant is passed (the value for C1,
+// else a pointer to one per channel) and VP its address.
+#define LUMI_FLOAT_IMAGE(NAME, IMPL, T, OP, L)                                             \
+  LUMI_API LumStatus NAME(const T* a, int as, const T* b, int bs, T* d, int ds, LumiSize r) { \
+    return lumi::arithf::IMPL<lumi::L>(OP, a, as, b, bs, d, ds, r);                          \
+  }
+#define LUMI_FLOAT_IMAGE_I(NAME, IMPL, T, OP, L)                            \
+  LUMI_API LumStatus NAME(const T* s, int ss, T* sd, int sds, LumiSize r) { \
+    return lumi::arithf::IMPL<lumi::L>(OP, s, ss, sd, sds, sd, sds, r);     \
+  }
+#define LUMI_FLOAT_CONST(NAME, IMPL, T, OP, L, VT, VP)                              \
+  LUMI_API LumStatus NAME(const T* s, int ss, VT value, T* d, int ds, LumiSize r) { \
+    return lumi::arithf::IMPL<lumi::L>(OP, s, ss, VP, d, ds, r);                    \
+  }
+#define LUMI_FLOAT_CONST_I(NAME, IMPL, T, OP, L, VT, VP)                \
+  LUMI_API LumStatus NAME(VT value, T* sd, int sds, LumiSize r) {       \
+    return lumi::arithf::IMPL<lumi::L>(OP, sd, sds, VP, sd, sds, r);    \
+  }
