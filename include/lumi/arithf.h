@@ -6,6 +6,7 @@
 extern "C" {
 #endif
 
+/* AddC: src + value; C3 and AC4 take 3 channel values, C4 takes 4 (32f: src/arith/float_arith.cpp; 32fc, 16sc, 32sc: src/arith/complex_arith.cpp) */
 LUMI_API LumStatus lumiAddC_16sc_AC4IRSfs(const Lum16sc value[3], Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiAddC_16sc_AC4RSfs(const Lum16sc* pSrc, int srcStep, const Lum16sc value[3], Lum16sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiAddC_16sc_C1IRSfs(Lum16sc value, Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
@@ -32,6 +33,8 @@ LUMI_API LumStatus lumiAddC_32sc_C1IRSfs(Lum32sc value, Lum32sc* pSrcDst, int sr
 LUMI_API LumStatus lumiAddC_32sc_C1RSfs(const Lum32sc* pSrc, int srcStep, Lum32sc value, Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiAddC_32sc_C3IRSfs(const Lum32sc value[3], Lum32sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiAddC_32sc_C3RSfs(const Lum32sc* pSrc, int srcStep, const Lum32sc value[3], Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
+
+/* Add: src1 + src2; in place the srcDst image is src2 (32f: src/arith/float_arith.cpp; 32fc, 16sc, 32sc: src/arith/complex_arith.cpp) */
 LUMI_API LumStatus lumiAdd_16sc_AC4IRSfs(const Lum16sc* pSrc, int srcStep, Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiAdd_16sc_AC4RSfs(const Lum16sc* pSrc1, int src1Step, const Lum16sc* pSrc2, int src2Step, Lum16sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiAdd_16sc_C1IRSfs(const Lum16sc* pSrc, int srcStep, Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
@@ -58,6 +61,8 @@ LUMI_API LumStatus lumiAdd_32sc_C1IRSfs(const Lum32sc* pSrc, int srcStep, Lum32s
 LUMI_API LumStatus lumiAdd_32sc_C1RSfs(const Lum32sc* pSrc1, int src1Step, const Lum32sc* pSrc2, int src2Step, Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiAdd_32sc_C3IRSfs(const Lum32sc* pSrc, int srcStep, Lum32sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiAdd_32sc_C3RSfs(const Lum32sc* pSrc1, int src1Step, const Lum32sc* pSrc2, int src2Step, Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
+
+/* DivC: src / value; a zero channel value gives lumStatusDivisorZeroErr (32f: src/arith/float_arith.cpp; 32fc, 16sc, 32sc: src/arith/complex_arith.cpp) */
 LUMI_API LumStatus lumiDivC_16sc_AC4IRSfs(const Lum16sc value[3], Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiDivC_16sc_AC4RSfs(const Lum16sc* pSrc, int srcStep, const Lum16sc value[3], Lum16sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiDivC_16sc_C1IRSfs(Lum16sc value, Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
@@ -84,6 +89,8 @@ LUMI_API LumStatus lumiDivC_32sc_C1IRSfs(Lum32sc value, Lum32sc* pSrcDst, int sr
 LUMI_API LumStatus lumiDivC_32sc_C1RSfs(const Lum32sc* pSrc, int srcStep, Lum32sc value, Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiDivC_32sc_C3IRSfs(const Lum32sc value[3], Lum32sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiDivC_32sc_C3RSfs(const Lum32sc* pSrc, int srcStep, const Lum32sc value[3], Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
+
+/* Div: src2 / src1; a zero divisor gives lumStatusDivByZeroWarn (32f: src/arith/float_arith.cpp; 32fc, 16sc, 32sc: src/arith/complex_arith.cpp) */
 LUMI_API LumStatus lumiDiv_16sc_AC4IRSfs(const Lum16sc* pSrc, int srcStep, Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiDiv_16sc_AC4RSfs(const Lum16sc* pSrc1, int src1Step, const Lum16sc* pSrc2, int src2Step, Lum16sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiDiv_16sc_C1IRSfs(const Lum16sc* pSrc, int srcStep, Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
@@ -110,6 +117,8 @@ LUMI_API LumStatus lumiDiv_32sc_C1IRSfs(const Lum32sc* pSrc, int srcStep, Lum32s
 LUMI_API LumStatus lumiDiv_32sc_C1RSfs(const Lum32sc* pSrc1, int src1Step, const Lum32sc* pSrc2, int src2Step, Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiDiv_32sc_C3IRSfs(const Lum32sc* pSrc, int srcStep, Lum32sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiDiv_32sc_C3RSfs(const Lum32sc* pSrc1, int src1Step, const Lum32sc* pSrc2, int src2Step, Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
+
+/* MulC: src x value, complex products for the complex types (32f: src/arith/float_arith.cpp; 32fc, 16sc, 32sc: src/arith/complex_arith.cpp) */
 LUMI_API LumStatus lumiMulC_16sc_AC4IRSfs(const Lum16sc value[3], Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiMulC_16sc_AC4RSfs(const Lum16sc* pSrc, int srcStep, const Lum16sc value[3], Lum16sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiMulC_16sc_C1IRSfs(Lum16sc value, Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
@@ -136,6 +145,8 @@ LUMI_API LumStatus lumiMulC_32sc_C1IRSfs(Lum32sc value, Lum32sc* pSrcDst, int sr
 LUMI_API LumStatus lumiMulC_32sc_C1RSfs(const Lum32sc* pSrc, int srcStep, Lum32sc value, Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiMulC_32sc_C3IRSfs(const Lum32sc value[3], Lum32sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiMulC_32sc_C3RSfs(const Lum32sc* pSrc, int srcStep, const Lum32sc value[3], Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
+
+/* Mul: src1 x src2, complex products for the complex types (32f: src/arith/float_arith.cpp; 32fc, 16sc, 32sc: src/arith/complex_arith.cpp) */
 LUMI_API LumStatus lumiMul_16sc_AC4IRSfs(const Lum16sc* pSrc, int srcStep, Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiMul_16sc_AC4RSfs(const Lum16sc* pSrc1, int src1Step, const Lum16sc* pSrc2, int src2Step, Lum16sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiMul_16sc_C1IRSfs(const Lum16sc* pSrc, int srcStep, Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
@@ -162,6 +173,8 @@ LUMI_API LumStatus lumiMul_32sc_C1IRSfs(const Lum32sc* pSrc, int srcStep, Lum32s
 LUMI_API LumStatus lumiMul_32sc_C1RSfs(const Lum32sc* pSrc1, int src1Step, const Lum32sc* pSrc2, int src2Step, Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiMul_32sc_C3IRSfs(const Lum32sc* pSrc, int srcStep, Lum32sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiMul_32sc_C3RSfs(const Lum32sc* pSrc1, int src1Step, const Lum32sc* pSrc2, int src2Step, Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
+
+/* SubC: src - value (32f: src/arith/float_arith.cpp; 32fc, 16sc, 32sc: src/arith/complex_arith.cpp) */
 LUMI_API LumStatus lumiSubC_16sc_AC4IRSfs(const Lum16sc value[3], Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiSubC_16sc_AC4RSfs(const Lum16sc* pSrc, int srcStep, const Lum16sc value[3], Lum16sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiSubC_16sc_C1IRSfs(Lum16sc value, Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
@@ -188,6 +201,8 @@ LUMI_API LumStatus lumiSubC_32sc_C1IRSfs(Lum32sc value, Lum32sc* pSrcDst, int sr
 LUMI_API LumStatus lumiSubC_32sc_C1RSfs(const Lum32sc* pSrc, int srcStep, Lum32sc value, Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiSubC_32sc_C3IRSfs(const Lum32sc value[3], Lum32sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiSubC_32sc_C3RSfs(const Lum32sc* pSrc, int srcStep, const Lum32sc value[3], Lum32sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
+
+/* Sub: src2 - src1; in place the srcDst image is src2 (32f: src/arith/float_arith.cpp; 32fc, 16sc, 32sc: src/arith/complex_arith.cpp) */
 LUMI_API LumStatus lumiSub_16sc_AC4IRSfs(const Lum16sc* pSrc, int srcStep, Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiSub_16sc_AC4RSfs(const Lum16sc* pSrc1, int src1Step, const Lum16sc* pSrc2, int src2Step, Lum16sc* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiSub_16sc_C1IRSfs(const Lum16sc* pSrc, int srcStep, Lum16sc* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);

@@ -6,6 +6,7 @@
 extern "C" {
 #endif
 
+/* Abs: absolute value; |-32768| of 16s saturates to 32767 (src/arith/pointwise_basic.cpp) */
 LUMI_API LumStatus lumiAbs_16s_AC4IR(Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiAbs_16s_AC4R(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiAbs_16s_C1IR(Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize);
@@ -22,6 +23,8 @@ LUMI_API LumStatus lumiAbs_32f_C3IR(Lum32f* pSrcDst, int srcDstStep, LumiSize ro
 LUMI_API LumStatus lumiAbs_32f_C3R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiAbs_32f_C4IR(Lum32f* pSrcDst, int srcDstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiAbs_32f_C4R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, LumiSize roiSize);
+
+/* Exp: e^x, scaled by 2^-scaleFactor for the integer types (src/arith/pointwise_scaled.cpp) */
 LUMI_API LumStatus lumiExp_16s_C1IRSfs(Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiExp_16s_C1RSfs(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiExp_16s_C3IRSfs(Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
@@ -34,6 +37,8 @@ LUMI_API LumStatus lumiExp_8u_C1IRSfs(Lum8u* pSrcDst, int srcDstStep, LumiSize r
 LUMI_API LumStatus lumiExp_8u_C1RSfs(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiExp_8u_C3IRSfs(Lum8u* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiExp_8u_C3RSfs(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
+
+/* Ln: natural logarithm; a negative sample gives lumStatusDomainWarn (src/arith/pointwise_scaled.cpp) */
 LUMI_API LumStatus lumiLn_16s_C1IRSfs(Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiLn_16s_C1RSfs(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiLn_16s_C3IRSfs(Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
@@ -46,6 +51,8 @@ LUMI_API LumStatus lumiLn_8u_C1IRSfs(Lum8u* pSrcDst, int srcDstStep, LumiSize ro
 LUMI_API LumStatus lumiLn_8u_C1RSfs(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiLn_8u_C3IRSfs(Lum8u* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiLn_8u_C3RSfs(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
+
+/* MulCScale: src x value / the type maximum, exactly (src/arith/pointwise_basic.cpp) */
 LUMI_API LumStatus lumiMulCScale_16u_AC4IR(const Lum16u value[3], Lum16u* pSrcDst, int srcDstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiMulCScale_16u_AC4R(const Lum16u* pSrc, int srcStep, const Lum16u value[3], Lum16u* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiMulCScale_16u_C1IR(Lum16u value, Lum16u* pSrcDst, int srcDstStep, LumiSize roiSize);
@@ -62,6 +69,8 @@ LUMI_API LumStatus lumiMulCScale_8u_C3IR(const Lum8u value[3], Lum8u* pSrcDst, i
 LUMI_API LumStatus lumiMulCScale_8u_C3R(const Lum8u* pSrc, int srcStep, const Lum8u value[3], Lum8u* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiMulCScale_8u_C4IR(const Lum8u value[4], Lum8u* pSrcDst, int srcDstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiMulCScale_8u_C4R(const Lum8u* pSrc, int srcStep, const Lum8u value[4], Lum8u* pDst, int dstStep, LumiSize roiSize);
+
+/* MulScale: src1 x src2 / the type maximum, exactly (src/arith/pointwise_basic.cpp) */
 LUMI_API LumStatus lumiMulScale_16u_AC4IR(const Lum16u* pSrc, int srcStep, Lum16u* pSrcDst, int srcDstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiMulScale_16u_AC4R(const Lum16u* pSrc1, int src1Step, const Lum16u* pSrc2, int src2Step, Lum16u* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiMulScale_16u_C1IR(const Lum16u* pSrc, int srcStep, Lum16u* pSrcDst, int srcDstStep, LumiSize roiSize);
@@ -78,6 +87,8 @@ LUMI_API LumStatus lumiMulScale_8u_C3IR(const Lum8u* pSrc, int srcStep, Lum8u* p
 LUMI_API LumStatus lumiMulScale_8u_C3R(const Lum8u* pSrc1, int src1Step, const Lum8u* pSrc2, int src2Step, Lum8u* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiMulScale_8u_C4IR(const Lum8u* pSrc, int srcStep, Lum8u* pSrcDst, int srcDstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiMulScale_8u_C4R(const Lum8u* pSrc1, int src1Step, const Lum8u* pSrc2, int src2Step, Lum8u* pDst, int dstStep, LumiSize roiSize);
+
+/* Sqr: x^2 (32f: src/arith/pointwise_basic.cpp; 8u, 16u, 16s scaled by 2^-scaleFactor: src/arith/pointwise_scaled.cpp) */
 LUMI_API LumStatus lumiSqr_16s_AC4IRSfs(Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiSqr_16s_AC4RSfs(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiSqr_16s_C1IRSfs(Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
@@ -110,6 +121,8 @@ LUMI_API LumStatus lumiSqr_8u_C3IRSfs(Lum8u* pSrcDst, int srcDstStep, LumiSize r
 LUMI_API LumStatus lumiSqr_8u_C3RSfs(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiSqr_8u_C4IRSfs(Lum8u* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiSqr_8u_C4RSfs(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
+
+/* Sqrt: square root; a negative sample gives lumStatusDomainWarn (32f: src/arith/pointwise_basic.cpp; 8u, 16u, 16s scaled by 2^-scaleFactor: src/arith/pointwise_scaled.cpp) */
 LUMI_API LumStatus lumiSqrt_16s_AC4IRSfs(Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiSqrt_16s_AC4RSfs(const Lum16s* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiSqrt_16s_C1IRSfs(Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
