@@ -102,23 +102,42 @@ HWY_INLINE void packedBlock(const S* s, D* d, const RowParams& p, M colour) {
     const hn::ScalableTag<uint8_t> du8;
     auto hi = hn::ConcatEven(du16, hn::BitCast(du16, op(df, hn::LoadU(ds, s + 3 * N), p)),
                              hn::BitCast(du16, op(df, hn::LoadU(ds, s + 2 * N), p)));
-    storeColour(dd, hn::BitCast(dd, hn::ConcatEven(du8, hn::BitCast(du8, hi), hn::BitCast(du8, lo))),
-                d, kKeepAlpha, colour);
+    const auto bytes = hn::ConcatEven(du8, hn::BitCast(du8, hi), hn::BitCast(du8, lo));
+    storeColour(dd, hn::BitCast(dd, bytes), d, kKeepAlpha, colour);
   }
 }
 
-// One vector of op on s to d, the full-width kinds.
-template <bool kKeepAlpha, Kind K, class S, class D, class M>
-HWY_INLINE void plainBlock(const S* s, D* d, const RowParams& p, M colour) {
+// kVecs (1 or 4) vectors of op on s to d, the full-width kinds; four are all loaded before any
+// is stored.
+template <int kVecs, bool kKeepAlpha, Kind K, class S, class D, class M>
+HWY_INLINE void plainBlocks(const S* s, D* d, const RowParams& p, M colour) {
+  const Op<K, S, D> op;
   const hn::ScalableTag<typename Op<K, S, D>::W> dw;
-  storeColour(hn::Rebind<D, decltype(dw)>(), Op<K, S, D>()(dw, hn::LoadU(hn::Rebind<S, decltype(dw)>(), s), p),
-              d, kKeepAlpha, colour);
+  const hn::Rebind<S, decltype(dw)> ds;
+  const hn::Rebind<D, decltype(dw)> dd;
+  const std::size_t N = hn::Lanes(dw);
+  if constexpr (kVecs == 4) {
+    const auto v0 = hn::LoadU(ds, s), v1 = hn::LoadU(ds, s + N);
+    const auto v2 = hn::LoadU(ds, s + 2 * N), v3 = hn::LoadU(ds, s + 3 * N);
+    storeColour(dd, op(dw, v0, p), d, kKeepAlpha, colour);
+    storeColour(dd, op(dw, v1, p), d + N, kKeepAlpha, colour);
+    storeColour(dd, op(dw, v2, p), d + 2 * N, kKeepAlpha, colour);
+    storeColour(dd, op(dw, v3, p), d + 3 * N, kKeepAlpha, colour);
+  } else {
+    storeColour(dd, op(dw, hn::LoadU(ds, s), p), d, kKeepAlpha, colour);
+  }
 }
 
-template <bool kKeepAlpha, Kind K, class S, class D, class M>
+// kVecs blocks from s to d: a block is one full destination vector for the packed kinds, one
+// W vector for the others.
+template <int kVecs, bool kKeepAlpha, Kind K, class S, class D, class M>
 HWY_INLINE void block(const S* s, D* d, const RowParams& p, M colour) {
-  if constexpr (Op<K, S, D>::kPacked) packedBlock<kKeepAlpha, K>(s, d, p, colour);
-  else plainBlock<kKeepAlpha, K>(s, d, p, colour);
+  if constexpr (Op<K, S, D>::kPacked) {
+    const std::size_t B = hn::Lanes(hn::ScalableTag<D>());
+    for (int j = 0; j < kVecs; ++j) packedBlock<kKeepAlpha, K>(s + j * B, d + j * B, p, colour);
+  } else {
+    plainBlocks<kVecs, kKeepAlpha, K>(s, d, p, colour);
+  }
 }
 
 // One row of n elements, four blocks per step; the last partial block goes through zero-padded
@@ -132,13 +151,8 @@ HWY_INLINE void rowLoop(const S* s, D* d, std::ptrdiff_t n, const RowParams& q) 
   const auto colour = colourLanes(dd);
   const std::ptrdiff_t B = static_cast<std::ptrdiff_t>(hn::Lanes(dw));
   std::ptrdiff_t i = 0;
-  for (; i + 4 * B <= n; i += 4 * B) {
-    block<kKeepAlpha, K>(s + i, d + i, p, colour);
-    block<kKeepAlpha, K>(s + i + B, d + i + B, p, colour);
-    block<kKeepAlpha, K>(s + i + 2 * B, d + i + 2 * B, p, colour);
-    block<kKeepAlpha, K>(s + i + 3 * B, d + i + 3 * B, p, colour);
-  }
-  for (; i + B <= n; i += B) block<kKeepAlpha, K>(s + i, d + i, p, colour);
+  for (; i + 4 * B <= n; i += 4 * B) block<4, kKeepAlpha, K>(s + i, d + i, p, colour);
+  for (; i + B <= n; i += B) block<1, kKeepAlpha, K>(s + i, d + i, p, colour);
   if (i < n) {
     constexpr std::size_t kMax = HWY_MAX_BYTES / sizeof(W);
     HWY_ALIGN S sb[kMax] = {};
@@ -146,7 +160,7 @@ HWY_INLINE void rowLoop(const S* s, D* d, std::ptrdiff_t n, const RowParams& q) 
     const std::size_t m = static_cast<std::size_t>(n - i);
     std::memcpy(sb, s + i, m * sizeof(S));
     if (kKeepAlpha) std::memcpy(db, d + i, m * sizeof(D));
-    block<kKeepAlpha, K>(sb, db, p, colour);
+    block<1, kKeepAlpha, K>(sb, db, p, colour);
     std::memcpy(d + i, db, m * sizeof(D));
   }
 }

@@ -88,7 +88,7 @@ LumStatus convert1u8u(const Lum8u* src, int srcStep, int srcBitOffset, Lum8u* ds
     const Lum8u* s = rowAt(src, srcStep, y);
     Lum8u* d = rowAt(dst, dstStep, y);
     int x = 0;
-    for (; x + 8 <= w; x += 8) {
+    for (; x <= w - 8; x += 8) {
       const int i = x >> 3;
       // the eight bits of the row at x; with a shift they straddle two source bytes, both in
       // the row
@@ -97,7 +97,7 @@ LumStatus convert1u8u(const Lum8u* src, int srcStep, int srcBitOffset, Lum8u* ds
       std::memcpy(d + x + 4, kNibbles.b[b & 15], 4);
     }
     for (; x < w; ++x) {
-      const int bit = shift + x;
+      const std::ptrdiff_t bit = shift + static_cast<std::ptrdiff_t>(x);  // may pass INT_MAX
       d[x] = (s[bit >> 3] >> (7 - (bit & 7))) & 1 ? 255 : 0;
     }
   }

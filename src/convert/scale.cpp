@@ -23,13 +23,13 @@ LumStatus scaleUp(const Lum8u* src, int srcStep, TD* dst, int dstStep, LumiSize 
 template <class L, class TS>
 LumStatus scaleDown(const TS* src, int srcStep, Lum8u* dst, int dstStep, LumiSize roi,
                     LumAccuracyHint hint, Kernel k, float offset, float inverseStep) {
-  return convertImage<L>(src, srcStep, dst, dstStep, roi, k,
-                         hint == lumHintAccurate ? std::optional<int>(lumRndNear) : kCallerRounding, [=] {
-                           RowParams p;
-                           p.off = offset;
-                           p.a = inverseStep;
-                           return p;
-                         });
+  const auto rounding = hint == lumHintAccurate ? std::optional<int>(lumRndNear) : kCallerRounding;
+  return convertImage<L>(src, srcStep, dst, dstStep, roi, k, rounding, [=] {
+    RowParams p;
+    p.off = offset;
+    p.a = inverseStep;
+    return p;
+  });
 }
 
 // Bytes and floats over a caller-given range [vMin, vMax]. Up: 0..255 onto the range,
@@ -43,24 +43,15 @@ LumStatus scaleFloat(const TS* src, int srcStep, TD* dst, int dstStep, LumiSize 
   constexpr bool kUp = std::is_same_v<TD, Lum32f>;
   const float range = vMax - vMin;
   if (!(range > 0.0f)) return lumStatusScaleRangeErr;  // tested before the pointers
-  if constexpr (kUp) {
-    return convertImage<L>(src, srcStep, dst, dstStep, roi, Kernel::kScale8u32f,
-                           kCallerRounding, [=] {
-                             RowParams p;
-                             p.a = range / 255.0f;
-                             p.b = vMin;
-                             return p;
-                           });
-  } else {
-    volatile float rangeAfter = range, vMinAfter = vMin;
-    return convertImage<L>(src, srcStep, dst, dstStep, roi, Kernel::kScale32f8u, lumRndNear,
-                           [&] {
-                             RowParams p;
-                             p.a = 255.0f / rangeAfter;
-                             p.b = vMinAfter * p.a;
-                             return p;
-                           });
-  }
+  volatile float rangeAfter = range, vMinAfter = vMin;
+  return convertImage<L>(src, srcStep, dst, dstStep, roi,
+                         kUp ? Kernel::kScale8u32f : Kernel::kScale32f8u,
+                         kUp ? kCallerRounding : std::optional<int>(lumRndNear), [&] {
+                           RowParams p;
+                           p.a = kUp ? rangeAfter / 255.0f : 255.0f / rangeAfter;
+                           p.b = kUp ? vMinAfter : vMinAfter * p.a;
+                           return p;
+                         });
 }
 
 }  // namespace

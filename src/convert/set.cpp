@@ -170,8 +170,8 @@ LumStatus setMasked(const T* value, T* dst, int dstStep, LumiSize roi, const Lum
                     int maskStep) {
   if (LumStatus st = checkFill(roi, dstStep, maskStep, value, dst, mask)) return st;
   const auto set = pickMaskedSet<dm::Bits<T>, L>();
-  const LumiSize walk = coalesceBoth(
-      roi, coalesceRows(roi, bytesOf(1, L::kCh, sizeof(T)), dstStep), coalesceRows(roi, 1, maskStep));
+  const LumiSize walk = coalesceBoth(roi, coalesceRows(roi, bytesOf(1, L::kCh, sizeof(T)), dstStep),
+                                     coalesceRows(roi, 1, maskStep));
   for (int y = 0; y < walk.height; ++y)
     set(dm::bits(value), dm::bits(rowAt(dst, dstStep, y)), rowAt(mask, maskStep, y),
         static_cast<std::size_t>(walk.width));
