@@ -28,7 +28,7 @@ using CmpCall = LumStatus (*)(const T* a, int as, const T* b, int bs, Lum8u* d, 
 template <class T>
 struct CmpCase {
   std::string name;
-  int ch, use;
+  Layout lay;
   bool isConst, isEps;
   CmpCall<T> call;
 };
@@ -37,21 +37,21 @@ struct CmpCase {
   [](const T* a, int as, const T* b, int bs, Lum8u* d, int ds, LumiSize r, int op, \
      float eps) -> LumStatus { return expr; }
 
-#define CMP_LAYOUT(tc, L, ch, use, X)                                                           \
-  out.push_back({"Compare_" #tc "_" #L "R", ch, use, false, false,                               \
+#define CMP_LAYOUT(tc, L, LAY, X)                                                           \
+  out.push_back({"Compare_" #tc "_" #L "R", LAY, false, false,                               \
                  CMP_CALL(lumiCompare_##tc##_##L##R(a, as, b, bs, d, ds, r, op))});              \
-  out.push_back({"CompareC_" #tc "_" #L "R", ch, use, true, false,                               \
+  out.push_back({"CompareC_" #tc "_" #L "R", LAY, true, false,                               \
                  CMP_CALL(lumiCompareC_##tc##_##L##R(a, as, X(b), d, ds, r, op))});
 
-#define CMP_EPS(L, ch, use, X)                                                                  \
-  out.push_back({"CompareEqualEps_32f_" #L "R", ch, use, false, true,                            \
+#define CMP_EPS(L, LAY, X)                                                                  \
+  out.push_back({"CompareEqualEps_32f_" #L "R", LAY, false, true,                            \
                  CMP_CALL(lumiCompareEqualEps_32f_##L##R(a, as, b, bs, d, ds, r, eps))});        \
-  out.push_back({"CompareEqualEpsC_32f_" #L "R", ch, use, true, true,                            \
+  out.push_back({"CompareEqualEpsC_32f_" #L "R", LAY, true, true,                            \
                  CMP_CALL(lumiCompareEqualEpsC_32f_##L##R(a, as, X(b), d, ds, r, eps))});
 
 #define CMP_TYPE(tc)                                                                  \
-  CMP_LAYOUT(tc, C1, 1, 1, S) CMP_LAYOUT(tc, C3, 3, 3, A) CMP_LAYOUT(tc, C4, 4, 4, A) \
-  CMP_LAYOUT(tc, AC4, 4, 3, A)
+  CMP_LAYOUT(tc, C1, kC1, S) CMP_LAYOUT(tc, C3, kC3, A) CMP_LAYOUT(tc, C4, kC4, A) \
+  CMP_LAYOUT(tc, AC4, kAC4, A)
 
 template <class T>
 std::vector<CmpCase<T>> cmpCases() {
@@ -62,7 +62,7 @@ std::vector<CmpCase<T>> cmpCases() {
     CMP_TYPE(16s)
   } else {
     CMP_TYPE(32f)
-    CMP_EPS(C1, 1, 1, S) CMP_EPS(C3, 3, 3, A) CMP_EPS(C4, 4, 4, A) CMP_EPS(AC4, 4, 3, A)
+    CMP_EPS(C1, kC1, S) CMP_EPS(C3, kC3, A) CMP_EPS(C4, kC4, A) CMP_EPS(AC4, kAC4, A)
   }
   return out;
 }
@@ -104,8 +104,8 @@ void compareRandomised(uint32_t salt) {
   for (const CmpCase<T>& c : cmpCases<T>()) {
     for (int iter = 0; iter < 15; ++iter) {
       LumiSize roi = iter == 0 ? LumiSize{1100, 2} : randomSize(rng, 200, 4);
-      GuardedImage<T> a(roi.width, roi.height, c.ch, -1, -1, salt + iter);
-      GuardedImage<T> b(roi.width, roi.height, c.ch, -1, -1, salt + 2 * iter);
+      GuardedImage<T> a(roi.width, roi.height, c.lay.ch, -1, -1, salt + iter);
+      GuardedImage<T> b(roi.width, roi.height, c.lay.ch, -1, -1, salt + 2 * iter);
       GuardedImage<Lum8u> mask(roi.width, roi.height, 1, -1, -1, salt + 3 * iter);
       a.fill([&](int, int, int) { return pooled<T>(rng); });
       b.fill([&](int, int, int) { return pooled<T>(rng); });
@@ -128,7 +128,7 @@ void compareRandomised(uint32_t salt) {
       for (int y = 0; y < roi.height; ++y)
         for (int x = 0; x < roi.width; ++x) {
           bool all = true;
-          for (int ch = 0; ch < c.use; ++ch) {
+          for (int ch = 0; ch < c.lay.use; ++ch) {
             T u = a.at(x, y, ch), v = c.isConst ? cst[ch] : b.at(x, y, ch);
             all = all && (c.isEps ? withinEps(float(u), float(v), eps) : relation(op, u, v));
           }
@@ -149,7 +149,7 @@ template <class T>
 void compareValidation() {
   const T cst[4] = {1, 2, 3, 4};
   for (const CmpCase<T>& c : cmpCases<T>()) {
-    GuardedImage<T> a(6, 2, c.ch), b(6, 2, c.ch);
+    GuardedImage<T> a(6, 2, c.lay.ch), b(6, 2, c.lay.ch);
     GuardedImage<Lum8u> m(6, 2, 1);
     Rng rng = makeRng(4);
     a.fillRandom(rng);
@@ -167,7 +167,7 @@ void compareValidation() {
     const float nan = std::numeric_limits<float>::quiet_NaN();
     // null before steps before size before the tolerance; the operation never fails
     EXPECT_EQ(lumStatusNullPtrErr, run(1, 0, 0, 0, bad)) << c.name;
-    if (!(c.isConst && c.ch == 1)) {  // a C1 constant is passed by value
+    if (!(c.isConst && c.lay.ch == 1)) {  // a C1 constant is passed by value
       EXPECT_EQ(lumStatusNullPtrErr, run(2, 0, 0, 0, bad)) << c.name;
     }
     EXPECT_EQ(lumStatusNullPtrErr, run(3, 0, 0, 0, bad)) << c.name;
@@ -204,7 +204,7 @@ using LogCall = LumStatus (*)(const T* a, int as, const T* b, T* d, int ds, Lumi
 template <class T>
 struct LogCase {
   std::string name;
-  int ch, use;
+  Layout lay;
   LogicKind op;
   bool isConst, inPlace;
   LogCall<T> call;
@@ -212,26 +212,26 @@ struct LogCase {
 
 #define LOG_CALL(expr) [](const T* a, int as, const T* b, T* d, int ds, LumiSize r) -> LumStatus { return expr; }
 
-#define LOG_LAYOUT(Op, K, tc, L, ch, use, X)                                                      \
-  out.push_back({#Op "_" #tc "_" #L "R", ch, use, K, false, false,                                 \
+#define LOG_LAYOUT(Op, K, tc, L, LAY, X)                                                      \
+  out.push_back({#Op "_" #tc "_" #L "R", LAY, K, false, false,                                 \
                  LOG_CALL(lumi##Op##_##tc##_##L##R(a, as, d, ds, d, ds, r))});                     \
-  out.push_back({#Op "_" #tc "_" #L "IR", ch, use, K, false, true,                                 \
+  out.push_back({#Op "_" #tc "_" #L "IR", LAY, K, false, true,                                 \
                  LOG_CALL(lumi##Op##_##tc##_##L##IR(a, as, d, ds, r))});                           \
-  out.push_back({#Op "C_" #tc "_" #L "R", ch, use, K, true, false,                                 \
+  out.push_back({#Op "C_" #tc "_" #L "R", LAY, K, true, false,                                 \
                  LOG_CALL(lumi##Op##C_##tc##_##L##R(a, as, X(b), d, ds, r))});                     \
-  out.push_back({#Op "C_" #tc "_" #L "IR", ch, use, K, true, true,                                 \
+  out.push_back({#Op "C_" #tc "_" #L "IR", LAY, K, true, true,                                 \
                  LOG_CALL(lumi##Op##C_##tc##_##L##IR(X(b), d, ds, r))});
 
-#define LOG_OPS(tc, L, ch, use, X)                                                     \
-  LOG_LAYOUT(And, kAnd, tc, L, ch, use, X)                                             \
-  LOG_LAYOUT(Or, kOr, tc, L, ch, use, X) LOG_LAYOUT(Xor, kXor, tc, L, ch, use, X)
+#define LOG_OPS(tc, L, LAY, X)                                                     \
+  LOG_LAYOUT(And, kAnd, tc, L, LAY, X)                                             \
+  LOG_LAYOUT(Or, kOr, tc, L, LAY, X) LOG_LAYOUT(Xor, kXor, tc, L, LAY, X)
 #define LOG_TYPE(tc) \
-  LOG_OPS(tc, C1, 1, 1, S) LOG_OPS(tc, C3, 3, 3, A) LOG_OPS(tc, C4, 4, 4, A) LOG_OPS(tc, AC4, 4, 3, A)
+  LOG_OPS(tc, C1, kC1, S) LOG_OPS(tc, C3, kC3, A) LOG_OPS(tc, C4, kC4, A) LOG_OPS(tc, AC4, kAC4, A)
 
-#define NOT_LAYOUT(L, ch, use)                                                                   \
-  out.push_back({"Not_8u_" #L "R", ch, use, kNot, true, false,                                    \
+#define NOT_LAYOUT(L, LAY)                                                                   \
+  out.push_back({"Not_8u_" #L "R", LAY, kNot, true, false,                                    \
                  LOG_CALL(lumiNot_8u_##L##R(a, as, d, ds, r))});                                  \
-  out.push_back({"Not_8u_" #L "IR", ch, use, kNot, true, true,                                    \
+  out.push_back({"Not_8u_" #L "IR", LAY, kNot, true, true,                                    \
                  LOG_CALL(lumiNot_8u_##L##IR(d, ds, r))});
 
 template <class T>
@@ -239,7 +239,7 @@ std::vector<LogCase<T>> logCases() {
   std::vector<LogCase<T>> out;
   if constexpr (std::is_same_v<T, Lum8u>) {
     LOG_TYPE(8u)
-    NOT_LAYOUT(C1, 1, 1) NOT_LAYOUT(C3, 3, 3) NOT_LAYOUT(C4, 4, 4) NOT_LAYOUT(AC4, 4, 3)
+    NOT_LAYOUT(C1, kC1) NOT_LAYOUT(C3, kC3) NOT_LAYOUT(C4, kC4) NOT_LAYOUT(AC4, kAC4)
   } else if constexpr (std::is_same_v<T, Lum16u>) {
     LOG_TYPE(16u)
   } else {
@@ -289,7 +289,7 @@ void logicRandomised(uint32_t salt) {
       // Two-image R forms read the second operand from the destination itself (an aliasing
       // call): that keeps one image per operand and exercises overlap of source and result.
       checkElementwise<T>(
-          rng, roi, c.ch, c.use, c.inPlace && c.isConst, salt + iter, c.name,
+          rng, roi, c.lay.ch, c.lay.use, c.inPlace && c.isConst, salt + iter, c.name,
           [&](GuardedImage<T>& a, GuardedImage<T>& d) { return c.call(a.ptr(), a.step(), cst, d.ptr(), d.step(), roi); },
           [&](T x, T prior, int ch) { return logicRef(c.op, x, c.isConst ? cst[ch] : prior); });
     }
@@ -307,7 +307,7 @@ TEST(Logic, SeparateSourcesAndValidationOrder) {
   b.fillRandom(rng);
   d.fillRandom(rng);
   auto before = d.pixels();
-  ASSERT_EQ(0, lumiXor_16u_AC4R(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), d.roi()));
+  ASSERT_EQ(lumStatusOk, lumiXor_16u_AC4R(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), d.roi()));
   auto pa = a.pixels(), pb = b.pixels(), pd = d.pixels();
   for (std::size_t i = 0; i < pd.size(); ++i)
     ASSERT_EQ(i % 4 == 3 ? before[i] : static_cast<Lum16u>(pa[i] ^ pb[i]), pd[i]) << i;
@@ -332,20 +332,20 @@ using ShCall = LumStatus (*)(const T* s, int ss, const Lum32u* n, T* d, int ds, 
 template <class T>
 struct ShCase {
   std::string name;
-  int ch, use;
+  Layout lay;
   bool left, inPlace;
   ShCall<T> call;
 };
 
 #define SH_CALL(expr) [](const T* s, int ss, const Lum32u* n, T* d, int ds, LumiSize r) -> LumStatus { return expr; }
-#define SH_LAYOUT(Op, LEFT, tc, L, ch, use, X)                                                   \
-  out.push_back({#Op "_" #tc "_" #L "R", ch, use, LEFT, false,                                    \
+#define SH_LAYOUT(Op, LEFT, tc, L, LAY, X)                                                   \
+  out.push_back({#Op "_" #tc "_" #L "R", LAY, LEFT, false,                                    \
                  SH_CALL(lumi##Op##_##tc##_##L##R(s, ss, X(n), d, ds, r))});                      \
-  out.push_back({#Op "_" #tc "_" #L "IR", ch, use, LEFT, true,                                    \
+  out.push_back({#Op "_" #tc "_" #L "IR", LAY, LEFT, true,                                    \
                  SH_CALL(lumi##Op##_##tc##_##L##IR(X(n), d, ds, r))});
 #define SH_OP(Op, LEFT, tc)                                                                \
-  SH_LAYOUT(Op, LEFT, tc, C1, 1, 1, S) SH_LAYOUT(Op, LEFT, tc, C3, 3, 3, A)               \
-  SH_LAYOUT(Op, LEFT, tc, C4, 4, 4, A) SH_LAYOUT(Op, LEFT, tc, AC4, 4, 3, A)
+  SH_LAYOUT(Op, LEFT, tc, C1, kC1, S) SH_LAYOUT(Op, LEFT, tc, C3, kC3, A)               \
+  SH_LAYOUT(Op, LEFT, tc, C4, kC4, A) SH_LAYOUT(Op, LEFT, tc, AC4, kAC4, A)
 
 template <class T>
 std::vector<ShCase<T>> shCases() {
@@ -390,7 +390,7 @@ void shiftRandomised(uint32_t salt) {
       for (Lum32u& v : n) v = iter % 2 == 0 ? pool[pick] : pool[randInt(rng, 0, 16)];  // uniform or per channel
       SCOPED_TRACE(testing::Message() << "counts " << n[0] << "," << n[1] << "," << n[2] << "," << n[3]);
       checkElementwise<T>(
-          rng, roi, c.ch, c.use, c.inPlace, salt + iter, c.name,
+          rng, roi, c.lay.ch, c.lay.use, c.inPlace, salt + iter, c.name,
           [&](GuardedImage<T>& src, GuardedImage<T>& d) { return c.call(src.ptr(), src.step(), n, d.ptr(), d.step(), roi); },
           [&](T x, T, int ch) { return shiftRef(c.left, x, n[ch]); });
     }
@@ -405,13 +405,13 @@ TEST(Shift, Randomised32s) { shiftRandomised<Lum32s>(74); }
 
 TEST(Shift, ShortcutsAndSignFill) {
   Lum16s v[2] = {-5, 5};
-  ASSERT_EQ(0, lumiRShiftC_16s_C1IR(40, v, 4, LumiSize{2, 1}));
+  ASSERT_EQ(lumStatusOk, lumiRShiftC_16s_C1IR(40, v, 4, LumiSize{2, 1}));
   EXPECT_EQ(-1, v[0]);
   EXPECT_EQ(0, v[1]);
   Lum8u p[3] = {1, 2, 255}, q[3] = {9, 9, 9};
-  ASSERT_EQ(0, lumiLShiftC_8u_C1R(p, 3, 8, q, 3, LumiSize{3, 1}));
+  ASSERT_EQ(lumStatusOk, lumiLShiftC_8u_C1R(p, 3, 8, q, 3, LumiSize{3, 1}));
   EXPECT_EQ(0, q[0] | q[1] | q[2]);
-  ASSERT_EQ(0, lumiLShiftC_8u_C1R(p, 3, 0, q, 3, LumiSize{3, 1}));
+  ASSERT_EQ(lumStatusOk, lumiLShiftC_8u_C1R(p, 3, 0, q, 3, LumiSize{3, 1}));
   EXPECT_EQ(0, std::memcmp(p, q, 3));
   const Lum32u n3[3] = {1, 1, 1};
   EXPECT_EQ(lumStatusNullPtrErr, lumiRShiftC_8u_C3R(p, 0, nullptr, q, 0, LumiSize{0, 0}));
@@ -422,7 +422,7 @@ TEST(Shift, ShortcutsAndSignFill) {
 
 TEST(Complement, SignMagnitudeAndValidation) {
   Lum32s v[4] = {5, -5, 0, std::numeric_limits<Lum32s>::min()};
-  ASSERT_EQ(0, lumiComplement_32s_C1IR(v, 16, LumiSize{4, 1}));
+  ASSERT_EQ(lumStatusOk, lumiComplement_32s_C1IR(v, 16, LumiSize{4, 1}));
   EXPECT_EQ(5, v[0]);
   EXPECT_EQ(static_cast<Lum32s>(0x80000005u), v[1]);
   EXPECT_EQ(0, v[2]);

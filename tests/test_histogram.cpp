@@ -12,42 +12,40 @@ using namespace lumitest;
 
 template <class T, class P>
 struct RangeFn {
-  int ch;
-  bool alpha;  // the fourth channel is left alone
+  Layout lay;  // AC4: the fourth channel is left alone
   const char* name;
   std::function<LumStatus(const T*, int, LumiSize, Lum32s* const*, const P* const*, const int*)> f;
-  int used() const { return alpha ? 3 : ch; }
+  int used() const { return lay.use; }
 };
 template <class T>
 struct EvenFn {
-  int ch;
-  bool alpha;
+  Layout lay;
   const char* name;
   std::function<LumStatus(const T*, int, LumiSize, Lum32s* const*, Lum32s* const*, const int*,
                           const Lum32s*, const Lum32s*)>
       f;
-  int used() const { return alpha ? 3 : ch; }
+  int used() const { return lay.use; }
 };
 
 #define RANGE_FNS(TT, T, P)                                                                  \
   std::vector<RangeFn<T, P>> {                                                               \
-    {1, false, "Range_" #TT "_C1",                                                           \
+    {kC1, "Range_" #TT "_C1",                                                           \
      [](const T* s, int ss, LumiSize r, Lum32s* const* h, const P* const* l, const int* n) { \
        return lumiHistogramRange_##TT##_C1R(s, ss, r, h[0], l[0], n[0]);                     \
      }},                                                                                     \
-        {3, false, "Range_" #TT "_C3", lumiHistogramRange_##TT##_C3R},                      \
-        {4, false, "Range_" #TT "_C4", lumiHistogramRange_##TT##_C4R},                      \
-        {4, true, "Range_" #TT "_AC4", lumiHistogramRange_##TT##_AC4R}}
+        {kC3, "Range_" #TT "_C3", lumiHistogramRange_##TT##_C3R},                      \
+        {kC4, "Range_" #TT "_C4", lumiHistogramRange_##TT##_C4R},                      \
+        {kAC4, "Range_" #TT "_AC4", lumiHistogramRange_##TT##_AC4R}}
 #define EVEN_FNS(TT, T)                                                                      \
   std::vector<EvenFn<T>> {                                                                   \
-    {1, false, "Even_" #TT "_C1",                                                            \
+    {kC1, "Even_" #TT "_C1",                                                            \
      [](const T* s, int ss, LumiSize r, Lum32s* const* h, Lum32s* const* l, const int* n,    \
         const Lum32s* lo, const Lum32s* hi) {                                                \
        return lumiHistogramEven_##TT##_C1R(s, ss, r, h[0], l[0], n[0], lo[0], hi[0]);        \
      }},                                                                                     \
-        {3, false, "Even_" #TT "_C3", lumiHistogramEven_##TT##_C3R},                        \
-        {4, false, "Even_" #TT "_C4", lumiHistogramEven_##TT##_C4R},                        \
-        {4, true, "Even_" #TT "_AC4", lumiHistogramEven_##TT##_AC4R}}
+        {kC3, "Even_" #TT "_C3", lumiHistogramEven_##TT##_C3R},                        \
+        {kC4, "Even_" #TT "_C4", lumiHistogramEven_##TT##_C4R},                        \
+        {kAC4, "Even_" #TT "_AC4", lumiHistogramEven_##TT##_AC4R}}
 
 template <class T>
 using LevelT = std::conditional_t<std::is_same_v<T, Lum32f>, Lum32f, Lum32s>;
@@ -149,7 +147,7 @@ void fillNearLevels(GuardedImage<T>& img, Rng& r, const std::vector<std::vector<
 // Runs one HistogramRange form over a random image and compares every channel's counts.
 template <class T, class P>
 void checkRange(const RangeFn<T, P>& f, Rng& r, LumiSize roi, std::vector<std::vector<P>> lev) {
-  GuardedImage<T> src(roi.width, roi.height, f.ch, -1, -1, r());
+  GuardedImage<T> src(roi.width, roi.height, f.lay.ch, -1, -1, r());
   fillNearLevels(src, r, lev);
   const std::vector<T> before = src.pixels();
   std::vector<std::vector<Lum32s>> hist(4);
@@ -296,7 +294,7 @@ void randomEven(uint32_t salt) {
   for (const auto& f : evenFns<T>()) {
     for (int it = 0; it < 10; ++it) {
       LumiSize roi = it == 9 ? LumiSize{200, 150} : randomSize(r);
-      GuardedImage<T> src(roi.width, roi.height, f.ch, -1, -1, r());
+      GuardedImage<T> src(roi.width, roi.height, f.lay.ch, -1, -1, r());
       src.fillRandom(r);
       Lum32s lower[4], upper[4];
       int n[4];
@@ -319,7 +317,7 @@ void randomEven(uint32_t salt) {
         ASSERT_EQ(lev[c], want) << f.name;
         ASSERT_TRUE(sameElements(hist[c], refHist(channelSamples(src, c), want, increasing(want)))) << f.name;
       }
-      if (f.alpha) {  // the fourth arrays belong to nobody
+      if (f.lay.use < f.lay.ch) {  // the fourth arrays belong to nobody
         ASSERT_EQ(lev[3], std::vector<Lum32s>(n[3], -1));
       }
     }
@@ -335,7 +333,7 @@ TEST(Histogram, Even16u) { randomEven<Lum16u>(9); }
 template <class T, class P>
 void rangeValidation(const RangeFn<T, P>& f) {
   SCOPED_TRACE(f.name);
-  GuardedImage<T> src(6, 2, f.ch);
+  GuardedImage<T> src(6, 2, f.lay.ch);
   Rng r = makeRng(10);
   src.fillRandom(r);
   std::vector<P> levels = {P(0), P(10), P(20)};
@@ -352,7 +350,7 @@ void rangeValidation(const RangeFn<T, P>& f) {
   EXPECT_EQ(f.f(nullptr, src.step(), bad, h, l, n), lumStatusNullPtrErr);
   EXPECT_EQ(f.f(src.ptr(), 0, bad, hNull(0).data(), l, n), lumStatusNullPtrErr);
   EXPECT_EQ(f.f(src.ptr(), 0, bad, h, lNull(last).data(), n), lumStatusNullPtrErr);
-  if (f.ch == 1) {  // ROI, step, then the level count
+  if (f.lay.ch == 1) {  // ROI, step, then the level count
     EXPECT_EQ(f.f(src.ptr(), 0, bad, h, l, nOne), lumStatusSizeErr);
     EXPECT_EQ(f.f(src.ptr(), 0, ok, h, l, nOne), lumStatusStepErr);
   } else {  // channel checks first
@@ -372,7 +370,7 @@ void rangeValidation(const RangeFn<T, P>& f) {
 template <class T>
 void evenValidation(const EvenFn<T>& f) {
   SCOPED_TRACE(f.name);
-  GuardedImage<T> src(6, 2, f.ch);
+  GuardedImage<T> src(6, 2, f.lay.ch);
   std::vector<Lum32s> store(8, 77), levels(12, 55);
   Lum32s* h[4] = {&store[0], &store[2], &store[4], &store[6]};
   Lum32s* l[4] = {&levels[0], &levels[3], &levels[6], &levels[9]};
@@ -382,7 +380,7 @@ void evenValidation(const EvenFn<T>& f) {
   Lum32s* lNull[4] = {nullptr, nullptr, l[2], l[3]};
   EXPECT_EQ(f.f(nullptr, src.step(), bad, h, l, n, lo, hi), lumStatusNullPtrErr);
   EXPECT_EQ(f.f(src.ptr(), 0, bad, h, lNull, n, lo, hi), lumStatusNullPtrErr);
-  if (f.ch == 1) {
+  if (f.lay.ch == 1) {
     int one[1] = {1};
     EXPECT_EQ(f.f(src.ptr(), 0, bad, h, l, one, lo, hi), lumStatusSizeErr);
     EXPECT_EQ(f.f(src.ptr(), 0, ok, h, l, one, lo, hi), lumStatusStepErr);

@@ -15,14 +15,13 @@ enum Kind { kStep, kLinear, kCubic };
 template <class T, class P>
 struct LutFn {
   Kind kind;
-  int ch;  // channels in memory
-  bool alpha;
+  Layout lay;
   const char* name;
   std::function<LumStatus(const T*, int, T*, int, LumiSize, const P* const*, const P* const*,
                           const int*)>
       r;
   std::function<LumStatus(T*, int, LumiSize, const P* const*, const P* const*, const int*)> ir;
-  int used() const { return alpha ? 3 : ch; }
+  int used() const { return lay.use; }
 };
 
 // The C1 forms take one table; the table of a layout with more channels is an array.
@@ -37,12 +36,12 @@ auto one(LumStatus (*f)(T*, int, LumiSize, const P*, const P*, int)) {
     return f(p, st, r, v[0], l[0], n[0]);
   };
 }
-#define LAYOUT_FN(OP, K, TT, L, CH, AL) \
-  {K, CH, AL, #OP "_" #TT "_" #L, lumi##OP##_##TT##_##L##R, lumi##OP##_##TT##_##L##IR}
+#define LAYOUT_FN(OP, K, TT, L, LAY) \
+  {K, LAY, #OP "_" #TT "_" #L, lumi##OP##_##TT##_##L##R, lumi##OP##_##TT##_##L##IR}
 #define KIND_FNS(OP, K, TT)                                                                  \
-  {K, 1, false, #OP "_" #TT "_C1", one(lumi##OP##_##TT##_C1R), one(lumi##OP##_##TT##_C1IR)}, \
-      LAYOUT_FN(OP, K, TT, C3, 3, false), LAYOUT_FN(OP, K, TT, C4, 4, false),                \
-      LAYOUT_FN(OP, K, TT, AC4, 4, true)
+  {K, kC1, #OP "_" #TT "_C1", one(lumi##OP##_##TT##_C1R), one(lumi##OP##_##TT##_C1IR)}, \
+      LAYOUT_FN(OP, K, TT, C3, kC3), LAYOUT_FN(OP, K, TT, C4, kC4),                \
+      LAYOUT_FN(OP, K, TT, AC4, kAC4)
 #define TYPE_FNS(TT, T, P)                                                                    \
   std::vector<LutFn<T, P>> {                                                                  \
     KIND_FNS(LUT, kStep, TT), KIND_FNS(LUT_Linear, kLinear, TT), KIND_FNS(LUT_Cubic, kCubic, TT) \
@@ -225,8 +224,8 @@ void fillSamples(GuardedImage<T>& img, Rng& r, const Tables<T, P>& t) {
 // Runs one lookup (out of place or in place) and checks every element and the guards.
 template <class T, class P>
 void checkLut(const LutFn<T, P>& f, Rng& r, LumiSize roi, const Tables<T, P>& t, bool inPlace) {
-  GuardedImage<T> src(roi.width, roi.height, f.ch, -1, -1, r());
-  GuardedImage<T> dst(roi.width, roi.height, f.ch, -1, -1, r());
+  GuardedImage<T> src(roi.width, roi.height, f.lay.ch, -1, -1, r());
+  GuardedImage<T> dst(roi.width, roi.height, f.lay.ch, -1, -1, r());
   fillSamples(src, r, t);
   dst.fillRandom(r);
   GuardedImage<T>& out = inPlace ? src : dst;
@@ -235,7 +234,7 @@ void checkLut(const LutFn<T, P>& f, Rng& r, LumiSize roi, const Tables<T, P>& t,
   std::vector<char> approx(want.size(), 0);
   std::vector<T> in = src.pixels();
   for (std::size_t i = 0; i < in.size(); ++i) {
-    int c = static_cast<int>(i % f.ch);
+    int c = static_cast<int>(i % f.lay.ch);
     if (c >= f.used()) continue;
     bool a;
     if constexpr (std::is_floating_point_v<T>)
@@ -252,7 +251,7 @@ void checkLut(const LutFn<T, P>& f, Rng& r, LumiSize roi, const Tables<T, P>& t,
   ASSERT_TRUE(dst.guardsIntact()) << f.name;
   std::vector<T> got = out.pixels();
   if (!approxCount) {
-    ASSERT_TRUE(sameElements(got, want, roi.width * f.ch)) << f.name << (inPlace ? " in place" : "");
+    ASSERT_TRUE(sameElements(got, want, roi.width * f.lay.ch)) << f.name << (inPlace ? " in place" : "");
     return;
   }
   for (std::size_t i = 0; i < got.size(); ++i) {
@@ -391,7 +390,7 @@ void validation(uint32_t salt) {
   for (const auto& f : Fns<T>::all()) {
     SCOPED_TRACE(f.name);
     Tables<T, P> t(r, f.used(), f.kind, 5, false);
-    GuardedImage<T> src(7, 3, f.ch), dst(7, 3, f.ch);
+    GuardedImage<T> src(7, 3, f.lay.ch), dst(7, 3, f.lay.ch);
     src.fillRandom(r);
     dst.fillRandom(r);
     const std::vector<T> before = dst.pixels();
@@ -412,7 +411,7 @@ void validation(uint32_t salt) {
     EXPECT_EQ(call(src.ptr(), 0, dst.ptr(), dst.step(), ok, v, lNull, n), lumStatusNullPtrErr);
     int nOne[4] = {n[0], n[1], n[2], n[3]};
     nOne[last] = 1;
-    if (f.ch == 1) {
+    if (f.lay.ch == 1) {
       // pointers, ROI, steps, then the level count
       EXPECT_EQ(call(src.ptr(), 0, dst.ptr(), dst.step(), bad, v, l, nOne), lumStatusSizeErr);
       EXPECT_EQ(call(src.ptr(), src.step(), dst.ptr(), -4, ok, v, l, nOne), lumStatusStepErr);

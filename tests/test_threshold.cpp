@@ -23,7 +23,7 @@ template <class T>
 struct Case {
   std::string name;
   Kind kind;
-  int ch, use;
+  Layout lay;
   bool inPlace;
   Call<T> call;
 };
@@ -54,27 +54,27 @@ T expected(Kind kind, int cmp, T x, T t1, T v1, T t2, T v2) {
                         const T* t2, const T* v2, int cmp) -> LumStatus { return expr; }
 
 // One out-of-place and one in-place form of an operation, with the same trailing arguments.
-#define THR_FORMS(OP, K, tc, L, ch, use, ...)                                                     \
-  out.push_back({#OP "_" #tc "_" #L "R", K, ch, use, false,                                       \
+#define THR_FORMS(OP, K, tc, L, LAY, ...)                                                     \
+  out.push_back({#OP "_" #tc "_" #L "R", K, LAY, false,                                       \
                  R_CALL(lumi##OP##_##tc##_##L##R(s, ss, d, ds, r, __VA_ARGS__))});                \
-  out.push_back({#OP "_" #tc "_" #L "IR", K, ch, use, true,                                       \
+  out.push_back({#OP "_" #tc "_" #L "IR", K, LAY, true,                                       \
                  R_CALL(lumi##OP##_##tc##_##L##IR(d, ds, r, __VA_ARGS__))});
 
-#define THR_LAYOUT(tc, L, ch, use, X)                                                            \
-  THR_FORMS(Threshold, kClamp, tc, L, ch, use, X(t1), cmp)                                        \
-  THR_FORMS(Threshold_GT, kGT, tc, L, ch, use, X(t1))                                             \
-  THR_FORMS(Threshold_LT, kLT, tc, L, ch, use, X(t1))                                             \
-  THR_FORMS(Threshold_Val, kVal, tc, L, ch, use, X(t1), X(v1), cmp)                               \
-  THR_FORMS(Threshold_GTVal, kGTVal, tc, L, ch, use, X(t1), X(v1))                                \
-  THR_FORMS(Threshold_LTVal, kLTVal, tc, L, ch, use, X(t1), X(v1))                                \
-  THR_FORMS(Threshold_LTValGTVal, kTwoSided, tc, L, ch, use, X(t1), X(v1), X(t2), X(v2))
+#define THR_LAYOUT(tc, L, LAY, X)                                                            \
+  THR_FORMS(Threshold, kClamp, tc, L, LAY, X(t1), cmp)                                        \
+  THR_FORMS(Threshold_GT, kGT, tc, L, LAY, X(t1))                                             \
+  THR_FORMS(Threshold_LT, kLT, tc, L, LAY, X(t1))                                             \
+  THR_FORMS(Threshold_Val, kVal, tc, L, LAY, X(t1), X(v1), cmp)                               \
+  THR_FORMS(Threshold_GTVal, kGTVal, tc, L, LAY, X(t1), X(v1))                                \
+  THR_FORMS(Threshold_LTVal, kLTVal, tc, L, LAY, X(t1), X(v1))                                \
+  THR_FORMS(Threshold_LTValGTVal, kTwoSided, tc, L, LAY, X(t1), X(v1), X(t2), X(v2))
 
 #define THR_TYPE(tc)                                                                              \
-  THR_LAYOUT(tc, C1, 1, 1, S)                                                                     \
-  THR_LAYOUT(tc, C3, 3, 3, A)                                                                     \
-  THR_LAYOUT(tc, AC4, 4, 3, A)                                                                    \
-  THR_FORMS(Threshold_GTVal, kGTVal, tc, C4, 4, 4, t1, v1)                                        \
-  THR_FORMS(Threshold_LTVal, kLTVal, tc, C4, 4, 4, t1, v1)
+  THR_LAYOUT(tc, C1, kC1, S)                                                                     \
+  THR_LAYOUT(tc, C3, kC3, A)                                                                     \
+  THR_LAYOUT(tc, AC4, kAC4, A)                                                                    \
+  THR_FORMS(Threshold_GTVal, kGTVal, tc, C4, kC4, t1, v1)                                        \
+  THR_FORMS(Threshold_LTVal, kLTVal, tc, C4, kC4, t1, v1)
 
 template <class T>
 std::vector<Case<T>> cases() {
@@ -114,8 +114,8 @@ void randomised(uint32_t salt) {
         v2[k] = randomValue<T>(rng);
       }
       const int cmp = randInt(rng, 0, 1) ? 4 : 0;
-      GuardedImage<T> src(roi.width, roi.height, c.ch, -1, -1, salt + iter);
-      GuardedImage<T> dst(roi.width, roi.height, c.ch, -1, -1, salt + iter + 99);
+      GuardedImage<T> src(roi.width, roi.height, c.lay.ch, -1, -1, salt + iter);
+      GuardedImage<T> dst(roi.width, roi.height, c.lay.ch, -1, -1, salt + iter + 99);
       src.fill([&](int, int, int ch) { return sample(rng, c.kind == kTwoSided && randInt(rng, 0, 1) ? t2 : t1, ch % 4); });
       if (c.inPlace) dst.fill([&](int x, int y, int ch) { return src.at(x, y, ch); });
       else dst.fillRandom(rng);
@@ -126,11 +126,11 @@ void randomised(uint32_t salt) {
       std::vector<T> want = before;
       const std::vector<T> in = src.pixels();  // equal to `before` in place
       for (std::size_t i = 0; i < want.size(); ++i) {
-        const int ch = static_cast<int>(i % c.ch);
-        if (ch < c.use)  // alpha keeps what the destination held
+        const int ch = static_cast<int>(i % c.lay.ch);
+        if (ch < c.lay.use)  // alpha keeps what the destination held
           want[i] = expected(c.kind, cmp, in[i], t1[ch], v1[ch], t2[ch], v2[ch]);
       }
-      ASSERT_TRUE(sameElements(dst.pixels(), want, roi.width * c.ch))
+      ASSERT_TRUE(sameElements(dst.pixels(), want, roi.width * c.lay.ch))
           << c.name << " cmp " << cmp << " " << roi.width << "x" << roi.height;
       ASSERT_TRUE(dst.guardsIntact() && src.guardsIntact()) << c.name;
     }
@@ -151,7 +151,7 @@ void validation() {
     // A failing call returns `want` and leaves the destination and its surroundings alone.
     auto rej = [&](LumStatus want, LumiSize roi, int ss, int ds, const T* t1, const T* v1,
                    const T* t2, const T* v2, int cmp, bool nullSrc = false, bool nullDst = false) {
-      GuardedImage<T> src(5, 3, c.ch), dst(5, 3, c.ch);
+      GuardedImage<T> src(5, 3, c.lay.ch), dst(5, 3, c.lay.ch);
       Rng rng = makeRng(5);
       src.fillRandom(rng);
       dst.fillRandom(rng);
@@ -163,7 +163,7 @@ void validation() {
       EXPECT_TRUE(sameElements(dst.pixels(), before)) << c.name;
       EXPECT_TRUE(dst.guardsIntact()) << c.name;
     };
-    const bool arrays = c.ch > 1;
+    const bool arrays = c.lay.ch > 1;
     const bool fixed = c.kind != kClamp && c.kind != kVal;  // no comparison argument
     for (int nullWhich = 0; nullWhich < (c.inPlace ? 1 : 2); ++nullWhich) {
       const bool ns = !c.inPlace && nullWhich == 0, nd = c.inPlace || nullWhich == 1;
@@ -196,7 +196,7 @@ void validation() {
     }
     if (c.kind == kTwoSided) {
       // Every processed channel is checked; alpha takes no part.
-      for (int b = 0; b < c.use; ++b) {
+      for (int b = 0; b < c.lay.use; ++b) {
         T lo[4] = {0, 0, 0, 0}, up[4] = {5, 5, 5, 5};
         lo[b] = 10;
         up[b] = 9;
