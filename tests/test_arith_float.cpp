@@ -16,10 +16,11 @@ using lumitest::randomSize;
 using lumitest::Rng;
 using lumitest::sameElements;
 
-struct Layout {
-  int ch, use;  // channels in memory, channels written
-};
-constexpr Layout kC1{1, 1}, kC3{3, 3}, kC4{4, 4}, kAC4{4, 3};
+using lumitest::Layout;
+using lumitest::kC1;
+using lumitest::kC3;
+using lumitest::kC4;
+using lumitest::kAC4;
 
 // Every member of one operation, type and layout behind one shape, indexed by mode:
 // 0 image, 1 image in place (into b), 2 constant (b op v), 3 constant in place (into b).

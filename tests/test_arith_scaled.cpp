@@ -227,19 +227,19 @@ TEST(ArithScaled, DocumentedValues) {
                          {Mul, 7, 1, 1, 4}};
   for (const Case8& c : cases) {
     Lum8u d = 99;
-    EXPECT_EQ(fns[c.op](&c.first, 1, &c.second, 1, &d, 1, {1, 1}, c.sf), 0);
+    EXPECT_EQ(fns[c.op](&c.first, 1, &c.second, 1, &d, 1, {1, 1}, c.sf), lumStatusOk);
     EXPECT_EQ(d, c.want) << c.op << ": " << int(c.first) << ", " << int(c.second) << " sf " << c.sf;
   }
   // 16u products need 33 bits before rounding at the largest scale factor; 17 elements reach
   // the vector kernels
   std::vector<Lum16u> p(17, 65535), q(17, 65535), r(17, 7);
   q[16] = 32768;  // 2^31 - 32768: just under a half
-  EXPECT_EQ(lumiMul_16u_C1RSfs(p.data(), 34, q.data(), 34, r.data(), 34, {17, 1}, 32), 0);
+  EXPECT_EQ(lumiMul_16u_C1RSfs(p.data(), 34, q.data(), 34, r.data(), 34, {17, 1}, 32), lumStatusOk);
   EXPECT_TRUE(r[0] == 1 && r[16] == 0);
   Lum16s s = -32768, t = -32768, u = 0;
-  EXPECT_EQ(lumiMul_16s_C1RSfs(&s, 2, &t, 2, &u, 2, {1, 1}, 30), 0);
+  EXPECT_EQ(lumiMul_16s_C1RSfs(&s, 2, &t, 2, &u, 2, {1, 1}, 30), lumStatusOk);
   EXPECT_EQ(u, 1);
-  EXPECT_EQ(lumiMul_16s_C1RSfs(&s, 2, &t, 2, &u, 2, {1, 1}, 31), 0);  // 0.5 -> 0
+  EXPECT_EQ(lumiMul_16s_C1RSfs(&s, 2, &t, 2, &u, 2, {1, 1}, 31), lumStatusOk);  // 0.5 -> 0
   EXPECT_EQ(u, 0);
 }
 
@@ -270,8 +270,8 @@ TEST(ArithScaled, ImageDivisionByZeroIsAWarningWithDefinedValues) {
   GuardedImage<Lum8u> a4(5, 2, 4), b4(5, 2, 4), d4(5, 2, 4);
   a4.fill([](int, int, int c) { return Lum8u(c == 3 ? 0 : 2); });
   b4.fill([](int, int, int c) { return Lum8u(10 + c); });
-  EXPECT_EQ(lumiDiv_8u_AC4RSfs(a4.ptr(), a4.step(), b4.ptr(), b4.step(), d4.ptr(), d4.step(), a4.roi(), 0), 0);
-  EXPECT_EQ(lumiDiv_8u_AC4IRSfs(a4.ptr(), a4.step(), b4.ptr(), b4.step(), b4.roi(), 0), 0);
+  EXPECT_EQ(lumiDiv_8u_AC4RSfs(a4.ptr(), a4.step(), b4.ptr(), b4.step(), d4.ptr(), d4.step(), a4.roi(), 0), lumStatusOk);
+  EXPECT_EQ(lumiDiv_8u_AC4IRSfs(a4.ptr(), a4.step(), b4.ptr(), b4.step(), b4.roi(), 0), lumStatusOk);
   EXPECT_EQ(b4.at(4, 1, 3), 13);
   EXPECT_TRUE(d4.guardsIntact() && b4.guardsIntact());
 }
@@ -279,10 +279,10 @@ TEST(ArithScaled, ImageDivisionByZeroIsAWarningWithDefinedValues) {
 TEST(ArithScaled, DivisionFollowsTheCallersRoundingMode) {
   Lum8u div[2] = {2, 2}, num[2] = {7, 5}, out[2];
   const unsigned old = lum_set_rc_ssx(0x6000);  // toward zero
-  EXPECT_EQ(lumiDiv_8u_C1RSfs(div, 2, num, 2, out, 2, {2, 1}, 0), 0);
+  EXPECT_EQ(lumiDiv_8u_C1RSfs(div, 2, num, 2, out, 2, {2, 1}, 0), lumStatusOk);
   lum_set_cw_ssx(old);
   EXPECT_TRUE(out[0] == 3 && out[1] == 2);
-  EXPECT_EQ(lumiDiv_8u_C1RSfs(div, 2, num, 2, out, 2, {2, 1}, 0), 0);
+  EXPECT_EQ(lumiDiv_8u_C1RSfs(div, 2, num, 2, out, 2, {2, 1}, 0), lumStatusOk);
   EXPECT_TRUE(out[0] == 4 && out[1] == 2);
 }
 
@@ -301,13 +301,13 @@ void validation() {
     auto call = [&](const T* s1, int st1, const T* s2, int st2, T* dst, int dstep, LumiSize r,
                     const T* v) { return m.call(s1, st1, s2, st2, dst, dstep, r, v, 0); };
     // pointers first, even before a bad size
-    EXPECT_EQ(call(a.ptr(), a.step(), b.ptr(), b.step(), nullptr, d.step(), empty, ones), -8);
-    if (!m.isConst || !m.inPlace) { EXPECT_EQ(call(nullptr, a.step(), b.ptr(), b.step(), d.ptr(), d.step(), roi, ones), -8); }
-    if (!m.isConst && !m.inPlace) { EXPECT_EQ(call(a.ptr(), a.step(), nullptr, b.step(), d.ptr(), d.step(), roi, ones), -8); }
-    if (m.isConst && m.ch > 1) { EXPECT_EQ(call(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), roi, nullptr), -8); }
+    EXPECT_EQ(call(a.ptr(), a.step(), b.ptr(), b.step(), nullptr, d.step(), empty, ones), lumStatusNullPtrErr);
+    if (!m.isConst || !m.inPlace) { EXPECT_EQ(call(nullptr, a.step(), b.ptr(), b.step(), d.ptr(), d.step(), roi, ones), lumStatusNullPtrErr); }
+    if (!m.isConst && !m.inPlace) { EXPECT_EQ(call(a.ptr(), a.step(), nullptr, b.step(), d.ptr(), d.step(), roi, ones), lumStatusNullPtrErr); }
+    if (m.isConst && m.ch > 1) { EXPECT_EQ(call(a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), roi, nullptr), lumStatusNullPtrErr); }
     // sizes before steps
-    EXPECT_EQ(call(a.ptr(), 0, b.ptr(), 0, d.ptr(), 0, {3, 0}, ones), -6);
-    EXPECT_EQ(call(a.ptr(), -1, b.ptr(), -1, d.ptr(), -1, {0, 3}, ones), -6);
+    EXPECT_EQ(call(a.ptr(), 0, b.ptr(), 0, d.ptr(), 0, {3, 0}, ones), lumStatusSizeErr);
+    EXPECT_EQ(call(a.ptr(), -1, b.ptr(), -1, d.ptr(), -1, {0, 3}, ones), lumStatusSizeErr);
     const std::vector<T> before = d.pixels();
     // steps only where the member checks them, the constant divisor after the steps
     const int stepErr = m.checksSteps ? -14 : 0;
@@ -315,7 +315,7 @@ void validation() {
       EXPECT_EQ(call(a.ptr(), 0, b.ptr(), b.step(), d.ptr(), d.step(), roi, ones), stepErr);
       if (!m.isConst) { EXPECT_EQ(call(a.ptr(), a.step(), b.ptr(), 0, d.ptr(), d.step(), roi, ones), stepErr); }
     } else if (m.isConst) {
-      EXPECT_EQ(call(a.ptr(), 0, b.ptr(), 0, d.ptr(), d.step(), roi, ones), 0);
+      EXPECT_EQ(call(a.ptr(), 0, b.ptr(), 0, d.ptr(), d.step(), roi, ones), lumStatusOk);
       EXPECT_EQ(call(nullptr, 0, nullptr, 0, d.ptr(), 0, roi, ones), stepErr);
     } else {
       EXPECT_EQ(call(a.ptr(), 0, b.ptr(), 0, d.ptr(), d.step(), roi, ones), stepErr);
@@ -324,7 +324,7 @@ void validation() {
     if (m.op == Div && m.isConst) {
       d.fill([](int, int, int) { return T(9); });
       const std::vector<T> nines = d.pixels();
-      EXPECT_EQ(call(a.ptr(), a.step(), nullptr, 0, d.ptr(), d.step(), roi, zeroOne), -10);
+      EXPECT_EQ(call(a.ptr(), a.step(), nullptr, 0, d.ptr(), d.step(), roi, zeroOne), lumStatusDivisorZeroErr);
       EXPECT_EQ(call(a.ptr(), a.step(), nullptr, 0, d.ptr(), 0, roi, zeroOne),
                 m.checksSteps ? -14 : -10);
       EXPECT_TRUE(sameElements(d.pixels(), nines));
@@ -387,7 +387,7 @@ TEST(ArithScaled, ZeroFillReadsNoSourceAndKeepsAlpha) {
   GuardedImage<Lum16s> s16(9, 2, 1);
   auto zeroed = [](auto& img, int keep, const std::function<LumStatus()>& call) {  // keep: alpha
     img.fill([&](int, int, int) { return keep; });
-    EXPECT_EQ(call(), 0);
+    EXPECT_EQ(call(), lumStatusOk);
     for (int y = 0; y < img.height(); ++y)
       for (int x = 0; x < img.width(); ++x)
         for (int c = 0; c < img.channels(); ++c) EXPECT_EQ(img.at(x, y, c), c == 3 ? keep : 0);
@@ -404,7 +404,7 @@ TEST(ArithScaled, ZeroFillReadsNoSourceAndKeepsAlpha) {
   const Lum8u zero3[3] = {0, 0, 0};
   zeroed(d4, 200, [&] { return lumiMulC_8u_AC4IRSfs(zero3, d4.ptr(), d4.step(), d4.roi(), 0); });
   // the fill refuses a destination step below one, whatever the member checks otherwise
-  EXPECT_EQ(lumiAdd_8u_C1RSfs(n8, 1, n8, 1, d8.ptr(), 0, d8.roi(), 10), -14);
+  EXPECT_EQ(lumiAdd_8u_C1RSfs(n8, 1, n8, 1, d8.ptr(), 0, d8.roi(), 10), lumStatusStepErr);
   EXPECT_TRUE(d8.guardsIntact() && d4.guardsIntact() && d16.guardsIntact() && s16.guardsIntact());
 }
 

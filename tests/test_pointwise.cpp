@@ -15,10 +15,11 @@ using lumitest::randomSize;
 using lumitest::Rng;
 using lumitest::sameElements;
 
-struct Layout {
-  int ch, use;
-};
-constexpr Layout kC1{1, 1}, kC3{3, 3}, kC4{4, 4}, kAC4{4, 3};
+using lumitest::Layout;
+using lumitest::kC1;
+using lumitest::kC3;
+using lumitest::kC4;
+using lumitest::kAC4;
 
 // One-source members, out of place and in place, behind one signature.
 template <class T>
