@@ -11,11 +11,6 @@ namespace {
 
 using namespace lumitest;
 
-struct Layout {
-  int ch, use;
-};
-constexpr Layout kLayouts[4] = {{1, 1}, {3, 3}, {4, 4}, {4, 3}};  // C1, C3, C4, AC4
-
 template <class T>
 using BorderFn = LumStatus (*)(const T*, int, LumiSize, T*, int, LumiSize, int, int, const T*);
 template <class T>
@@ -110,7 +105,7 @@ template <class T>
 void checkBorder(Rng& rng, Kind kind, Layout L, BorderFn<T> copy, InPlaceFn<T> inPlace, int reps) {
   for (int rep = 0; rep < reps; ++rep) {
     const Geometry g = randomGeometry(rng, rep);
-    SCOPED_TRACE(::testing::Message() << "C" << L.ch << "/" << L.use << " src " << g.src.width << "x"
+    SCOPED_TRACE(::testing::Message() << L.name << " src " << g.src.width << "x"
                                       << g.src.height << " at (" << g.left << ", " << g.top << ") in "
                                       << g.dst.width << "x" << g.dst.height);
     GuardedImage<T> src(g.src.width, g.src.height, L.ch, -1, -1, rep);
@@ -153,7 +148,7 @@ TYPED_TEST(Border, ConstantAndReplicatedCopiesAndInPlace) {
 
 TEST(WrapBorder, CopyAndInPlaceRepeatTheSource) {
   Rng rng = makeRng(23);
-  checkBorder<Lum32s>(rng, Kind::kWrap, {1, 1}, noValue<Lum32s, lumiCopyWrapBorder_32s_C1R>,
+  checkBorder<Lum32s>(rng, Kind::kWrap, kC1, noValue<Lum32s, lumiCopyWrapBorder_32s_C1R>,
                       lumiCopyWrapBorder_32s_C1IR, 40);
 }
 

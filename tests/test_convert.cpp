@@ -227,7 +227,7 @@ TEST(Convert, RoundingModeIsTheSelectorsAndTheCallersRegisterIsRestored) {
     for (int sel : {lumRndNear, lumRndZero}) {
       CallerMode caller(mode);
       const unsigned before = _mm_getcsr();
-      ASSERT_EQ(lumiConvert_32f8u_C1R(in, 20, out, 5, LumiSize{5, 1}, sel), 0);
+      ASSERT_EQ(lumiConvert_32f8u_C1R(in, 20, out, 5, LumiSize{5, 1}, sel), lumStatusOk);
       const unsigned after = _mm_getcsr();
       const bool differs = (sel == lumRndNear ? kNear : kZero) != mode;
       EXPECT_EQ(differs ? after : after & ~0x3fu, differs ? before : before & ~0x3fu);
@@ -248,7 +248,7 @@ TEST(Scale, AccuratePathIgnoresTheCallersModeAndFastPathFollowsIt) {
       for (int hint : {lumHintAccurate, lumHintFast}) {
         CallerMode caller(mode, 0x3f);
         const unsigned before = _mm_getcsr();
-        ASSERT_EQ(fn(src.ptr(), src.step(), dst.ptr(), dst.step(), src.roi(), hint), 0);
+        ASSERT_EQ(fn(src.ptr(), src.step(), dst.ptr(), dst.step(), src.roi(), hint), lumStatusOk);
         EXPECT_EQ(_mm_getcsr(), before);
         unsigned used = hint == lumHintAccurate ? kNear : mode;
         std::vector<Lum8u> want;
@@ -267,14 +267,14 @@ TEST(Scale, AccuratePathIgnoresTheCallersModeAndFastPathFollowsIt) {
 TEST(Scale, FloatRangeKnownValues) {
   const Lum32f f[4] = {-1.0f, 0.0f, 0.5f, 2.0f};
   Lum8u b[4];
-  ASSERT_EQ(lumiScale_32f8u_C1R(f, 16, b, 4, LumiSize{4, 1}, 0.0f, 1.0f), 0);
+  ASSERT_EQ(lumiScale_32f8u_C1R(f, 16, b, 4, LumiSize{4, 1}, 0.0f, 1.0f), lumStatusOk);
   EXPECT_TRUE(sameElements(std::vector<Lum8u>(b, b + 4), {0, 0, 128, 255}));  // 127.5 -> 128
   // The factors round to nearest whatever the caller's mode: with 255 / 203.75 rounded toward
   // zero these inputs would land below a half.
   const float onEdge[4] = {0x1.99191cp-2f, 0x1.32d2d2p+0f, 0x1.ff5f62p+0f, 0x1.65f5f6p+1f};
   for (unsigned mode : kModes) {
     CallerMode caller(mode);
-    ASSERT_EQ(lumiScale_32f8u_C1R(onEdge, 16, b, 4, LumiSize{4, 1}, 0.0f, 203.75f), 0);
+    ASSERT_EQ(lumiScale_32f8u_C1R(onEdge, 16, b, 4, LumiSize{4, 1}, 0.0f, 203.75f), lumStatusOk);
     EXPECT_TRUE(sameElements(std::vector<Lum8u>(b, b + 4), {1, 2, 3, 4})) << "mode " << mode;
   }
 }

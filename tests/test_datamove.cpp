@@ -11,12 +11,6 @@ namespace {
 
 using namespace lumitest;
 
-struct Layout {
-  int ch, use;  // channels in memory, channels written
-};
-constexpr Layout kLayouts[4] = {{1, 1}, {3, 3}, {4, 4}, {4, 3}};  // C1, C3, C4, AC4
-const char* const kLayoutNames[4] = {"C1", "C3", "C4", "AC4"};
-
 template <class T>
 using CopyFn = LumStatus (*)(const T*, int, T*, int, LumiSize);
 template <class T>
@@ -138,7 +132,7 @@ TYPED_TEST(DataMove, CopiesAndFillsWholeMaskedAndByChannel) {
   Rng rng = makeRng(1);
   for (int l = 0; l < 4; ++l) {
     const Layout L = kLayouts[l];
-    SCOPED_TRACE(kLayoutNames[l]);
+    SCOPED_TRACE(kLayouts[l].name);
     eachCase<T>(rng, L.ch, L.ch, [&](K& k) { return Api<T>::copy[l](ARGS(k)); },
                 [&](K& k, int x, int y, int c, T& e) { if (c < L.use) e = k.src.at(x, y, c); });
     eachCase<T>(rng, L.ch, L.ch, [&](K& k) { return Api<T>::copyMasked[l](ARGS(k), MASK(k)); },

@@ -1,4 +1,8 @@
-/* Lumi: type conversion and scaling. */
+/* Lumi: type conversion and scaling.
+ *
+ * Members check pointers (lumStatusNullPtrErr), then sizes (lumStatusSizeErr), then steps
+ * (lumStatusStepErr; not the 8u1u member), and write nothing when a check fails; AC4 members
+ * leave the fourth (alpha) channel of the destination as it was. */
 #ifndef LUMI_CONVERT_H
 #define LUMI_CONVERT_H
 #include "lumi/types.h"
@@ -6,7 +10,7 @@
 extern "C" {
 #endif
 
-/* Widening (exact) and saturating narrowing. */
+/* Convert: exact widening and saturating narrowing (src/convert/convert.cpp). */
 LUMI_API LumStatus lumiConvert_8u16u_C1R(const Lum8u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiConvert_8u16u_C3R(const Lum8u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiConvert_8u16u_AC4R(const Lum8u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
@@ -59,8 +63,9 @@ LUMI_API LumStatus lumiConvert_32s8s_C1R(const Lum32s* pSrc, int srcStep, Lum8s*
 LUMI_API LumStatus lumiConvert_32s8s_C3R(const Lum32s* pSrc, int srcStep, Lum8s* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiConvert_32s8s_AC4R(const Lum32s* pSrc, int srcStep, Lum8s* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiConvert_32s8s_C4R(const Lum32s* pSrc, int srcStep, Lum8s* pDst, int dstStep, LumiSize roiSize);
-/* Float to integer with saturation; roundMode lumRndNear rounds to nearest (ties to even),
-   any other value truncates toward zero. */
+
+/* Convert: float to integer with saturation; roundMode lumRndNear rounds to nearest (ties to
+   even), any other value truncates toward zero (src/convert/convert.cpp). */
 LUMI_API LumStatus lumiConvert_32f8u_C1R(const Lum32f* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, int roundMode);
 LUMI_API LumStatus lumiConvert_32f8u_C3R(const Lum32f* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, int roundMode);
 LUMI_API LumStatus lumiConvert_32f8u_AC4R(const Lum32f* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize roiSize, int roundMode);
@@ -77,10 +82,14 @@ LUMI_API LumStatus lumiConvert_32f16s_C1R(const Lum32f* pSrc, int srcStep, Lum16
 LUMI_API LumStatus lumiConvert_32f16s_C3R(const Lum32f* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize, int roundMode);
 LUMI_API LumStatus lumiConvert_32f16s_AC4R(const Lum32f* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize, int roundMode);
 LUMI_API LumStatus lumiConvert_32f16s_C4R(const Lum32f* pSrc, int srcStep, Lum16s* pDst, int dstStep, LumiSize roiSize, int roundMode);
-/* Bytes to bit-packed binary rows (error-diffused) and back; bits run most significant first. */
+
+/* Convert: bytes to bit-packed binary rows (error-diffused) and back; bits run most significant
+   first, a row may start at a bit offset (src/convert/convert_bits.cpp). */
 LUMI_API LumStatus lumiConvert_8u1u_C1R(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, int dstBitOffset, LumiSize roiSize, Lum8u threshold);
 LUMI_API LumStatus lumiConvert_1u8u_C1R(const Lum8u* pSrc, int srcStep, int srcBitOffset, Lum8u* pDst, int dstStep, LumiSize roiSize);
-/* Linear maps between the full ranges of two types; the 32f members map [vMin, vMax]. */
+
+/* Scale: linear maps between the full ranges of two types; the 32f members map [vMin, vMax]
+   and check it first (lumStatusScaleRangeErr) (src/convert/scale.cpp). */
 LUMI_API LumStatus lumiScale_8u16u_C1R(const Lum8u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiScale_8u16u_C3R(const Lum8u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
 LUMI_API LumStatus lumiScale_8u16u_AC4R(const Lum8u* pSrc, int srcStep, Lum16u* pDst, int dstStep, LumiSize roiSize);
