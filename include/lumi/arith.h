@@ -88,7 +88,7 @@ LUMI_API LumStatus lumiMul_16s_C3IRSfs(const Lum16s* pSrc, int srcStep, Lum16s* 
 LUMI_API LumStatus lumiMul_16s_AC4IRSfs(const Lum16s* pSrc, int srcStep, Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiMul_16s_C4IRSfs(const Lum16s* pSrc, int srcStep, Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 
-/* Div: src2 / src1; a zero divisor gives lumStatusDivByZeroWarn; in place the srcDst image is src2 (src/arith/scaled_div.cpp). */
+/* Div: src2 / src1; a zero divisor gives lumStatusDivByZeroWarn; in place the srcDst image is src2 (src/arith/scaled_arith.cpp). */
 LUMI_API LumStatus lumiDiv_8u_C1RSfs(const Lum8u* pSrc1, int src1Step, const Lum8u* pSrc2, int src2Step, Lum8u* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiDiv_8u_C3RSfs(const Lum8u* pSrc1, int src1Step, const Lum8u* pSrc2, int src2Step, Lum8u* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiDiv_8u_AC4RSfs(const Lum8u* pSrc1, int src1Step, const Lum8u* pSrc2, int src2Step, Lum8u* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
@@ -192,7 +192,7 @@ LUMI_API LumStatus lumiMulC_16s_C3IRSfs(const Lum16s value[3], Lum16s* pSrcDst, 
 LUMI_API LumStatus lumiMulC_16s_AC4IRSfs(const Lum16s value[3], Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiMulC_16s_C4IRSfs(const Lum16s value[4], Lum16s* pSrcDst, int srcDstStep, LumiSize roiSize, int scaleFactor);
 
-/* DivC: src / value; any zero channel of value gives lumStatusDivisorZeroErr (C3 and AC4 take 3 channel values, C4 takes 4; src/arith/scaled_div.cpp). */
+/* DivC: src / value; any zero channel of value gives lumStatusDivisorZeroErr (C3 and AC4 take 3 channel values, C4 takes 4; src/arith/scaled_arith.cpp). */
 LUMI_API LumStatus lumiDivC_8u_C1RSfs(const Lum8u* pSrc, int srcStep, Lum8u value, Lum8u* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiDivC_8u_C3RSfs(const Lum8u* pSrc, int srcStep, const Lum8u value[3], Lum8u* pDst, int dstStep, LumiSize roiSize, int scaleFactor);
 LUMI_API LumStatus lumiDivC_8u_AC4RSfs(const Lum8u* pSrc, int srcStep, const Lum8u value[3], Lum8u* pDst, int dstStep, LumiSize roiSize, int scaleFactor);

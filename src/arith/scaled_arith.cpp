@@ -1,6 +1,8 @@
-// Scaled integer addition, subtraction and multiplication: Add, Sub (second image minus the
-// first), Mul, and their constant forms AddC, SubC, MulC for 8u, 16u and 16s in every layout.
-// Division has its own kernels (scaled_div.cpp).
+// Scaled integer arithmetic: Add, Sub (second image minus the first), Mul, Div (second image
+// divided by the first; a zero divisor is a warning with defined results) and their constant
+// forms AddC, SubC, MulC, DivC (a zero constant channel is an error) for 8u, 16u and 16s in
+// every layout. Quotients are formed in single precision and converted with the current
+// rounding mode, identically on the vector and scalar paths.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/arith/scaled_arith.cpp"
 #include "hwy/foreach_target.h"
@@ -12,10 +14,16 @@
 namespace lumi {
 namespace scaled {
 namespace {
+// The row kernel of one operation: scaledRow / scaledRowScalar, or divRow / divRowScalar.
 template <int op, class T>
 RowFn<T> pickScaledRow() {
-  LUMI_SIMD_TABLE(RowFn<T>, table, scaledv::scaledRow<op, T>);
-  return pick(table, &scaledRowScalar<op, T>);
+  if constexpr (op == kDiv) {
+    LUMI_SIMD_TABLE(RowFn<T>, table, scaledv::divRow<T>);
+    return pick(table, &divRowScalar<T>);
+  } else {
+    LUMI_SIMD_TABLE(RowFn<T>, table, scaledv::scaledRow<op, T>);
+    return pick(table, &scaledRowScalar<op, T>);
+  }
 }
 }  // namespace
 }  // namespace scaled
@@ -166,5 +174,53 @@ LUMI_SCALED_CONST(lumiSubC_16s_AC4RSfs, kSub, Lum16s, AC4, const Lum16s*, value)
 LUMI_SCALED_CONST_I(lumiSubC_16s_AC4IRSfs, kSub, Lum16s, AC4, const Lum16s*, value)
 LUMI_SCALED_CONST(lumiSubC_16s_C4RSfs, kSub, Lum16s, C4, const Lum16s*, value)
 LUMI_SCALED_CONST_I(lumiSubC_16s_C4IRSfs, kSub, Lum16s, C4, const Lum16s*, value)
+LUMI_SCALED_IMAGE(lumiDiv_8u_C1RSfs, kDiv, Lum8u, C1)
+LUMI_SCALED_IMAGE_I(lumiDiv_8u_C1IRSfs, kDiv, Lum8u, C1)
+LUMI_SCALED_IMAGE(lumiDiv_8u_C3RSfs, kDiv, Lum8u, C3)
+LUMI_SCALED_IMAGE_I(lumiDiv_8u_C3IRSfs, kDiv, Lum8u, C3)
+LUMI_SCALED_IMAGE(lumiDiv_8u_AC4RSfs, kDiv, Lum8u, AC4)
+LUMI_SCALED_IMAGE_I(lumiDiv_8u_AC4IRSfs, kDiv, Lum8u, AC4)
+LUMI_SCALED_IMAGE(lumiDiv_8u_C4RSfs, kDiv, Lum8u, C4)
+LUMI_SCALED_IMAGE_I(lumiDiv_8u_C4IRSfs, kDiv, Lum8u, C4)
+LUMI_SCALED_IMAGE(lumiDiv_16u_C1RSfs, kDiv, Lum16u, C1)
+LUMI_SCALED_IMAGE_I(lumiDiv_16u_C1IRSfs, kDiv, Lum16u, C1)
+LUMI_SCALED_IMAGE(lumiDiv_16u_C3RSfs, kDiv, Lum16u, C3)
+LUMI_SCALED_IMAGE_I(lumiDiv_16u_C3IRSfs, kDiv, Lum16u, C3)
+LUMI_SCALED_IMAGE(lumiDiv_16u_AC4RSfs, kDiv, Lum16u, AC4)
+LUMI_SCALED_IMAGE_I(lumiDiv_16u_AC4IRSfs, kDiv, Lum16u, AC4)
+LUMI_SCALED_IMAGE(lumiDiv_16u_C4RSfs, kDiv, Lum16u, C4)
+LUMI_SCALED_IMAGE_I(lumiDiv_16u_C4IRSfs, kDiv, Lum16u, C4)
+LUMI_SCALED_IMAGE(lumiDiv_16s_C1RSfs, kDiv, Lum16s, C1)
+LUMI_SCALED_IMAGE_I(lumiDiv_16s_C1IRSfs, kDiv, Lum16s, C1)
+LUMI_SCALED_IMAGE(lumiDiv_16s_C3RSfs, kDiv, Lum16s, C3)
+LUMI_SCALED_IMAGE_I(lumiDiv_16s_C3IRSfs, kDiv, Lum16s, C3)
+LUMI_SCALED_IMAGE(lumiDiv_16s_AC4RSfs, kDiv, Lum16s, AC4)
+LUMI_SCALED_IMAGE_I(lumiDiv_16s_AC4IRSfs, kDiv, Lum16s, AC4)
+LUMI_SCALED_IMAGE(lumiDiv_16s_C4RSfs, kDiv, Lum16s, C4)
+LUMI_SCALED_IMAGE_I(lumiDiv_16s_C4IRSfs, kDiv, Lum16s, C4)
+LUMI_SCALED_CONST(lumiDivC_8u_C1RSfs, kDiv, Lum8u, C1, Lum8u, &value)
+LUMI_SCALED_CONST_I(lumiDivC_8u_C1IRSfs, kDiv, Lum8u, C1, Lum8u, &value)
+LUMI_SCALED_CONST(lumiDivC_8u_C3RSfs, kDiv, Lum8u, C3, const Lum8u*, value)
+LUMI_SCALED_CONST_I(lumiDivC_8u_C3IRSfs, kDiv, Lum8u, C3, const Lum8u*, value)
+LUMI_SCALED_CONST(lumiDivC_8u_AC4RSfs, kDiv, Lum8u, AC4, const Lum8u*, value)
+LUMI_SCALED_CONST_I(lumiDivC_8u_AC4IRSfs, kDiv, Lum8u, AC4, const Lum8u*, value)
+LUMI_SCALED_CONST(lumiDivC_8u_C4RSfs, kDiv, Lum8u, C4, const Lum8u*, value)
+LUMI_SCALED_CONST_I(lumiDivC_8u_C4IRSfs, kDiv, Lum8u, C4, const Lum8u*, value)
+LUMI_SCALED_CONST(lumiDivC_16u_C1RSfs, kDiv, Lum16u, C1, Lum16u, &value)
+LUMI_SCALED_CONST_I(lumiDivC_16u_C1IRSfs, kDiv, Lum16u, C1, Lum16u, &value)
+LUMI_SCALED_CONST(lumiDivC_16u_C3RSfs, kDiv, Lum16u, C3, const Lum16u*, value)
+LUMI_SCALED_CONST_I(lumiDivC_16u_C3IRSfs, kDiv, Lum16u, C3, const Lum16u*, value)
+LUMI_SCALED_CONST(lumiDivC_16u_AC4RSfs, kDiv, Lum16u, AC4, const Lum16u*, value)
+LUMI_SCALED_CONST_I(lumiDivC_16u_AC4IRSfs, kDiv, Lum16u, AC4, const Lum16u*, value)
+LUMI_SCALED_CONST(lumiDivC_16u_C4RSfs, kDiv, Lum16u, C4, const Lum16u*, value)
+LUMI_SCALED_CONST_I(lumiDivC_16u_C4IRSfs, kDiv, Lum16u, C4, const Lum16u*, value)
+LUMI_SCALED_CONST(lumiDivC_16s_C1RSfs, kDiv, Lum16s, C1, Lum16s, &value)
+LUMI_SCALED_CONST_I(lumiDivC_16s_C1IRSfs, kDiv, Lum16s, C1, Lum16s, &value)
+LUMI_SCALED_CONST(lumiDivC_16s_C3RSfs, kDiv, Lum16s, C3, const Lum16s*, value)
+LUMI_SCALED_CONST_I(lumiDivC_16s_C3IRSfs, kDiv, Lum16s, C3, const Lum16s*, value)
+LUMI_SCALED_CONST(lumiDivC_16s_AC4RSfs, kDiv, Lum16s, AC4, const Lum16s*, value)
+LUMI_SCALED_CONST_I(lumiDivC_16s_AC4IRSfs, kDiv, Lum16s, AC4, const Lum16s*, value)
+LUMI_SCALED_CONST(lumiDivC_16s_C4RSfs, kDiv, Lum16s, C4, const Lum16s*, value)
+LUMI_SCALED_CONST_I(lumiDivC_16s_C4IRSfs, kDiv, Lum16s, C4, const Lum16s*, value)
 }
 #endif

@@ -1,5 +1,5 @@
 // Vector row kernels of the scaled integer arithmetic, compiled once per SIMD target (included
-// by each kernel source inside its per-target pass). They read the scale factor the dispatcher
+// by scaled_arith.cpp inside its per-target pass). They read the scale factor the dispatcher
 // resolved (core/scale_factor.h) and match the scalar twins of scaled_kernels.h bit for bit;
 // row tails go through the same per-element rule.
 
@@ -119,6 +119,73 @@ HWY_NOINLINE int scaledRow(const T* s1, const T* s2, T* d, std::ptrdiff_t n,
     wideRow<op, T, ScaleFactor::kLeft>(s1, s2, d, n, sf, keepAlpha);
   }
   return 0;
+}
+
+// s2 / s1 in 32-bit lanes. A zero divisor is replaced by 2^-60, which drives the quotient of
+// a nonzero dividend far past the saturation limit and leaves 0 / 0 at zero: exactly the
+// defined results, without raising a floating-point exception flag. Unsigned quotients are
+// never negative and are rounded by adding 1.5 x 2^23 (the addition rounds with the current
+// mode, as the conversion instruction would); signed ones use the conversion itself.
+template <class T, bool kScaled>
+HWY_INLINE int divLoop(const T* s1, const T* s2, T* d, std::ptrdiff_t n, float scaleValue,
+                       bool keepAlpha, std::ptrdiff_t* done) {
+  const hn::ScalableTag<float> df;
+  const hn::RebindToSigned<decltype(df)> di;
+  const hn::RebindToUnsigned<decltype(di)> du;
+  const hn::Rebind<T, decltype(di)> dh;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(df));
+  const auto scale = hn::Set(df, scaleValue);
+  const auto limit = hn::Set(df, 65536.0f), negLimit = hn::Set(df, -65536.0f);
+  const auto tiny = hn::Set(df, 8.673617379884035e-19f);  // 2^-60
+  const auto magic = hn::Set(df, 12582912.0f);             // 1.5 x 2^23
+  const auto magicBits = hn::BitCast(di, magic);
+  const auto zero = hn::Zero(di);
+  const auto hi = hn::Set(di, int32_t(std::numeric_limits<T>::max()));
+  const auto lo = hn::Set(di, int32_t(std::numeric_limits<T>::min()));
+  const auto colour = colourLanes(dh);
+  // alpha lanes never count as zero divisors
+  const auto alphaBits = keepAlpha ? hn::IfThenZeroElse(colourLanes(di), hn::Set(di, 1)) : zero;
+  auto lowest = hn::Set(di, 1);
+  std::ptrdiff_t i = 0;
+  for (; i + N <= n; i += N) {
+    const auto b = hn::PromoteTo(di, hn::LoadU(dh, s1 + i));
+    const auto a = hn::PromoteTo(di, hn::LoadU(dh, s2 + i));
+    const auto bAbs = std::is_signed_v<T> ? hn::Abs(b) : b;
+    lowest = hn::Min(lowest, keepAlpha ? hn::Or(bAbs, alphaBits) : bAbs);
+    const auto fb = hn::IfThenElse(hn::RebindMask(df, hn::Eq(b, zero)), tiny, hn::ConvertTo(df, b));
+    auto q = hn::Div(hn::ConvertTo(df, a), fb);
+    if (kScaled) q = hn::Mul(q, scale);
+    hn::Vec<decltype(di)> r;
+    if constexpr (std::is_unsigned_v<T>) {
+      r = hn::Sub(hn::BitCast(di, hn::Add(hn::Min(q, limit), magic)), magicBits);
+    } else {
+      r = hn::NearestInt(hn::Min(hn::Max(q, negLimit), limit));
+    }
+    r = std::is_signed_v<T> ? hn::Min(hn::Max(r, lo), hi) : hn::Min(r, hi);
+    if constexpr (sizeof(T) == 1)  // in range already: the cheapest narrowing will do
+      storeColour(dh, hn::TruncateTo(dh, hn::BitCast(du, r)), d + i, keepAlpha, colour);
+    else
+      storeColour(dh, hn::DemoteTo(dh, r), d + i, keepAlpha, colour);
+  }
+  *done = i;
+  return hn::AllFalse(di, hn::Eq(lowest, zero)) ? 0 : 1;
+}
+
+// The per-target kernel of Div (twin: scaled::divRowScalar).
+template <class T>
+HWY_NOINLINE int divRow(const T* s1, const T* s2, T* d, std::ptrdiff_t n, const ScaleFactor& sf,
+                        bool keepAlpha) {
+  const float scaleValue = scaled::divScale(sf);
+  std::ptrdiff_t i = 0;
+  int flag = sf.mode == ScaleFactor::kNone
+                 ? divLoop<T, false>(s1, s2, d, n, scaleValue, keepAlpha, &i)
+                 : divLoop<T, true>(s1, s2, d, n, scaleValue, keepAlpha, &i);
+  for (; i < n; ++i) {
+    if (keepAlpha && (i & 3) == 3) continue;
+    flag |= s1[i] == 0;
+    d[i] = scaled::divElem(s2[i], s1[i], scaleValue);
+  }
+  return flag;
 }
 
 }  // namespace scaledv
