@@ -33,7 +33,8 @@ int binaryRow(const float* x, const float* y, float* out, std::ptrdiff_t n,
         const auto yv = hn::LoadU(d, y + i);
         if constexpr (OP == 3) {
           auto z = hn::VecFromMask(d, hn::Eq(yv, hn::Zero(d)));
-          if constexpr (decltype(masked)::value) z = hn::And(z, hn::LoadU(d, pat->mask + off));
+          if constexpr (decltype(masked)::value)
+            z = hn::IfThenElseZero(colourLanesAt(d, off, pat->unitShift), z);
           zeros = hn::Or(zeros, z);
         }
         StoreOwned(d, vecOp<OP>(hn::LoadU(d, x + i), yv), out + i, pat, off, masked);

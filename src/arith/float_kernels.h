@@ -1,5 +1,5 @@
 // Shared pieces of the floating-point, complex and pointwise-maths row kernels: per-element
-// patterns (channel constants and the write mask of AC4 layouts), scaled integer rounding of
+// patterns (channel constants and which elements AC4 layouts write), scaled integer rounding of
 // exact 64-bit results, and the row functions one family borrows from another.
 #pragma once
 
@@ -17,24 +17,24 @@ namespace arithf {
 constexpr int kPatLanes = 64;
 constexpr int kMaxPeriod = 8;
 
-// The per-element view of one pixel layout: element i of a row uses value[i % period] and is
-// written only when mask[i % period] is all ones. Both arrays repeat the period kPatLanes
-// times, so a vector kernel reads the pattern of the k-th vector of a cycle at k * lanes.
+// The per-element view of one pixel layout: element i of a row uses value[i % period] and, in
+// a masked row (AC4), is written only when i % period < use. The values repeat the period
+// kPatLanes times, so a vector kernel reads the constants of the k-th vector of a cycle at
+// k * lanes. Masked rows are four-channel pixels of one element per channel, or of two for
+// the complex types (unitShift 1); their vector kernels keep the alpha elements through
+// colourLanesAt() and storeColour().
 template <class T>
 struct RowPattern {
   alignas(64) T value[kMaxPeriod * kPatLanes];
-  alignas(64) T mask[kMaxPeriod * kPatLanes];
   int period = 1, use = 1;
   bool masked = false;
+  int unitShift = 0;
 
   // per: elements per pixel; use: leading elements of each pixel written; c: per values or
   // null when the row has no constant operand.
-  RowPattern(int per, int used, const T* c) : period(per), use(used), masked(used < per) {
-    for (int i = 0; i < per * kPatLanes; ++i) {
-      int e = i % per;
-      value[i] = c ? c[e] : T();
-      std::memset(&mask[i], e < used ? 0xff : 0, sizeof(T));
-    }
+  RowPattern(int per, int used, const T* c)
+      : period(per), use(used), masked(used < per), unitShift(per > 4 ? 1 : 0) {
+    for (int i = 0; i < per * kPatLanes; ++i) value[i] = c ? c[i % per] : T();
   }
   bool writes(std::ptrdiff_t i) const {  // scalar kernels: is element i of a row written?
     return !masked || (i % period) < use;

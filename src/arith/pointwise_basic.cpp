@@ -63,7 +63,8 @@ int unaryRow(const T* s, T* out, std::ptrdiff_t n, const RowPattern<T>* pat) {
           r = hn::Mul(x, x);
         } else {
           auto m = hn::VecFromMask(d, hn::Lt(x, hn::Zero(d)));
-          if constexpr (decltype(masked)::value) m = hn::And(m, hn::LoadU(d, pat->mask + off));
+          if constexpr (decltype(masked)::value)
+            m = hn::IfThenElseZero(colourLanesAt(d, off, pat->unitShift), m);
           neg = hn::Or(neg, m);
           r = hn::Sqrt(x);
         }

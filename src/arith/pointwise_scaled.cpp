@@ -103,8 +103,7 @@ int scaledRow(const T* s, T* out, std::ptrdiff_t n, const RowPattern<T>* pat,
         if constexpr (F == kSqrt || F == kLn) {
           r = hn::IfThenZeroElse(neg, r);
           if constexpr (decltype(masked)::value) {  // a negative alpha sample is not processed
-            const auto owned = hn::PromoteTo(dd, hn::PromoteTo(di, hn::LoadU(dt, pat->mask + off)));
-            neg = hn::And(neg, hn::Ne(owned, zero));
+            neg = hn::And(neg, colourLanesAt(dd, off, pat->unitShift));
           }
           bad = hn::Or(bad, hn::VecFromMask(dd, neg));
         }
