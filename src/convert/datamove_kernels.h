@@ -1,7 +1,8 @@
 // Private helpers of the data-movement family (copy, set, channel swap, duplicate, borders),
 // compiled once: the scalar kernels (the plain twins of the vector ones in copy.cpp, set.cpp
-// and swap.cpp), the row walk and the internal entry points one source file offers the others.
-// The per-target helpers of the vector kernels are in datamove_kernels-inl.h.
+// and swap.cpp, which the choosers there run on the element bits) and the internal entry
+// points one source file offers the others. The per-target helpers of the vector kernels are
+// in datamove_kernels-inl.h.
 #pragma once
 
 #include "core/frame.h"
