@@ -119,6 +119,14 @@ CountRowFn<T> pickCountRow() {
   return pick(table, &countRowScalar<T, L>);
 }
 
+// Minimum and maximum of every channel of the ROI.
+template <class T, int kCh>
+HWY_NOINLINE void extremaOf(const T* src, int step, LumiSize roi, T* mn, T* mx) {
+  const MinMaxRowFn<T> f = pickMinMaxRow<T, kCh>();
+  for (int c = 0; c < kCh; ++c) mn[c] = mx[c] = src[c];
+  for (int y = 0; y < roi.height; ++y) f(rowAt(src, step, y), roi.width, mn, mx);
+}
+
 // Min, max or both per channel (kMin, kMax: which outputs the caller asked for).
 template <class T, class L, bool kMin, bool kMax>
 LumStatus extremaImpl(const T* src, int step, LumiSize roi, T* mnOut, T* mxOut) {
@@ -126,10 +134,8 @@ LumStatus extremaImpl(const T* src, int step, LumiSize roi, T* mnOut, T* mxOut) 
     return lumStatusNullPtrErr;
   if (badSize(roi)) return lumStatusSizeErr;
   if (badStep(step)) return lumStatusStepErr;
-  const MinMaxRowFn<T> f = pickMinMaxRow<T, L::kCh>();
   T mn[4], mx[4];
-  for (int c = 0; c < L::kCh; ++c) mn[c] = mx[c] = src[c];
-  for (int y = 0; y < roi.height; ++y) f(rowAt(src, step, y), roi.width, mn, mx);
+  extremaOf<T, L::kCh>(src, step, roi, mn, mx);
   for (int c = 0; c < L::kUse; ++c) {
     if (kMin) mnOut[c] = mn[c];
     if (kMax) mxOut[c] = mx[c];
