@@ -14,9 +14,10 @@ void paletteRows(const S* src, int sstep, D* dst, int dstep, LumiSize roi, const
     if constexpr (Bytes == 3) {
       for (int x = 0; x < roi.width; ++x) {
         const D* e = table + 3 * (s[x] & mask);
-        d[3 * x] = e[0];
-        d[3 * x + 1] = e[1];
-        d[3 * x + 2] = e[2];
+        D* o = d + elemsOf(x, 3);
+        o[0] = e[0];
+        o[1] = e[1];
+        o[2] = e[2];
       }
     } else {
       int x = 0;

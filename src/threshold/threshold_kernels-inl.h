@@ -1,5 +1,5 @@
-// Vector row loops of the threshold, compare, logic and shift families; included once per
-// SIMD target from inside a kernel file's Highway section (after "hwy/highway.h").
+// Vector row loops of the threshold, compare, logic and shift families; re-included once per
+// SIMD target by their kernel files (after "hwy/highway.h", before the file's own section).
 #if defined(LUMI_THRESHOLD_KERNELS_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef LUMI_THRESHOLD_KERNELS_INL_H_
 #undef LUMI_THRESHOLD_KERNELS_INL_H_
@@ -9,11 +9,10 @@
 
 #include "hwy/highway.h"
 #include "core/alpha-inl.h"
+#include "core/simd.h"
 #include "threshold/threshold_kernels.h"
 
-HWY_BEFORE_NAMESPACE();
-namespace lumi {
-namespace HWY_NAMESPACE {
+LUMI_SIMD_BEGIN
 
 // Runs one row of n elements: vop(i, off) handles the vector starting at element i whose
 // pattern offset is off; sop(i, off) handles a single trailing element. The pattern offset
@@ -21,7 +20,7 @@ namespace HWY_NAMESPACE {
 // is a multiple of four).
 template <class D, class VecOp, class ScalarOp>
 HWY_INLINE void patternRow(D d, std::ptrdiff_t n, VecOp&& vop, ScalarOp&& sop) {
-  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hwy::HWY_NAMESPACE::Lanes(d));
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
   std::ptrdiff_t i = 0;
   for (; i + 3 * N <= n; i += 3 * N) {
     vop(i, 0);
@@ -58,15 +57,12 @@ HWY_INLINE void patternRows(D d, const thr::ElemRows<T>& r, VecOp&& vop, ScalarO
 // a <= b for every lane type (integer lanes have no direct less-or-equal).
 template <class V>
 HWY_INLINE auto lessEq(V a, V b) {
-  namespace hn = hwy::HWY_NAMESPACE;
   if constexpr (hwy::IsFloat<hn::TFromV<V>>())
     return hn::Le(a, b);
   else
     return hn::Not(hn::Lt(b, a));
 }
 
-}  // namespace HWY_NAMESPACE
-}  // namespace lumi
-HWY_AFTER_NAMESPACE();
+LUMI_SIMD_END
 
 #endif  // include guard
