@@ -23,10 +23,15 @@ struct BoxScale {
   uint32_t m = 0;
   int s = 0;
   float r = 0.0f;
+  // The same product for sums below 2^16 in 16-bit lanes: (S x m16) >> 16 >> post.
+  uint16_t m16 = 0;
+  int post = 0;
 };
 
 // Largest mask area of the 8u integer path: m x 255 x area stays below 2^32 up to it.
 constexpr long long kMaxIntegerArea = 8100;
+// Largest mask area whose 8u sums fit 16 bits (257 x 255 = 65535): those keep 16-bit sums.
+constexpr long long kMaxNarrowArea = 257;
 
 inline double nearestEven(double v) {
   double f = std::floor(v);
@@ -58,6 +63,14 @@ inline BoxScale scale8u(long long area) {
   }
   sc.m = (q >> 20) + 1;
   sc.s = n + 12;
+  // (m x S) >> s = ((m 2^(16-s) x S) >> 16 for s <= 16 (m 2^(16-s) < 2^16 for every area above
+  // 1), and ((m x S) >> 16) >> (s - 16) beyond.
+  if (sc.s <= 16) {
+    sc.m16 = static_cast<uint16_t>(sc.m << (16 - sc.s));
+  } else {
+    sc.m16 = static_cast<uint16_t>(sc.m);
+    sc.post = sc.s - 16;
+  }
   return sc;
 }
 
@@ -91,8 +104,8 @@ inline A accOf(T v) {
 
 template <class T, class A>
 inline T normalise(A sum, const BoxScale& sc) {
-  if constexpr (std::is_same_v<T, Lum8u> && std::is_same_v<A, uint32_t>) {
-    return static_cast<Lum8u>((sc.m * sum) >> sc.s);
+  if constexpr (std::is_same_v<T, Lum8u> && std::is_integral_v<A>) {
+    return static_cast<Lum8u>((sc.m * static_cast<uint32_t>(sum)) >> sc.s);
   } else if constexpr (std::is_same_v<T, Lum8u>) {
     const float v = sum * sc.r;  // sums are never negative
     return v >= 255.0f ? Lum8u{255} : static_cast<Lum8u>(static_cast<int>(v));
@@ -122,7 +135,7 @@ void colSlideScalar(const T* in, const T* out, A* col, std::ptrdiff_t n) {
 // One destination row from the column sums of its source rows: per written channel, the sum
 // of the first mw column sums, then one running sum slid along the row.
 template <class T, class A, class L>
-void boxRowScalar(const A* col, T* dst, int width, int mw, const BoxScale& sc) {
+void boxRowScalar(const A* col, T* dst, int width, int mw, const BoxScale& sc, A* = nullptr) {
   constexpr int kCh = L::kCh;
   for (int c = 0; c < L::kUse; ++c) {
     const A* p = col + c;
@@ -138,8 +151,9 @@ void boxRowScalar(const A* col, T* dst, int width, int mw, const BoxScale& sc) {
 
 template <class T, class A>
 using ColSlideFn = void (*)(const T*, const T*, A*, std::ptrdiff_t);
+// col, dst, width, mask width, scale, work row (room for width + mask width + 128 sums)
 template <class T, class A>
-using BoxRowFn = void (*)(const A*, T*, int, int, const BoxScale&);
+using BoxRowFn = void (*)(const A*, T*, int, int, const BoxScale&, A*);
 
 }  // namespace box
 }  // namespace lumi
