@@ -50,6 +50,21 @@ inline void extremeRowsFrom(const T* const* rows, int n, T* out, std::ptrdiff_t 
   }
 }
 
+// Two consecutive rows of one pattern whose row offsets are consecutive: outA[e] is the
+// extremum of rows[0..n-1], outB[e] of rows[1..n], and the n - 1 rows they share are reduced
+// once. The extremum keeps the last of equal values whatever the grouping, so both equal what
+// extremeRowsFrom gives for their rows.
+template <class T, bool kMax>
+inline void extremeRowPairFrom(const T* const* rows, int n, T* outA, T* outB, std::ptrdiff_t from,
+                               std::ptrdiff_t elems) {
+  for (std::ptrdiff_t e = from; e < elems; ++e) {
+    T m = rows[1][e];
+    for (int k = 2; k < n; ++k) m = extreme<kMax>(m, rows[k][e]);
+    outA[e] = extreme<kMax>(rows[0][e], m);
+    outB[e] = extreme<kMax>(m, rows[n][e]);
+  }
+}
+
 }  // namespace morph
 }  // namespace lumi
 #endif
@@ -104,6 +119,38 @@ void extremeRows(const T* const* HWY_RESTRICT rows, int n, T* HWY_RESTRICT out,
   morph::extremeRowsFrom<T, kMax, kAlpha>(rows, n, out, e, elems);
 }
 
+template <class T, bool kMax>
+void extremeRowPair(const T* const* HWY_RESTRICT rows, int n, T* HWY_RESTRICT outA,
+                    T* HWY_RESTRICT outB, std::ptrdiff_t elems) {
+  const hn::ScalableTag<T> d;
+  using V = hn::Vec<decltype(d)>;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
+  std::ptrdiff_t e = 0;
+  for (; e + 2 * N <= elems; e += 2 * N) {
+    V m0 = hn::LoadU(d, rows[1] + e), m1 = hn::LoadU(d, rows[1] + e + N);
+    for (int k = 2; k < n; ++k) {
+      m0 = extremeVec<kMax>(m0, hn::LoadU(d, rows[k] + e));
+      m1 = extremeVec<kMax>(m1, hn::LoadU(d, rows[k] + e + N));
+    }
+    hn::StoreU(extremeVec<kMax>(hn::LoadU(d, rows[0] + e), m0), d, outA + e);
+    hn::StoreU(extremeVec<kMax>(hn::LoadU(d, rows[0] + e + N), m1), d, outA + e + N);
+    hn::StoreU(extremeVec<kMax>(m0, hn::LoadU(d, rows[n] + e)), d, outB + e);
+    hn::StoreU(extremeVec<kMax>(m1, hn::LoadU(d, rows[n] + e + N)), d, outB + e + N);
+  }
+  if (e < elems && elems >= N) {
+    for (;;) {
+      if (e + N > elems) e = elems - N;
+      V m = hn::LoadU(d, rows[1] + e);
+      for (int k = 2; k < n; ++k) m = extremeVec<kMax>(m, hn::LoadU(d, rows[k] + e));
+      hn::StoreU(extremeVec<kMax>(hn::LoadU(d, rows[0] + e), m), d, outA + e);
+      hn::StoreU(extremeVec<kMax>(m, hn::LoadU(d, rows[n] + e)), d, outB + e);
+      e += N;
+      if (e >= elems) break;
+    }
+  }
+  morph::extremeRowPairFrom<T, kMax>(rows, n, outA, outB, e, elems);
+}
+
 #endif
 LUMI_SIMD_END
 
@@ -124,6 +171,20 @@ template <class T, bool kMax, bool kAlpha>
 ExtremeRowsFn<T> pickExtremeRows() {
   LUMI_SIMD_TABLE(ExtremeRowsFn<T>, table, extremeRows<T, kMax, kAlpha>);
   return pick(table, &extremeRowsScalar<T, kMax, kAlpha>);
+}
+
+template <class T>
+using ExtremeRowPairFn = void (*)(const T* const*, int, T*, T*, std::ptrdiff_t);
+
+template <class T, bool kMax>
+void extremeRowPairScalar(const T* const* rows, int n, T* outA, T* outB, std::ptrdiff_t elems) {
+  extremeRowPairFrom<T, kMax>(rows, n, outA, outB, 0, elems);
+}
+
+template <class T, bool kMax>
+ExtremeRowPairFn<T> pickExtremeRowPair() {
+  LUMI_SIMD_TABLE(ExtremeRowPairFn<T>, table, extremeRowPair<T, kMax>);
+  return pick(table, &extremeRowPairScalar<T, kMax>);
 }
 
 // ---- the structuring element as column patterns ------------------------------------------------
@@ -233,17 +294,19 @@ LumStatus run(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, cons
   constexpr int kCh = L::kCh;
   const ImageView<const T> sv = viewOf<L>(src, srcStep, roi);
   const auto vertical = pickExtremeRows<T, kMax, false>();
+  const auto verticalPair = pickExtremeRowPair<T, kMax>();
   const auto horizontal = pickExtremeRows<T, kMax, (L::kUse < L::kCh)>();
 
+  // Patterns whose rows follow each other reduce two destination rows in one pass.
   const HaloRows<T> shape(sv, plan.top, plan.bottom, plan.left, plan.right, inPlace);
   const std::size_t haloBytes = align64(shape.scratchBytes());
   const std::size_t ptrBytes =
-      align64(sizeof(const T*) * static_cast<std::size_t>(plan.maxTaps + plan.patterns));
+      align64(sizeof(const T*) * static_cast<std::size_t>(plan.maxTaps + 1 + 2 * plan.patterns));
   std::size_t rowsBytes = 0;
   for (int q = 0; q < plan.patterns; ++q)
     if (plan.rowCount[q] > 1)
-      rowsBytes += align64(static_cast<std::size_t>(
-                               bytesOf(plan.hi[q] - plan.lo[q] + roi.width, kCh, sizeof(T))));
+      rowsBytes += 2 * align64(static_cast<std::size_t>(
+                                   bytesOf(plan.hi[q] - plan.lo[q] + roi.width, kCh, sizeof(T))));
 
   auto prepare = [&](int y0, int y1, Lum8u* scratch) {
     HaloRows<T> halo = shape;
@@ -254,31 +317,54 @@ LumStatus run(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, cons
     HaloRows<T> halo = shape;
     halo.bind(y0, y1, scratch);
     const T** taps = reinterpret_cast<const T**>(scratch + haloBytes);
-    const T** patternRow = taps + plan.maxTaps;
-    Lum8u* rows = scratch + haloBytes + ptrBytes;
-    for (int y = y0; y < y1; ++y) {
+    const T** reduced = taps + plan.maxTaps + 1;  // per pattern: its rows for y and y + 1
+    T* rows = reinterpret_cast<T*>(scratch + haloBytes + ptrBytes);
+    // The destination row y from the reduced pattern rows `part` (0 or 1); single-row
+    // patterns read the source row itself, asked for only now: in place, row y + 1 is kept
+    // just before its destination row is written.
+    auto finish = [&](int y, int part) {
+      for (int c = 0; c < plan.columns; ++c) {
+        const int q = plan.colPattern[c];
+        const T* r = plan.rowCount[q] == 1
+                         ? halo.row(y + plan.rowOff[plan.rowStart[q]]) + elemsOf(plan.lo[q], kCh)
+                         : reduced[2 * q + part];
+        taps[c] = r + elemsOf(plan.colOff[c] - plan.lo[q], kCh);
+      }
+      horizontal(taps, plan.columns, rowAt(dst, dstStep, y), elemsOf(roi.width, kCh));
+    };
+    for (int y = y0; y < y1;) {
+      const bool pair = y + 1 < y1;
       halo.keep(y);
-      Lum8u* next = rows;
+      T* next = rows;
       for (int q = 0; q < plan.patterns; ++q) {
         const int* off = plan.rowOff + plan.rowStart[q];
         const int n = plan.rowCount[q];
+        if (n == 1) continue;
         const std::ptrdiff_t shift = elemsOf(plan.lo[q], kCh);
-        if (n == 1) {
-          patternRow[q] = halo.row(y + off[0]) + shift;
-          continue;
-        }
-        for (int k = 0; k < n; ++k) taps[k] = halo.row(y + off[k]) + shift;
-        T* out = reinterpret_cast<T*>(next);
         const std::ptrdiff_t elems = elemsOf(plan.hi[q] - plan.lo[q] + roi.width, kCh);
-        vertical(taps, n, out, elems);
-        patternRow[q] = out;
-        next += align64(static_cast<std::size_t>(elems) * sizeof(T));
+        T* outA = next;
+        T* outB = next + align64(static_cast<std::size_t>(elems) * sizeof(T)) / sizeof(T);
+        next = outB + (outB - outA);
+        reduced[2 * q] = outA;
+        reduced[2 * q + 1] = outB;
+        for (int k = 0; k < n; ++k) taps[k] = halo.row(y + off[k]) + shift;
+        if (!pair) {
+          vertical(taps, n, outA, elems);
+        } else if (off[n - 1] - off[0] == n - 1) {
+          taps[n] = halo.row(y + 1 + off[n - 1]) + shift;
+          verticalPair(taps, n, outA, outB, elems);
+        } else {
+          vertical(taps, n, outA, elems);
+          for (int k = 0; k < n; ++k) taps[k] = halo.row(y + 1 + off[k]) + shift;
+          vertical(taps, n, outB, elems);
+        }
       }
-      for (int c = 0; c < plan.columns; ++c) {
-        const int q = plan.colPattern[c];
-        taps[c] = patternRow[q] + elemsOf(plan.colOff[c] - plan.lo[q], kCh);
+      finish(y, 0);
+      if (pair) {
+        halo.keep(y + 1);
+        finish(y + 1, 1);
       }
-      horizontal(taps, plan.columns, rowAt(dst, dstStep, y), elemsOf(roi.width, kCh));
+      y += pair ? 2 : 1;
     }
   };
   const bool parallel = forkByWork(roi, plan.taps, kForkWork);
