@@ -172,6 +172,8 @@ TEST(FilterBox, WideAndTallMasks) {  // long running sums, the vector kernels' w
   for (int li = 0; li < 4; ++li) {
     checkBox<Lum8u>({37, 5, {31, 3}, {30, 1}}, li, 5);
     checkBox<Lum8u>({70, 66, {31, 31}, {15, 15}}, li, 6);
+    checkBox<Lum8u>({45, 7, {12, 30}, {11, 0}}, li, 11);   // 32-bit sums, direct rows
+    checkBox<Lum8u>({21, 3, {95, 90}, {40, 89}}, li, 12);  // float path
     checkBox<Lum16s>({23, 6, {40, 2}, {0, 1}}, li, 7);
     checkBox<Lum32f>({29, 4, {33, 5}, {16, 4}}, li, 8);
   }
