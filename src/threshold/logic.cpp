@@ -10,22 +10,29 @@
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
 
-template <class U, int kOp>
-HWY_INLINE void logicRowsOp(const thr::ElemRows<U>& r) {
+// b is a pattern (kPattern) or an image row.
+template <class U, int kOp, bool kPattern>
+HWY_INLINE void logicRowsOf(const thr::ElemRows<U>& r) {
   const hn::ScalableTag<U> d;
-  const bool bPattern = r.bStep == 0;
   patternRows(
       d, r,
       [&](const U* a, const U* b, std::ptrdiff_t i, int off) HWY_ATTR {
         const auto x = hn::LoadU(d, a + i);
-        const auto v = hn::LoadU(d, bPattern ? b + off : b + i);
+        const auto v = hn::LoadU(d, kPattern ? b + off : b + i);
         if constexpr (kOp == thr::kAnd) return hn::And(x, v);
         else if constexpr (kOp == thr::kOr) return hn::Or(x, v);
         else return hn::Xor(x, v);
       },
       [&](const U* a, const U* b, std::ptrdiff_t i, int off) {
-        return thr::logicSample<U>(kOp, a[i], bPattern ? b[off] : b[i]);
+        return thr::logicSample<U>(kOp, a[i], kPattern ? b[off] : b[i]);
       });
+}
+template <class U, int kOp>
+HWY_INLINE void logicRowsOp(const thr::ElemRows<U>& r) {
+  if (r.bStep == 0)
+    logicRowsOf<U, kOp, true>(r);
+  else
+    logicRowsOf<U, kOp, false>(r);
 }
 
 // b is an image, or a pattern of constants when r.bStep is 0.

@@ -34,11 +34,11 @@ HWY_INLINE void patternRow(D d, std::ptrdiff_t n, VecOp&& vop, ScalarOp&& sop) {
 
 // Every row of r: the destination element i becomes vop(a, b, i, off) (a vector) or
 // sop(a, b, i, off) (one trailing element), with a, b the row starts of the operands (b the
-// pattern itself when r.bStep is 0). AC4 alpha is left as it was.
-template <class D, class T, class VecOp, class ScalarOp>
-HWY_INLINE void patternRows(D d, const thr::ElemRows<T>& r, VecOp&& vop, ScalarOp&& sop) {
+// pattern itself when r.bStep is 0). AC4 alpha is left as it was; kKeep is r.keepAlpha(),
+// fixed per instance so that the loop holds no test for it.
+template <bool kKeep, class D, class T, class VecOp, class ScalarOp>
+HWY_INLINE void patternRowsKeeping(D d, const thr::ElemRows<T>& r, VecOp& vop, ScalarOp& sop) {
   const auto colour = colourLanes(d);
-  const bool keep = r.keepAlpha();
   for (int y = 0; y < r.height; ++y) {
     const T* a = rowAt(r.a, r.aStep, y);
     const T* b = r.bStep ? rowAt(r.b, r.bStep, y) : r.b;
@@ -46,12 +46,19 @@ HWY_INLINE void patternRows(D d, const thr::ElemRows<T>& r, VecOp&& vop, ScalarO
     patternRow(
         d, r.n,
         [&](std::ptrdiff_t i, int off) HWY_ATTR {
-          storeColour(d, vop(a, b, i, off), o + i, keep, colour);
+          storeColour(d, vop(a, b, i, off), o + i, kKeep, colour);
         },
         [&](std::ptrdiff_t i, int off) {
-          if (!keep || (i & 3) != 3) o[i] = sop(a, b, i, off);
+          if (!kKeep || (i & 3) != 3) o[i] = sop(a, b, i, off);
         });
   }
+}
+template <class D, class T, class VecOp, class ScalarOp>
+HWY_INLINE void patternRows(D d, const thr::ElemRows<T>& r, VecOp&& vop, ScalarOp&& sop) {
+  if (r.keepAlpha())
+    patternRowsKeeping<true>(d, r, vop, sop);
+  else
+    patternRowsKeeping<false>(d, r, vop, sop);
 }
 
 // a <= b for every lane type (integer lanes have no direct less-or-equal).
