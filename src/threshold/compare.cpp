@@ -94,9 +94,9 @@ LUMI_SIMD_END
 namespace lumi {
 namespace {
 
+using AllChannelsFn = void (*)(const uint8_t*, uint8_t*, int, int, int);
 template <class T>
 using CompareRowFn = void (*)(const T*, const T*, bool, uint8_t*, int, int, T);
-using AllChannelsFn = void (*)(const uint8_t*, uint8_t*, int, int, int);
 
 template <class T>
 void compareRowScalar(const T* a, const T* b, bool bPattern, uint8_t* out, int n, int rel,

@@ -34,6 +34,19 @@ LUMI_SIMD_END
 namespace lumi {
 namespace {
 
+constexpr int kZeroFill = -1;
+
+// The count a sample is really shifted by: a left or unsigned right shift by at least the bit
+// width leaves nothing (kZeroFill); a signed right shift by that much leaves the sign in every
+// bit, which is a shift by bits - 1.
+template <class T>
+int effectiveCount(bool left, Lum32u count) {
+  constexpr Lum32u bits = sizeof(T) * 8;
+  if (count < bits) return static_cast<int>(count);
+  if (!left && std::is_signed_v<T>) return static_cast<int>(bits - 1);
+  return kZeroFill;
+}
+
 template <class T>
 using ShiftRowsFn = void (*)(const thr::ElemRows<T>&, bool, int);
 
@@ -48,19 +61,6 @@ template <class T>
 ShiftRowsFn<T> pickShiftRows() {
   LUMI_SIMD_TABLE(ShiftRowsFn<T>, table, shiftRows<T>);
   return pick(table, &shiftRowsScalar<T>);
-}
-
-constexpr int kZeroFill = -1;
-
-// The count a sample is really shifted by: a left or unsigned right shift by at least the bit
-// width leaves nothing (kZeroFill); a signed right shift by that much leaves the sign in every
-// bit, which is a shift by bits - 1.
-template <class T>
-int effectiveCount(bool left, Lum32u count) {
-  constexpr Lum32u bits = sizeof(T) * 8;
-  if (count < bits) return static_cast<int>(count);
-  if (!left && std::is_signed_v<T>) return static_cast<int>(bits - 1);
-  return kZeroFill;
 }
 
 template <class T, class L>
