@@ -175,23 +175,6 @@ TEST(Morphology, ThreadedBandsMatchDefinition) {
   threads_omp_of_n_lum = saved;
 }
 
-TEST(Morphology, ElementsThatCopy) {
-  // A 1x1 element, and any element holding only its anchor, copy the source.
-  for (const Element& e : {Element{{1, 1}, {0, 0}, {1}},
-                           Element{{4, 3}, {2, 1}, {0, 0, 0, 0, 0, 0, 7, 0, 0, 0, 0, 0}}}) {
-    GuardedImage<Lum8u> big(20 + e.size.width - 1, 5 + e.size.height - 1, 3);
-    Rng r = makeRng(3);
-    big.fillRandom(r);
-    GuardedImage<Lum8u> dst(20, 5, 3);
-    ASSERT_EQ(lumiDilate_8u_C3R(&big.at(e.anchor.x, e.anchor.y), big.step(), dst.ptr(), dst.step(),
-                                dst.roi(), e.mask.data(), e.size, e.anchor),
-              lumStatusOk);
-    for (int y = 0; y < 5; ++y)
-      for (int x = 0; x < 20; ++x)
-        for (int c = 0; c < 3; ++c) ASSERT_EQ(dst.at(x, y, c), big.at(x + e.anchor.x, y + e.anchor.y, c));
-  }
-}
-
 TEST(Morphology, SingleBrightPixel) {
   GuardedImage<Lum8u> src(9, 9, 1);
   src.fill([](int x, int y, int) { return static_cast<Lum8u>(x == 4 && y == 4 ? 200 : 10); });

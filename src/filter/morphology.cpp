@@ -5,13 +5,15 @@
 // pattern. For each destination row, the source rows of every pattern are first reduced into
 // one row of the pattern (vertical pass, over the columns its columns reach); the destination
 // row is then the extremum of the pattern rows, each shifted to its columns (horizontal pass).
-// A full k x k square so costs 2k reads per pixel instead of k^2, and the 3x3 functions are
-// the full 3x3 element anchored at its centre. Both passes are one kernel: the element-wise
-// extremum of n rows.
+// A full k x k square so costs 2k reads per pixel instead of k^2, fewer still as two
+// destination rows reduce the k - 1 source rows they share once. The 3x3 functions are the
+// full 3x3 element anchored at its centre. Both passes are the element-wise extremum of n rows.
 //
-// Results are exact for every type: values are selected, never computed, and the vector and
-// scalar kernels take the same operands in the same order, so they agree bit for bit (even on
-// which of +0 and -0 survives a tie).
+// Results are exact for every type (no tolerance applies to 32f): values are selected, never
+// computed. Of equal values the last in the plan's order survives whatever the grouping, and
+// the vector and scalar kernels take the same operands in the same order, so all paths agree
+// bit for bit, even on which of +0 and -0 a tie keeps. (A NaN is passed over by the next
+// comparison, so where it shows depends on the grouping: NaN sources give no defined result.)
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/filter/morphology.cpp"
 #include "hwy/foreach_target.h"
