@@ -192,29 +192,29 @@ LumStatus compareEpsImpl(const Lum32f* a, int aStep, const Lum32f* b, int bStep,
 #define LUMI_CMP_ADDR_SCALAR(x) &x
 #define LUMI_CMP_ADDR_ARRAY(x) x
 
-#define LUMI_COMPARE(NAME, T, L)                                                               \
-  LUMI_API LumStatus NAME(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step,          \
-                          Lum8u* pDst, int dstStep, LumiSize roi, LumCompareOp op) {           \
-    return lumi::compareImpl<T, lumi::L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst, dstStep,   \
-                                         roi, op);                                                  \
+#define LUMI_COMPARE(NAME, T, L)                                                                \
+  LUMI_API LumStatus NAME(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step,           \
+                          Lum8u* pDst, int dstStep, LumiSize roi, LumCompareOp op) {            \
+    return lumi::compareImpl<T, lumi::L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst,         \
+                                         dstStep, roi, op);                                     \
   }
-#define LUMI_COMPARE_C(NAME, T, L, K)                                                          \
-  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LUMI_CMP_##K(T) value, Lum8u* pDst,      \
-                          int dstStep, LumiSize roi, LumCompareOp op) {                        \
-    return lumi::compareImpl<T, lumi::L>(pSrc, srcStep, LUMI_CMP_ADDR_##K(value), 0, true, \
-                                         pDst, dstStep, roi, op);                                    \
+#define LUMI_COMPARE_C(NAME, T, L, K)                                                           \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LUMI_CMP_##K(T) value, Lum8u* pDst,       \
+                          int dstStep, LumiSize roi, LumCompareOp op) {                         \
+    return lumi::compareImpl<T, lumi::L>(pSrc, srcStep, LUMI_CMP_ADDR_##K(value), 0, true,      \
+                                         pDst, dstStep, roi, op);                               \
   }
-#define LUMI_COMPARE_EPS(NAME, L)                                                              \
-  LUMI_API LumStatus NAME(const Lum32f* pSrc1, int src1Step, const Lum32f* pSrc2,              \
-                          int src2Step, Lum8u* pDst, int dstStep, LumiSize roi, Lum32f eps) {  \
-    return lumi::compareEpsImpl<lumi::L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst, dstStep,   \
-                                         roi, eps);                                                 \
+#define LUMI_COMPARE_EPS(NAME, L)                                                               \
+  LUMI_API LumStatus NAME(const Lum32f* pSrc1, int src1Step, const Lum32f* pSrc2,               \
+                          int src2Step, Lum8u* pDst, int dstStep, LumiSize roi, Lum32f eps) {   \
+    return lumi::compareEpsImpl<lumi::L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst,         \
+                                         dstStep, roi, eps);                                    \
   }
-#define LUMI_COMPARE_EPS_C(NAME, L, K)                                                         \
-  LUMI_API LumStatus NAME(const Lum32f* pSrc, int srcStep, LUMI_CMP_##K(Lum32f) value,         \
-                          Lum8u* pDst, int dstStep, LumiSize roi, Lum32f eps) {                \
-    return lumi::compareEpsImpl<lumi::L>(pSrc, srcStep, LUMI_CMP_ADDR_##K(value), 0, true, \
-                                         pDst, dstStep, roi, eps);                                   \
+#define LUMI_COMPARE_EPS_C(NAME, L, K)                                                          \
+  LUMI_API LumStatus NAME(const Lum32f* pSrc, int srcStep, LUMI_CMP_##K(Lum32f) value,          \
+                          Lum8u* pDst, int dstStep, LumiSize roi, Lum32f eps) {                 \
+    return lumi::compareEpsImpl<lumi::L>(pSrc, srcStep, LUMI_CMP_ADDR_##K(value), 0, true,      \
+                                         pDst, dstStep, roi, eps);                              \
   }
 
 extern "C" {

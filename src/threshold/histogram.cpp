@@ -406,26 +406,26 @@ LumStatus evenCn(const T* src, int sstep, LumiSize roi, Lum32s* const* hist, Lum
 // ---- exported functions -----------------------------------------------------------------------
 // T the sample type, P the level type; C3, C4 and AC4 take one histogram and level list per
 // channel (NCH of them).
-#define LUMI_HIST_RANGE(NAME, T, P)                                                            \
-  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roi, Lum32s* pHist,             \
-                          const P* pLevels, int n) {                                           \
-    return lumi::rangeC1<T, P>(pSrc, srcStep, roi, pHist, pLevels, n);                         \
+#define LUMI_HIST_RANGE(NAME, T, P)                                                             \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roi, Lum32s* pHist,              \
+                          const P* pLevels, int n) {                                            \
+    return lumi::rangeC1<T, P>(pSrc, srcStep, roi, pHist, pLevels, n);                          \
   }
-#define LUMI_HIST_RANGE_N(NAME, T, P, L, NCH)                                                  \
-  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roi, Lum32s* const h[NCH],      \
-                          const P* const l[NCH], const int n[NCH]) {                           \
-    return lumi::rangeCn<T, lumi::L, P>(pSrc, srcStep, roi, h, l, n);                          \
+#define LUMI_HIST_RANGE_N(NAME, T, P, L, NCH)                                                   \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roi, Lum32s* const h[NCH],       \
+                          const P* const l[NCH], const int n[NCH]) {                            \
+    return lumi::rangeCn<T, lumi::L, P>(pSrc, srcStep, roi, h, l, n);                           \
   }
-#define LUMI_HIST_EVEN(NAME, T)                                                                \
-  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roi, Lum32s* pHist,             \
-                          Lum32s* pLevels, int n, Lum32s lower, Lum32s upper) {                \
-    return lumi::evenC1<T>(pSrc, srcStep, roi, pHist, pLevels, n, lower, upper);               \
+#define LUMI_HIST_EVEN(NAME, T)                                                                 \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roi, Lum32s* pHist,              \
+                          Lum32s* pLevels, int n, Lum32s lower, Lum32s upper) {                 \
+    return lumi::evenC1<T>(pSrc, srcStep, roi, pHist, pLevels, n, lower, upper);                \
   }
-#define LUMI_HIST_EVEN_N(NAME, T, L, NCH)                                                      \
-  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roi, Lum32s* const h[NCH],      \
-                          Lum32s* const l[NCH], const int n[NCH], const Lum32s lower[NCH],     \
-                          const Lum32s upper[NCH]) {                                           \
-    return lumi::evenCn<T, lumi::L>(pSrc, srcStep, roi, h, l, n, lower, upper);                \
+#define LUMI_HIST_EVEN_N(NAME, T, L, NCH)                                                       \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LumiSize roi, Lum32s* const h[NCH],       \
+                          Lum32s* const l[NCH], const int n[NCH], const Lum32s lower[NCH],      \
+                          const Lum32s upper[NCH]) {                                            \
+    return lumi::evenCn<T, lumi::L>(pSrc, srcStep, roi, h, l, n, lower, upper);                 \
   }
 
 extern "C" {

@@ -109,37 +109,37 @@ LumStatus notImpl(const Lum8u* src, int srcStep, Lum8u* dst, int dstStep, LumiSi
 #define LUMI_LOGIC_ADDR_SCALAR(x) &x
 #define LUMI_LOGIC_ADDR_ARRAY(x) x
 
-#define LUMI_LOGIC(NAME, OP, T, L)                                                            \
-  LUMI_API LumStatus NAME(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step,         \
-                          T* pDst, int dstStep, LumiSize roi) {                               \
-    return lumi::logicImpl<T, lumi::L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst, dstStep, \
-                                       roi, lumi::thr::OP);                                   \
+#define LUMI_LOGIC(NAME, OP, T, L)                                                              \
+  LUMI_API LumStatus NAME(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step,           \
+                          T* pDst, int dstStep, LumiSize roi) {                                 \
+    return lumi::logicImpl<T, lumi::L>(pSrc1, src1Step, pSrc2, src2Step, false, pDst, dstStep,  \
+                                       roi, lumi::thr::OP);                                     \
   }
-#define LUMI_LOGIC_I(NAME, OP, T, L)                                                          \
-  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep,             \
-                          LumiSize roi) {                                                     \
-    return lumi::logicImpl<T, lumi::L>(pSrc, srcStep, pSrcDst, srcDstStep, false, pSrcDst,    \
-                                       srcDstStep, roi, lumi::thr::OP);                       \
+#define LUMI_LOGIC_I(NAME, OP, T, L)                                                            \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep,               \
+                          LumiSize roi) {                                                       \
+    return lumi::logicImpl<T, lumi::L>(pSrc, srcStep, pSrcDst, srcDstStep, false, pSrcDst,      \
+                                       srcDstStep, roi, lumi::thr::OP);                         \
   }
-#define LUMI_LOGIC_C(NAME, OP, T, L, K)                                                       \
-  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LUMI_LOGIC_##K(T) value, T* pDst,       \
-                          int dstStep, LumiSize roi) {                                        \
-    return lumi::logicImpl<T, lumi::L>(pSrc, srcStep, LUMI_LOGIC_ADDR_##K(value), 0, true,    \
-                                       pDst, dstStep, roi, lumi::thr::OP);                    \
+#define LUMI_LOGIC_C(NAME, OP, T, L, K)                                                         \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LUMI_LOGIC_##K(T) value, T* pDst,         \
+                          int dstStep, LumiSize roi) {                                          \
+    return lumi::logicImpl<T, lumi::L>(pSrc, srcStep, LUMI_LOGIC_ADDR_##K(value), 0, true,      \
+                                       pDst, dstStep, roi, lumi::thr::OP);                      \
   }
-#define LUMI_LOGIC_CI(NAME, OP, T, L, K)                                                      \
-  LUMI_API LumStatus NAME(LUMI_LOGIC_##K(T) value, T* pSrcDst, int srcDstStep, LumiSize roi) { \
-    return lumi::logicImpl<T, lumi::L>(pSrcDst, srcDstStep, LUMI_LOGIC_ADDR_##K(value), 0,    \
-                                       true, pSrcDst, srcDstStep, roi, lumi::thr::OP);        \
+#define LUMI_LOGIC_CI(NAME, OP, T, L, K)                                                        \
+  LUMI_API LumStatus NAME(LUMI_LOGIC_##K(T) value, T* pSrcDst, int srcDstStep, LumiSize roi) {  \
+    return lumi::logicImpl<T, lumi::L>(pSrcDst, srcDstStep, LUMI_LOGIC_ADDR_##K(value), 0,      \
+                                       true, pSrcDst, srcDstStep, roi, lumi::thr::OP);          \
   }
-#define LUMI_NOT(NAME, L)                                                                     \
-  LUMI_API LumStatus NAME(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep,           \
-                          LumiSize roi) {                                                     \
-    return lumi::notImpl<lumi::L>(pSrc, srcStep, pDst, dstStep, roi);                         \
+#define LUMI_NOT(NAME, L)                                                                       \
+  LUMI_API LumStatus NAME(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep,             \
+                          LumiSize roi) {                                                       \
+    return lumi::notImpl<lumi::L>(pSrc, srcStep, pDst, dstStep, roi);                           \
   }
-#define LUMI_NOT_I(NAME, L)                                                                   \
-  LUMI_API LumStatus NAME(Lum8u* pSrcDst, int srcDstStep, LumiSize roi) {                     \
-    return lumi::notImpl<lumi::L>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, roi);             \
+#define LUMI_NOT_I(NAME, L)                                                                     \
+  LUMI_API LumStatus NAME(Lum8u* pSrcDst, int srcDstStep, LumiSize roi) {                       \
+    return lumi::notImpl<lumi::L>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, roi);               \
   }
 
 extern "C" {

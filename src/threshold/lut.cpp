@@ -421,7 +421,10 @@ LumStatus lut32f(Kind kind, const Lum32f* src, int sstep, Lum32f* dst, int dstep
     const Lum32f* s = rowAt(src, sstep, y);
     Lum32f* d = rowAt(dst, dstep, y);
     for (int x = 0; x < roi.width; ++x)
-      for (int c = 0; c < ch; ++c) d[elemsOf(x, L::kCh) + c] = chan[c].apply(s[elemsOf(x, L::kCh) + c]);
+      for (int c = 0; c < ch; ++c) {
+        const std::ptrdiff_t i = elemsOf(x, L::kCh) + c;
+        d[i] = chan[c].apply(s[i]);
+      }
   }
   lumsFree(scratch);
   return lumStatusOk;
@@ -470,25 +473,25 @@ LumStatus lutCn(Kind kind, const T* src, int sstep, T* dst, int dstep, LumiSize 
 // ---- exported functions -----------------------------------------------------------------------
 // T the sample type, P the level and value type; C3, C4 and AC4 take one level list per
 // channel (NCH of them).
-#define LUMI_LUT_C1(NAME, KIND, T, P)                                                          \
-  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize roi,      \
-                          const P* v, const P* l, int n) {                                     \
-    return lumi::lutC1<T, P>(lumi::Kind::KIND, pSrc, srcStep, pDst, dstStep, roi, v, l, n);    \
+#define LUMI_LUT_C1(NAME, KIND, T, P)                                                           \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize roi,       \
+                          const P* v, const P* l, int n) {                                      \
+    return lumi::lutC1<T, P>(lumi::Kind::KIND, pSrc, srcStep, pDst, dstStep, roi, v, l, n);     \
   }
-#define LUMI_LUT_C1_I(NAME, KIND, T, P)                                                        \
-  LUMI_API LumStatus NAME(T* p, int step, LumiSize roi, const P* v, const P* l, int n) {       \
-    return lumi::lutC1<T, P>(lumi::Kind::KIND, p, step, p, step, roi, v, l, n);                \
+#define LUMI_LUT_C1_I(NAME, KIND, T, P)                                                         \
+  LUMI_API LumStatus NAME(T* p, int step, LumiSize roi, const P* v, const P* l, int n) {        \
+    return lumi::lutC1<T, P>(lumi::Kind::KIND, p, step, p, step, roi, v, l, n);                 \
   }
-#define LUMI_LUT_CN(NAME, KIND, T, P, L, NCH)                                                  \
-  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize roi,      \
-                          const P* const v[NCH], const P* const l[NCH], const int n[NCH]) {    \
-    return lumi::lutCn<T, lumi::L, P>(lumi::Kind::KIND, pSrc, srcStep, pDst, dstStep, roi, v,  \
-                                      l, n);                                                   \
+#define LUMI_LUT_CN(NAME, KIND, T, P, L, NCH)                                                   \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize roi,       \
+                          const P* const v[NCH], const P* const l[NCH], const int n[NCH]) {     \
+    return lumi::lutCn<T, lumi::L, P>(lumi::Kind::KIND, pSrc, srcStep, pDst, dstStep, roi, v,   \
+                                      l, n);                                                    \
   }
-#define LUMI_LUT_CN_I(NAME, KIND, T, P, L, NCH)                                                \
-  LUMI_API LumStatus NAME(T* p, int step, LumiSize roi, const P* const v[NCH],                 \
-                          const P* const l[NCH], const int n[NCH]) {                           \
-    return lumi::lutCn<T, lumi::L, P>(lumi::Kind::KIND, p, step, p, step, roi, v, l, n);       \
+#define LUMI_LUT_CN_I(NAME, KIND, T, P, L, NCH)                                                 \
+  LUMI_API LumStatus NAME(T* p, int step, LumiSize roi, const P* const v[NCH],                  \
+                          const P* const l[NCH], const int n[NCH]) {                            \
+    return lumi::lutCn<T, lumi::L, P>(lumi::Kind::KIND, p, step, p, step, roi, v, l, n);        \
   }
 
 extern "C" {

@@ -51,10 +51,10 @@ LumStatus palette(const S* src, int sstep, D* dst, int dstep, LumiSize roi, cons
 
 // ---- exported functions -----------------------------------------------------------------------
 // S the sample type, D the destination element, BYTES the bytes of one table entry.
-#define LUMI_PALETTE(NAME, S, D, BYTES)                                                        \
-  LUMI_API LumStatus NAME(const S* pSrc, int srcStep, D* pDst, int dstStep, LumiSize roi,      \
-                          const D* pTable, int nBitSize) {                                     \
-    return lumi::palette<S, D, BYTES>(pSrc, srcStep, pDst, dstStep, roi, pTable, nBitSize);    \
+#define LUMI_PALETTE(NAME, S, D, BYTES)                                                         \
+  LUMI_API LumStatus NAME(const S* pSrc, int srcStep, D* pDst, int dstStep, LumiSize roi,       \
+                          const D* pTable, int nBitSize) {                                      \
+    return lumi::palette<S, D, BYTES>(pSrc, srcStep, pDst, dstStep, roi, pTable, nBitSize);     \
   }
 
 extern "C" {

@@ -108,16 +108,16 @@ LumStatus shiftImpl(const T* src, int srcStep, const Lum32u* counts, T* dst, int
 #define LUMI_SHIFT_ADDR_SCALAR(x) &x
 #define LUMI_SHIFT_ADDR_ARRAY(x) x
 
-#define LUMI_SHIFT(NAME, LEFT, T, L, K)                                                        \
-  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LUMI_SHIFT_##K value, T* pDst,           \
-                          int dstStep, LumiSize roi) {                                         \
-    return lumi::shiftImpl<T, lumi::L>(pSrc, srcStep, LUMI_SHIFT_ADDR_##K(value), pDst,        \
-                                       dstStep, roi, LEFT);                                    \
+#define LUMI_SHIFT(NAME, LEFT, T, L, K)                                                         \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, LUMI_SHIFT_##K value, T* pDst,            \
+                          int dstStep, LumiSize roi) {                                          \
+    return lumi::shiftImpl<T, lumi::L>(pSrc, srcStep, LUMI_SHIFT_ADDR_##K(value), pDst,         \
+                                       dstStep, roi, LEFT);                                     \
   }
-#define LUMI_SHIFT_I(NAME, LEFT, T, L, K)                                                      \
-  LUMI_API LumStatus NAME(LUMI_SHIFT_##K value, T* pSrcDst, int srcDstStep, LumiSize roi) {    \
-    return lumi::shiftImpl<T, lumi::L>(pSrcDst, srcDstStep, LUMI_SHIFT_ADDR_##K(value),        \
-                                       pSrcDst, srcDstStep, roi, LEFT);                        \
+#define LUMI_SHIFT_I(NAME, LEFT, T, L, K)                                                       \
+  LUMI_API LumStatus NAME(LUMI_SHIFT_##K value, T* pSrcDst, int srcDstStep, LumiSize roi) {     \
+    return lumi::shiftImpl<T, lumi::L>(pSrcDst, srcDstStep, LUMI_SHIFT_ADDR_##K(value),         \
+                                       pSrcDst, srcDstStep, roi, LEFT);                         \
   }
 
 extern "C" {

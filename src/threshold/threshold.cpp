@@ -98,7 +98,7 @@ void runThreshold(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, 
   pickThresholdRows<T>()(thr::elemRows<L>(src, srcStep, nullptr, 0, dst, dstStep, roi), mode, p);
 }
 
-// Every form checks the pointers, the size and the steps first.
+// The images: pointers, then the size, then the steps.
 template <class T>
 LumStatus checkImages(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
   return thr::checkSizeThenSteps(anyNull(src, dst), roi, srcStep, dstStep);
@@ -158,33 +158,33 @@ LumStatus twoSidedImpl(const T* src, int srcStep, T* dst, int dstStep, LumiSize 
 #define LUMI_THR_ARGS_R pSrc, srcStep, pDst, dstStep
 #define LUMI_THR_ARGS_IR p, step, p, step
 
-#define LUMI_CLAMP(NAME, T, L, K, IO)                                                          \
-  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) t,               \
-                          LumCompareOp cmp) {                                                  \
-    return lumi::clampImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(t), cmp);    \
+#define LUMI_CLAMP(NAME, T, L, K, IO)                                                           \
+  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) t,                 \
+                          LumCompareOp cmp) {                                                   \
+    return lumi::clampImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(t), cmp);     \
   }
-#define LUMI_CLAMP_TO(NAME, T, L, K, IO, CMP)                                                  \
-  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) t) {             \
-    return lumi::clampImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(t), CMP);    \
+#define LUMI_CLAMP_TO(NAME, T, L, K, IO, CMP)                                                   \
+  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) t) {               \
+    return lumi::clampImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(t), CMP);     \
   }
-#define LUMI_REPLACE(NAME, T, L, K, IO)                                                        \
-  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) t,               \
-                          LUMI_THR_##K(T) v, LumCompareOp cmp) {                               \
-    return lumi::replaceImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(t),        \
-                                         LUMI_THR_ADDR_##K(v), cmp);                           \
+#define LUMI_REPLACE(NAME, T, L, K, IO)                                                         \
+  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) t,                 \
+                          LUMI_THR_##K(T) v, LumCompareOp cmp) {                                \
+    return lumi::replaceImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(t),         \
+                                         LUMI_THR_ADDR_##K(v), cmp);                            \
   }
-#define LUMI_REPLACE_TO(NAME, T, L, K, IO, CMP)                                                \
-  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) t,               \
-                          LUMI_THR_##K(T) v) {                                                 \
-    return lumi::replaceImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(t),        \
-                                         LUMI_THR_ADDR_##K(v), CMP);                           \
+#define LUMI_REPLACE_TO(NAME, T, L, K, IO, CMP)                                                 \
+  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) t,                 \
+                          LUMI_THR_##K(T) v) {                                                  \
+    return lumi::replaceImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(t),         \
+                                         LUMI_THR_ADDR_##K(v), CMP);                            \
   }
-#define LUMI_TWO_SIDED(NAME, T, L, K, IO)                                                      \
-  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) tLT,             \
-                          LUMI_THR_##K(T) vLT, LUMI_THR_##K(T) tGT, LUMI_THR_##K(T) vGT) {     \
-    return lumi::twoSidedImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(tLT),     \
-                                          LUMI_THR_ADDR_##K(vLT), LUMI_THR_ADDR_##K(tGT),      \
-                                          LUMI_THR_ADDR_##K(vGT));                             \
+#define LUMI_TWO_SIDED(NAME, T, L, K, IO)                                                       \
+  LUMI_API LumStatus NAME(LUMI_THR_IO_##IO(T), LumiSize roi, LUMI_THR_##K(T) tLT,               \
+                          LUMI_THR_##K(T) vLT, LUMI_THR_##K(T) tGT, LUMI_THR_##K(T) vGT) {      \
+    return lumi::twoSidedImpl<T, lumi::L>(LUMI_THR_ARGS_##IO, roi, LUMI_THR_ADDR_##K(tLT),      \
+                                          LUMI_THR_ADDR_##K(vLT), LUMI_THR_ADDR_##K(tGT),       \
+                                          LUMI_THR_ADDR_##K(vGT));                              \
   }
 
 extern "C" {
