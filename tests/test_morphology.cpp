@@ -161,7 +161,7 @@ TEST(Morphology, MaskMatchesDefinition) {
 TEST(Morphology, ThreadedBandsMatchDefinition) {
   const int saved = threads_omp_of_n_lum;
   Element e{{5, 7}, {1, 5}, std::vector<Lum8u>(35, 1)};
-  e.mask[3] = e.mask[17] = 0;  // three column patterns, two of them with a gap
+  e.mask[3] = e.mask[17] = 0;  // column patterns: full, one row short, one with a gap
   for (int threads : {2, 3}) {
     threads_omp_of_n_lum = threads;
     checkElement<Lum8u>(square3x3(), {701, 301}, 0, false, 11);
