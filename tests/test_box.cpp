@@ -3,12 +3,18 @@
 // 32f product; random data with the border pixels supplied, padded steps, guarded buffers, every
 // type and layout, in place against out of place, one and two threads.
 #include <gtest/gtest.h>
+#include <xmmintrin.h>
 
+#include <climits>
 #include <cmath>
 #include <functional>
 
 #include "lumi/filter.h"
 #include "lumitest.h"
+
+#ifdef LUMI_HAVE_OPENCV
+#include <opencv2/imgproc.hpp>
+#endif
 
 using namespace lumitest;
 
@@ -220,6 +226,65 @@ TEST(FilterBox, IntegerPathMultiplierAndBias) {
     }
   }
 }
+
+// 16s rounds to nearest, ties to even, whatever mode the caller left the SSE unit in (the
+// result equals the one in the default mode), and puts the caller's mode back.
+TEST(FilterBox, RoundingIsNearestWhateverTheCallersMode) {
+  Rng rng = makeRng(13);
+  GuardedImage<Lum16s> src(35, 71, 4), dst(34, 70, 4);
+  src.fillRandom(rng);
+  std::vector<Lum16s> nearest;
+  const unsigned saved = _mm_getcsr();
+  for (unsigned mode : {0u, 0x6000u, 0x2000u}) {  // nearest, toward zero, down
+    _mm_setcsr((saved & ~0x6000u) | mode);
+    ASSERT_EQ(lumiFilterBox_16s_C4R(src.ptr(), src.step(), dst.ptr(), dst.step(), dst.roi(), {2, 2}, {0, 0}),
+              lumStatusOk);  // means of four end in .25, .5 or .75
+    EXPECT_EQ(_mm_getcsr() & 0x6000u, mode);
+    _mm_setcsr(saved);
+    if (mode == 0) nearest = dst.pixels();
+    EXPECT_TRUE(sameElements(dst.pixels(), nearest));
+  }
+}
+
+// A mask too large for any scratch block: lumStatusMemAllocErr, nothing read or written.
+TEST(FilterBox, ScratchTooLargeIsMemAllocErr) {
+  GuardedImage<Lum8u> a(4, 4, 1), b(4, 4, 1);
+  EXPECT_EQ(lumiFilterBox_8u_C1R(a.ptr(), a.step(), b.ptr(), b.step(), {4, 4}, {1 << 30, 1}, {0, 0}),
+            lumStatusMemAllocErr);
+  EXPECT_EQ(lumiFilterBox_32f_C4IR(reinterpret_cast<Lum32f*>(a.ptr()), 64, {1, 1}, {INT_MAX, 3}, {5, 1}),
+            lumStatusMemAllocErr);
+  EXPECT_TRUE(b.guardsIntact());
+}
+
+#ifdef LUMI_HAVE_OPENCV
+// OpenCV's box filter as an independent oracle: the mean for 32f, the plain sums (one row or
+// one column of the mask) for the window sums.
+TEST(FilterBox, AgreesWithOpenCV) {
+  cv::Mat src(90, 120, CV_32FC3), src8(90, 120, CV_8UC3);
+  cv::randu(src, -1000.0, 1000.0);
+  cv::randu(src8, 0, 256);
+  const cv::Size mask(7, 5);
+  const cv::Point anchor(2, 3);
+  cv::Mat want, got(90 - 4, 120 - 6, CV_32FC3);
+  cv::boxFilter(src, want, CV_32F, mask, anchor, true, cv::BORDER_ISOLATED);
+  ASSERT_EQ(lumiFilterBox_32f_C3R(src.ptr<Lum32f>(3, 2), static_cast<int>(src.step), got.ptr<Lum32f>(),
+                                  static_cast<int>(got.step), {got.cols, got.rows}, {7, 5}, {2, 3}),
+            lumStatusOk);
+  EXPECT_LE(cv::norm(got, want(cv::Rect(2, 3, got.cols, got.rows)), cv::NORM_INF), 2e-3);
+
+  cv::Mat rowWant, colWant, rowGot(90, 120 - 8, CV_32FC3), colGot(90 - 8, 120, CV_32FC3);
+  cv::boxFilter(src8, rowWant, CV_32F, cv::Size(9, 1), cv::Point(4, 0), false, cv::BORDER_ISOLATED);
+  cv::boxFilter(src8, colWant, CV_32F, cv::Size(1, 9), cv::Point(0, 4), false, cv::BORDER_ISOLATED);
+  ASSERT_EQ(lumiSumWindowRow_8u32f_C3R(src8.ptr(0, 4), static_cast<int>(src8.step), rowGot.ptr<Lum32f>(),
+                                       static_cast<int>(rowGot.step), {rowGot.cols, rowGot.rows}, 9, 4),
+            lumStatusOk);
+  ASSERT_EQ(lumiSumWindowColumn_8u32f_C3R(src8.ptr(4, 0), static_cast<int>(src8.step), colGot.ptr<Lum32f>(),
+                                          static_cast<int>(colGot.step), {colGot.cols, colGot.rows}, 9, 4),
+            lumStatusOk);
+  EXPECT_EQ(cv::norm(rowGot, rowWant(cv::Rect(4, 0, rowGot.cols, rowGot.rows)), cv::NORM_INF), 0.0);
+  EXPECT_EQ(cv::norm(colGot, colWant(cv::Rect(0, 4, colGot.cols, colGot.rows)), cv::NORM_INF), 0.0);
+}
+#endif
 
 TEST(FilterBox, ChecksInOrder) {
   GuardedImage<Lum8u> a(8, 8, 1), b(8, 8, 1);

@@ -12,6 +12,8 @@
 #include <cstdint>
 #include <type_traits>
 
+#include <xmmintrin.h>
+
 #include "core/frame.h"
 
 namespace lumi {
@@ -110,7 +112,11 @@ inline T normalise(A sum, const BoxScale& sc) {
     const float v = sum * sc.r;  // sums are never negative
     return v >= 255.0f ? Lum8u{255} : static_cast<Lum8u>(static_cast<int>(v));
   } else if constexpr (std::is_same_v<T, Lum16s>) {
-    return saturate<Lum16s>(std::lrintf(static_cast<float>(sum) * sc.r));  // caller holds nearest
+    // the SSE conversion, in the rounding mode the caller holds at nearest (ties to even)
+    const float v = static_cast<float>(sum) * sc.r;
+    if (v >= 32767.0f) return 32767;
+    if (v <= -32768.0f) return -32768;
+    return static_cast<Lum16s>(_mm_cvtss_si32(_mm_set_ss(v)));
   } else {
     return sum * sc.r;
   }
