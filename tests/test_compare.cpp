@@ -33,23 +33,23 @@ struct CmpCase {
   CmpCall<T> call;
 };
 
-#define CMP_CALL(expr) \
+#define CMP_CALL(expr)                                                             \
   [](const T* a, int as, const T* b, int bs, Lum8u* d, int ds, LumiSize r, int op, \
      float eps) -> LumStatus { return expr; }
 
-#define CMP_LAYOUT(tc, L, LAY, X)                                                           \
-  out.push_back({"Compare_" #tc "_" #L "R", LAY, false, false,                               \
-                 CMP_CALL(lumiCompare_##tc##_##L##R(a, as, b, bs, d, ds, r, op))});              \
-  out.push_back({"CompareC_" #tc "_" #L "R", LAY, true, false,                               \
+#define CMP_LAYOUT(tc, L, LAY, X)                                                   \
+  out.push_back({"Compare_" #tc "_" #L "R", LAY, false, false,                      \
+                 CMP_CALL(lumiCompare_##tc##_##L##R(a, as, b, bs, d, ds, r, op))}); \
+  out.push_back({"CompareC_" #tc "_" #L "R", LAY, true, false,                      \
                  CMP_CALL(lumiCompareC_##tc##_##L##R(a, as, X(b), d, ds, r, op))});
 
-#define CMP_EPS(L, LAY, X)                                                                  \
-  out.push_back({"CompareEqualEps_32f_" #L "R", LAY, false, true,                            \
-                 CMP_CALL(lumiCompareEqualEps_32f_##L##R(a, as, b, bs, d, ds, r, eps))});        \
-  out.push_back({"CompareEqualEpsC_32f_" #L "R", LAY, true, true,                            \
+#define CMP_EPS(L, LAY, X)                                                                \
+  out.push_back({"CompareEqualEps_32f_" #L "R", LAY, false, true,                         \
+                 CMP_CALL(lumiCompareEqualEps_32f_##L##R(a, as, b, bs, d, ds, r, eps))}); \
+  out.push_back({"CompareEqualEpsC_32f_" #L "R", LAY, true, true,                         \
                  CMP_CALL(lumiCompareEqualEpsC_32f_##L##R(a, as, X(b), d, ds, r, eps))});
 
-#define CMP_TYPE(tc)                                                                  \
+#define CMP_TYPE(tc)                                                               \
   CMP_LAYOUT(tc, C1, kC1, S) CMP_LAYOUT(tc, C3, kC3, A) CMP_LAYOUT(tc, C4, kC4, A) \
   CMP_LAYOUT(tc, AC4, kAC4, A)
 
@@ -212,26 +212,26 @@ struct LogCase {
 
 #define LOG_CALL(expr) [](const T* a, int as, const T* b, T* d, int ds, LumiSize r) -> LumStatus { return expr; }
 
-#define LOG_LAYOUT(Op, K, tc, L, LAY, X)                                                      \
-  out.push_back({#Op "_" #tc "_" #L "R", LAY, K, false, false,                                 \
-                 LOG_CALL(lumi##Op##_##tc##_##L##R(a, as, d, ds, d, ds, r))});                     \
-  out.push_back({#Op "_" #tc "_" #L "IR", LAY, K, false, true,                                 \
-                 LOG_CALL(lumi##Op##_##tc##_##L##IR(a, as, d, ds, r))});                           \
-  out.push_back({#Op "C_" #tc "_" #L "R", LAY, K, true, false,                                 \
-                 LOG_CALL(lumi##Op##C_##tc##_##L##R(a, as, X(b), d, ds, r))});                     \
-  out.push_back({#Op "C_" #tc "_" #L "IR", LAY, K, true, true,                                 \
+#define LOG_LAYOUT(Op, K, tc, L, LAY, X)                                       \
+  out.push_back({#Op "_" #tc "_" #L "R", LAY, K, false, false,                 \
+                 LOG_CALL(lumi##Op##_##tc##_##L##R(a, as, d, ds, d, ds, r))}); \
+  out.push_back({#Op "_" #tc "_" #L "IR", LAY, K, false, true,                 \
+                 LOG_CALL(lumi##Op##_##tc##_##L##IR(a, as, d, ds, r))});       \
+  out.push_back({#Op "C_" #tc "_" #L "R", LAY, K, true, false,                 \
+                 LOG_CALL(lumi##Op##C_##tc##_##L##R(a, as, X(b), d, ds, r))}); \
+  out.push_back({#Op "C_" #tc "_" #L "IR", LAY, K, true, true,                 \
                  LOG_CALL(lumi##Op##C_##tc##_##L##IR(X(b), d, ds, r))});
 
-#define LOG_OPS(tc, L, LAY, X)                                                     \
-  LOG_LAYOUT(And, kAnd, tc, L, LAY, X)                                             \
+#define LOG_OPS(tc, L, LAY, X)         \
+  LOG_LAYOUT(And, kAnd, tc, L, LAY, X) \
   LOG_LAYOUT(Or, kOr, tc, L, LAY, X) LOG_LAYOUT(Xor, kXor, tc, L, LAY, X)
 #define LOG_TYPE(tc) \
   LOG_OPS(tc, C1, kC1, S) LOG_OPS(tc, C3, kC3, A) LOG_OPS(tc, C4, kC4, A) LOG_OPS(tc, AC4, kAC4, A)
 
-#define NOT_LAYOUT(L, LAY)                                                                   \
-  out.push_back({"Not_8u_" #L "R", LAY, kNot, true, false,                                    \
-                 LOG_CALL(lumiNot_8u_##L##R(a, as, d, ds, r))});                                  \
-  out.push_back({"Not_8u_" #L "IR", LAY, kNot, true, true,                                    \
+#define NOT_LAYOUT(L, LAY)                                       \
+  out.push_back({"Not_8u_" #L "R", LAY, kNot, true, false,       \
+                 LOG_CALL(lumiNot_8u_##L##R(a, as, d, ds, r))}); \
+  out.push_back({"Not_8u_" #L "IR", LAY, kNot, true, true,       \
                  LOG_CALL(lumiNot_8u_##L##IR(d, ds, r))});
 
 template <class T>
@@ -338,13 +338,13 @@ struct ShCase {
 };
 
 #define SH_CALL(expr) [](const T* s, int ss, const Lum32u* n, T* d, int ds, LumiSize r) -> LumStatus { return expr; }
-#define SH_LAYOUT(Op, LEFT, tc, L, LAY, X)                                                   \
-  out.push_back({#Op "_" #tc "_" #L "R", LAY, LEFT, false,                                    \
-                 SH_CALL(lumi##Op##_##tc##_##L##R(s, ss, X(n), d, ds, r))});                      \
-  out.push_back({#Op "_" #tc "_" #L "IR", LAY, LEFT, true,                                    \
+#define SH_LAYOUT(Op, LEFT, tc, L, LAY, X)                                   \
+  out.push_back({#Op "_" #tc "_" #L "R", LAY, LEFT, false,                   \
+                 SH_CALL(lumi##Op##_##tc##_##L##R(s, ss, X(n), d, ds, r))}); \
+  out.push_back({#Op "_" #tc "_" #L "IR", LAY, LEFT, true,                   \
                  SH_CALL(lumi##Op##_##tc##_##L##IR(X(n), d, ds, r))});
-#define SH_OP(Op, LEFT, tc)                                                                \
-  SH_LAYOUT(Op, LEFT, tc, C1, kC1, S) SH_LAYOUT(Op, LEFT, tc, C3, kC3, A)               \
+#define SH_OP(Op, LEFT, tc)                                               \
+  SH_LAYOUT(Op, LEFT, tc, C1, kC1, S) SH_LAYOUT(Op, LEFT, tc, C3, kC3, A) \
   SH_LAYOUT(Op, LEFT, tc, C4, kC4, A) SH_LAYOUT(Op, LEFT, tc, AC4, kAC4, A)
 
 template <class T>

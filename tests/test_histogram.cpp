@@ -29,22 +29,22 @@ struct EvenFn {
 
 #define RANGE_FNS(TT, T, P)                                                                  \
   std::vector<RangeFn<T, P>> {                                                               \
-    {kC1, "Range_" #TT "_C1",                                                           \
+    {kC1, "Range_" #TT "_C1",                                                                \
      [](const T* s, int ss, LumiSize r, Lum32s* const* h, const P* const* l, const int* n) { \
        return lumiHistogramRange_##TT##_C1R(s, ss, r, h[0], l[0], n[0]);                     \
      }},                                                                                     \
-        {kC3, "Range_" #TT "_C3", lumiHistogramRange_##TT##_C3R},                      \
-        {kC4, "Range_" #TT "_C4", lumiHistogramRange_##TT##_C4R},                      \
+        {kC3, "Range_" #TT "_C3", lumiHistogramRange_##TT##_C3R},                            \
+        {kC4, "Range_" #TT "_C4", lumiHistogramRange_##TT##_C4R},                            \
         {kAC4, "Range_" #TT "_AC4", lumiHistogramRange_##TT##_AC4R}}
-#define EVEN_FNS(TT, T)                                                                      \
-  std::vector<EvenFn<T>> {                                                                   \
-    {kC1, "Even_" #TT "_C1",                                                            \
-     [](const T* s, int ss, LumiSize r, Lum32s* const* h, Lum32s* const* l, const int* n,    \
-        const Lum32s* lo, const Lum32s* hi) {                                                \
-       return lumiHistogramEven_##TT##_C1R(s, ss, r, h[0], l[0], n[0], lo[0], hi[0]);        \
-     }},                                                                                     \
-        {kC3, "Even_" #TT "_C3", lumiHistogramEven_##TT##_C3R},                        \
-        {kC4, "Even_" #TT "_C4", lumiHistogramEven_##TT##_C4R},                        \
+#define EVEN_FNS(TT, T)                                                                   \
+  std::vector<EvenFn<T>> {                                                                \
+    {kC1, "Even_" #TT "_C1",                                                              \
+     [](const T* s, int ss, LumiSize r, Lum32s* const* h, Lum32s* const* l, const int* n, \
+        const Lum32s* lo, const Lum32s* hi) {                                             \
+       return lumiHistogramEven_##TT##_C1R(s, ss, r, h[0], l[0], n[0], lo[0], hi[0]);     \
+     }},                                                                                  \
+        {kC3, "Even_" #TT "_C3", lumiHistogramEven_##TT##_C3R},                           \
+        {kC4, "Even_" #TT "_C4", lumiHistogramEven_##TT##_C4R},                           \
         {kAC4, "Even_" #TT "_AC4", lumiHistogramEven_##TT##_AC4R}}
 
 template <class T>

@@ -38,12 +38,12 @@ auto one(LumStatus (*f)(T*, int, LumiSize, const P*, const P*, int)) {
 }
 #define LAYOUT_FN(OP, K, TT, L, LAY) \
   {K, LAY, #OP "_" #TT "_" #L, lumi##OP##_##TT##_##L##R, lumi##OP##_##TT##_##L##IR}
-#define KIND_FNS(OP, K, TT)                                                                  \
+#define KIND_FNS(OP, K, TT)                                                             \
   {K, kC1, #OP "_" #TT "_C1", one(lumi##OP##_##TT##_C1R), one(lumi##OP##_##TT##_C1IR)}, \
-      LAYOUT_FN(OP, K, TT, C3, kC3), LAYOUT_FN(OP, K, TT, C4, kC4),                \
+      LAYOUT_FN(OP, K, TT, C3, kC3), LAYOUT_FN(OP, K, TT, C4, kC4),                     \
       LAYOUT_FN(OP, K, TT, AC4, kAC4)
-#define TYPE_FNS(TT, T, P)                                                                    \
-  std::vector<LutFn<T, P>> {                                                                  \
+#define TYPE_FNS(TT, T, P)                                                                       \
+  std::vector<LutFn<T, P>> {                                                                     \
     KIND_FNS(LUT, kStep, TT), KIND_FNS(LUT_Linear, kLinear, TT), KIND_FNS(LUT_Cubic, kCubic, TT) \
   }
 

@@ -54,26 +54,26 @@ T expected(Kind kind, int cmp, T x, T t1, T v1, T t2, T v2) {
                         const T* t2, const T* v2, int cmp) -> LumStatus { return expr; }
 
 // One out-of-place and one in-place form of an operation, with the same trailing arguments.
-#define THR_FORMS(OP, K, tc, L, LAY, ...)                                                     \
-  out.push_back({#OP "_" #tc "_" #L "R", K, LAY, false,                                       \
-                 R_CALL(lumi##OP##_##tc##_##L##R(s, ss, d, ds, r, __VA_ARGS__))});                \
-  out.push_back({#OP "_" #tc "_" #L "IR", K, LAY, true,                                       \
+#define THR_FORMS(OP, K, tc, L, LAY, ...)                                          \
+  out.push_back({#OP "_" #tc "_" #L "R", K, LAY, false,                            \
+                 R_CALL(lumi##OP##_##tc##_##L##R(s, ss, d, ds, r, __VA_ARGS__))}); \
+  out.push_back({#OP "_" #tc "_" #L "IR", K, LAY, true,                            \
                  R_CALL(lumi##OP##_##tc##_##L##IR(d, ds, r, __VA_ARGS__))});
 
-#define THR_LAYOUT(tc, L, LAY, X)                                                            \
-  THR_FORMS(Threshold, kClamp, tc, L, LAY, X(t1), cmp)                                        \
-  THR_FORMS(Threshold_GT, kGT, tc, L, LAY, X(t1))                                             \
-  THR_FORMS(Threshold_LT, kLT, tc, L, LAY, X(t1))                                             \
-  THR_FORMS(Threshold_Val, kVal, tc, L, LAY, X(t1), X(v1), cmp)                               \
-  THR_FORMS(Threshold_GTVal, kGTVal, tc, L, LAY, X(t1), X(v1))                                \
-  THR_FORMS(Threshold_LTVal, kLTVal, tc, L, LAY, X(t1), X(v1))                                \
+#define THR_LAYOUT(tc, L, LAY, X)                               \
+  THR_FORMS(Threshold, kClamp, tc, L, LAY, X(t1), cmp)          \
+  THR_FORMS(Threshold_GT, kGT, tc, L, LAY, X(t1))               \
+  THR_FORMS(Threshold_LT, kLT, tc, L, LAY, X(t1))               \
+  THR_FORMS(Threshold_Val, kVal, tc, L, LAY, X(t1), X(v1), cmp) \
+  THR_FORMS(Threshold_GTVal, kGTVal, tc, L, LAY, X(t1), X(v1))  \
+  THR_FORMS(Threshold_LTVal, kLTVal, tc, L, LAY, X(t1), X(v1))  \
   THR_FORMS(Threshold_LTValGTVal, kTwoSided, tc, L, LAY, X(t1), X(v1), X(t2), X(v2))
 
-#define THR_TYPE(tc)                                                                              \
-  THR_LAYOUT(tc, C1, kC1, S)                                                                     \
-  THR_LAYOUT(tc, C3, kC3, A)                                                                     \
-  THR_LAYOUT(tc, AC4, kAC4, A)                                                                    \
-  THR_FORMS(Threshold_GTVal, kGTVal, tc, C4, kC4, t1, v1)                                        \
+#define THR_TYPE(tc)                                      \
+  THR_LAYOUT(tc, C1, kC1, S)                              \
+  THR_LAYOUT(tc, C3, kC3, A)                              \
+  THR_LAYOUT(tc, AC4, kAC4, A)                            \
+  THR_FORMS(Threshold_GTVal, kGTVal, tc, C4, kC4, t1, v1) \
   THR_FORMS(Threshold_LTVal, kLTVal, tc, C4, kC4, t1, v1)
 
 template <class T>
