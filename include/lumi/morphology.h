@@ -15,7 +15,6 @@
 extern "C" {
 #endif
 
-
 /* Erode3x3: the minimum of the 3x3 neighbourhood; the source is read from one row above and one
  * pixel left of pSrc, (roi.width + 2) x (roi.height + 2) pixels (src/filter/morphology.cpp). */
 LUMI_API LumStatus lumiErode3x3_8u_C1R(const Lum8u* pSrc, int srcStep, Lum8u* pDst, int dstStep, LumiSize dstRoiSize);
