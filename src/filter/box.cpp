@@ -118,25 +118,53 @@ void pixelRow(const A* HWY_RESTRICT col, T* HWY_RESTRICT dst, int width, int mw,
   }
 }
 
-// One-channel 8u rows of wide masks: prefix sums of the column sums (128-bit scans carried from
-// vector to vector), then S(x) = P(x + mw) - P(x). The prefix sums wrap modulo 2^bits of the
+// One-channel 8u rows of wide masks: prefix sums of the column sums (scans carried from vector
+// to vector), then S(x) = P(x + mw) - P(x). The prefix sums wrap modulo 2^bits of the
 // lane, and the differences of sums below 2^bits are still exact.
 template <class A>
 void prefixRow(const A* HWY_RESTRICT col, Lum8u* HWY_RESTRICT dst, int width, int mw,
                const box::BoxScale& sc, A* HWY_RESTRICT work) {
-  const hn::Full128<A> d4;
-  constexpr std::ptrdiff_t N4 = 16 / sizeof(A);
   const std::ptrdiff_t ext = static_cast<std::ptrdiff_t>(width) + mw - 1;
   work[0] = 0;
-  auto carry = hn::Zero(d4);
-  for (std::ptrdiff_t i = 0; i < ext; i += N4) {
-    auto v = hn::LoadU(d4, col + i);
-    v = hn::Add(v, hn::ShiftLeftLanes<1>(d4, v));
-    v = hn::Add(v, hn::ShiftLeftLanes<2>(d4, v));
-    if constexpr (N4 == 8) v = hn::Add(v, hn::ShiftLeftLanes<4>(d4, v));
-    v = hn::Add(v, carry);
-    hn::StoreU(v, d4, work + 1 + i);
-    carry = hn::Broadcast<N4 - 1>(v);
+  if constexpr (sizeof(A) == 4) {
+    // 32-bit sums use whole vectors: a scan inside each 128-bit block, then the totals of the
+    // blocks below added in (one step per doubling of the block count), then the carry, which
+    // grows by one addition per vector.
+    const hn::ScalableTag<A> d;
+    const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
+    HWY_ALIGN int32_t up4[hn::MaxLanes(d)], up8[hn::MaxLanes(d)], last[hn::MaxLanes(d)];
+    for (std::ptrdiff_t j = 0; j < N; ++j) {
+      up4[j] = static_cast<int32_t>(j >= 4 ? j - 4 : 0);
+      up8[j] = static_cast<int32_t>(j >= 8 ? j - 8 : 0);
+      last[j] = static_cast<int32_t>(N - 1);
+    }
+    const auto i4 = hn::SetTableIndices(d, up4), i8 = hn::SetTableIndices(d, up8);
+    const auto il = hn::SetTableIndices(d, last);
+    const auto below4 = hn::FirstN(d, 4), below8 = hn::FirstN(d, 8);
+    auto carry = hn::Zero(d);
+    for (std::ptrdiff_t i = 0; i < ext; i += N) {
+      auto v = hn::LoadU(d, col + i);
+      v = hn::Add(v, hn::ShiftLeftLanes<1>(d, v));
+      v = hn::Add(v, hn::ShiftLeftLanes<2>(d, v));
+      if (N > 4) v = hn::Add(v, hn::IfThenZeroElse(below4, hn::TableLookupLanes(hn::Broadcast<3>(v), i4)));
+      if (N > 8) v = hn::Add(v, hn::IfThenZeroElse(below8, hn::TableLookupLanes(hn::Broadcast<3>(v), i8)));
+      const auto total = hn::TableLookupLanes(v, il);  // off the carry's dependency chain
+      hn::StoreU(hn::Add(v, carry), d, work + 1 + i);
+      carry = hn::Add(carry, total);
+    }
+  } else {
+    const hn::Full128<A> d4;
+    constexpr std::ptrdiff_t N4 = 16 / sizeof(A);
+    auto carry = hn::Zero(d4);
+    for (std::ptrdiff_t i = 0; i < ext; i += N4) {
+      auto v = hn::LoadU(d4, col + i);
+      v = hn::Add(v, hn::ShiftLeftLanes<1>(d4, v));
+      v = hn::Add(v, hn::ShiftLeftLanes<2>(d4, v));
+      v = hn::Add(v, hn::ShiftLeftLanes<4>(d4, v));
+      const auto total = hn::Broadcast<N4 - 1>(v);
+      hn::StoreU(hn::Add(v, carry), d4, work + 1 + i);
+      carry = hn::Add(carry, total);
+    }
   }
   const hn::ScalableTag<A> da;
   const hn::Rebind<Lum8u, decltype(da)> dt;
