@@ -1,8 +1,8 @@
 // Window sums as 32-bit floats, without division: maskSize pixels per channel along the row or
-// down the column, starting anchor pixels before the destination pixel. The sums are running
-// sums kept in 32-bit integers (moved on by the entering pixel minus the leaving one) and
-// converted once per destination pixel, so every sum is the exact integer sum rounded once to
-// single precision.
+// down the column, starting anchor pixels before the destination pixel. The first window is
+// summed in integers; each later one adds the entering pixel minus the leaving one, a
+// difference taken in integers, to the running single-precision sum. While the sums stay below
+// 2^24 (any 8u mask up to 65793 pixels) every result is the exact sum.
 #include "core/frame.h"
 #include "lumi/filter.h"
 
@@ -10,11 +10,10 @@ namespace lumi {
 namespace window {
 namespace {
 
-// Wrapping 32-bit integer arithmetic: masks of more than 65536 extreme 16s values are the
-// caller's to avoid, as for the box filter.
-inline int32_t slide(int32_t sum, int32_t in, int32_t out) {
-  return static_cast<int32_t>(static_cast<uint32_t>(sum) +
-                              (static_cast<uint32_t>(in) - static_cast<uint32_t>(out)));
+// The first window's integer sum wraps modulo 2^32: masks of more than 65536 extreme 16s
+// values are the caller's to avoid, as for the box filter.
+inline int32_t add(int32_t sum, int32_t v) {
+  return static_cast<int32_t>(static_cast<uint32_t>(sum) + static_cast<uint32_t>(v));
 }
 
 template <class T>
@@ -40,12 +39,13 @@ LumStatus rowImpl(const T* src, int srcStep, Lum32f* dst, int dstStep, LumiSize 
     const T* s = rowAt(src, srcStep, y) - lead;
     Lum32f* d = rowAt(dst, dstStep, y);
     for (int c = 0; c < kCh && roi.width > 0; ++c) {
-      int32_t sum = 0;
-      for (int k = 0; k < mask; ++k) sum = slide(sum, s[elemsOf(k, kCh) + c], 0);
-      d[c] = static_cast<Lum32f>(sum);
+      int32_t first = 0;
+      for (int k = 0; k < mask; ++k) first = add(first, s[elemsOf(k, kCh) + c]);
+      Lum32f sum = static_cast<Lum32f>(first);
+      d[c] = sum;
       for (int x = 1; x < roi.width; ++x) {
-        sum = slide(sum, s[elemsOf(x + mask - 1, kCh) + c], s[elemsOf(x - 1, kCh) + c]);
-        d[elemsOf(x, kCh) + c] = static_cast<Lum32f>(sum);
+        sum += static_cast<Lum32f>(s[elemsOf(x + mask - 1, kCh) + c] - s[elemsOf(x - 1, kCh) + c]);
+        d[elemsOf(x, kCh) + c] = sum;
       }
     }
   }
@@ -62,23 +62,25 @@ LumStatus columnImpl(const T* src, int srcStep, Lum32f* dst, int dstStep, LumiSi
   dstStep = wholeElements<Lum32f>(dstStep);
   if (roi.height < 1 || roi.width < 1) return lumStatusOk;
   constexpr std::ptrdiff_t kStrip = 256 * kCh;
-  int32_t sum[kStrip];
-  const T* first = rowAt(src, srcStep, -anchor);
+  int32_t first[kStrip];
+  Lum32f sum[kStrip];
+  const T* top = rowAt(src, srcStep, -anchor);
   const std::ptrdiff_t n = elemsOf(roi.width, kCh);
   for (std::ptrdiff_t i0 = 0; i0 < n; i0 += kStrip) {
     const std::ptrdiff_t len = n - i0 < kStrip ? n - i0 : kStrip;
-    for (std::ptrdiff_t i = 0; i < len; ++i) sum[i] = 0;
+    for (std::ptrdiff_t i = 0; i < len; ++i) first[i] = 0;
     for (int k = 0; k < mask; ++k) {
-      const T* s = rowAt(first, srcStep, k) + i0;
-      for (std::ptrdiff_t i = 0; i < len; ++i) sum[i] = slide(sum[i], s[i], 0);
+      const T* s = rowAt(top, srcStep, k) + i0;
+      for (std::ptrdiff_t i = 0; i < len; ++i) first[i] = add(first[i], s[i]);
     }
+    for (std::ptrdiff_t i = 0; i < len; ++i) sum[i] = static_cast<Lum32f>(first[i]);
     for (int y = 0; y < roi.height; ++y) {
       Lum32f* d = rowAt(dst, dstStep, y) + i0;
       for (std::ptrdiff_t i = 0; i < len; ++i) d[i] = static_cast<Lum32f>(sum[i]);
       if (y + 1 == roi.height) break;
-      const T* in = rowAt(first, srcStep, y + mask) + i0;
-      const T* out = rowAt(first, srcStep, y) + i0;
-      for (std::ptrdiff_t i = 0; i < len; ++i) sum[i] = slide(sum[i], in[i], out[i]);
+      const T* in = rowAt(top, srcStep, y + mask) + i0;
+      const T* out = rowAt(top, srcStep, y) + i0;
+      for (std::ptrdiff_t i = 0; i < len; ++i) sum[i] += static_cast<Lum32f>(in[i] - out[i]);
     }
   }
   return lumStatusOk;
