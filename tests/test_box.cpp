@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 #include <xmmintrin.h>
 
+#include <array>
 #include <climits>
 #include <cmath>
-#include <functional>
 
 #include "lumi/filter.h"
 #include "lumitest.h"
@@ -31,17 +31,15 @@ class ThreadCount {  // sets threads_omp_of_n_lum for one test and puts it back
 
 template <class T>
 struct Box {
-  using R = LumStatus (*)(const T*, int, T*, int, LumiSize, LumiSize, LumiPoint);
-  using IR = LumStatus (*)(T*, int, LumiSize, LumiSize, LumiPoint);
-  R r[4];
-  IR ir[4];
+  LumStatus (*r[4])(const T*, int, T*, int, LumiSize, LumiSize, LumiPoint);
+  LumStatus (*ir[4])(T*, int, LumiSize, LumiSize, LumiPoint);
 };
-const Box<Lum8u> kBox8u{{lumiFilterBox_8u_C1R, lumiFilterBox_8u_C3R, lumiFilterBox_8u_C4R, lumiFilterBox_8u_AC4R},
-                        {lumiFilterBox_8u_C1IR, lumiFilterBox_8u_C3IR, lumiFilterBox_8u_C4IR, lumiFilterBox_8u_AC4IR}};
-const Box<Lum16s> kBox16s{{lumiFilterBox_16s_C1R, lumiFilterBox_16s_C3R, lumiFilterBox_16s_C4R, lumiFilterBox_16s_AC4R},
-                          {lumiFilterBox_16s_C1IR, lumiFilterBox_16s_C3IR, lumiFilterBox_16s_C4IR, lumiFilterBox_16s_AC4IR}};
-const Box<Lum32f> kBox32f{{lumiFilterBox_32f_C1R, lumiFilterBox_32f_C3R, lumiFilterBox_32f_C4R, lumiFilterBox_32f_AC4R},
-                          {lumiFilterBox_32f_C1IR, lumiFilterBox_32f_C3IR, lumiFilterBox_32f_C4IR, lumiFilterBox_32f_AC4IR}};
+#define BOX_FNS(t)                                                                                       \
+  {{lumiFilterBox_##t##_C1R, lumiFilterBox_##t##_C3R, lumiFilterBox_##t##_C4R, lumiFilterBox_##t##_AC4R}, \
+   {lumiFilterBox_##t##_C1IR, lumiFilterBox_##t##_C3IR, lumiFilterBox_##t##_C4IR, lumiFilterBox_##t##_AC4IR}}
+const Box<Lum8u> kBox8u BOX_FNS(8u);
+const Box<Lum16s> kBox16s BOX_FNS(16s);
+const Box<Lum32f> kBox32f BOX_FNS(32f);
 template <class T> const Box<T>& boxFns();
 template <> const Box<Lum8u>& boxFns() { return kBox8u; }
 template <> const Box<Lum16s>& boxFns() { return kBox16s; }
@@ -174,7 +172,7 @@ void randomCases(int maxMask, int rounds) {
 TEST(FilterBox, MatchesTheFormula8u) { randomCases<Lum8u>(9, 12); }
 TEST(FilterBox, MatchesTheFormula16s) { randomCases<Lum16s>(9, 9); }
 TEST(FilterBox, MatchesTheFormula32f) { randomCases<Lum32f>(9, 9); }
-TEST(FilterBox, WideAndTallMasks) {  // long running sums, the vector kernels' wide-mask routes
+TEST(FilterBox, WideTallAndOnePixelMasks) {  // long running sums, the wide-mask routes
   for (int li = 0; li < 4; ++li) {
     checkBox<Lum8u>({37, 5, {31, 3}, {30, 1}}, li, 5);
     checkBox<Lum8u>({70, 66, {31, 31}, {15, 15}}, li, 6);
@@ -182,29 +180,20 @@ TEST(FilterBox, WideAndTallMasks) {  // long running sums, the vector kernels' w
     checkBox<Lum8u>({21, 3, {95, 90}, {40, 89}}, li, 12);  // float path
     checkBox<Lum16s>({23, 6, {40, 2}, {0, 1}}, li, 7);
     checkBox<Lum32f>({29, 4, {33, 5}, {16, 4}}, li, 8);
-  }
-}
-TEST(FilterBox, OnePixelMaskCopies) {
-  for (int li = 0; li < 4; ++li) {
-    checkBox<Lum8u>({17, 3, {1, 1}, {0, 0}}, li, 9);
+    checkBox<Lum8u>({17, 3, {1, 1}, {0, 0}}, li, 9);  // a one-pixel mask copies
     checkBox<Lum16s>({17, 3, {1, 1}, {0, 0}}, li, 9);
     checkBox<Lum32f>({17, 3, {1, 1}, {0, 0}}, li, 9);
   }
 }
-
 // The multiplier rule's published pairs, and sums that its +1 bias rounds up.
 TEST(FilterBox, IntegerPathMultiplierAndBias) {
-  uint32_t m;
-  int s;
-  refScale(9, &m, &s);
-  EXPECT_EQ(m, 3641u);
-  EXPECT_EQ(s, 15);
-  refScale(25, &m, &s);
-  EXPECT_EQ(m, 2622u);
-  EXPECT_EQ(s, 16);
-  refScale(8100, &m, &s);
-  EXPECT_EQ(m, 2072u);
-  EXPECT_EQ(s, 24);
+  for (auto k : {std::array<int, 3>{9, 3641, 15}, {25, 2622, 16}, {8100, 2072, 24}}) {
+    uint32_t m;
+    int s;
+    refScale(k[0], &m, &s);
+    EXPECT_EQ(m, static_cast<uint32_t>(k[1]));
+    EXPECT_EQ(s, k[2]);
+  }
   struct Sum {
     int mw, mh, sum, want;
   };
