@@ -31,19 +31,6 @@ HWY_INLINE bool Owns(const RowPattern<T>* pat, size_t off) {
   return !pat || !pat->masked || static_cast<int>(off % pat->period) < pat->use;
 }
 
-// colourLanes() for a vector whose first element is element `first` of the pattern cycle of
-// a masked row: lane j is a colour lane unless unit (first + j) >> unitShift is the fourth of
-// its pixel. Candidate for src/core (alpha-inl.h): vectors of fewer lanes than a pixel, or
-// of complex elements, cannot use colourLanes() as it stands.
-template <class D>
-HWY_INLINE hn::Mask<D> colourLanesAt(D d, size_t first, int unitShift) {
-  const hn::RebindToUnsigned<D> du;
-  using U = hn::TFromD<decltype(du)>;
-  const U phase = static_cast<U>(first & ((size_t{4} << unitShift) - 1));
-  const auto unit = hn::ShiftRightSame(hn::Add(hn::Iota(du, U{0}), hn::Set(du, phase)), unitShift);
-  return hn::RebindMask(d, hn::Ne(hn::And(unit, hn::Set(du, U{3})), hn::Set(du, U{3})));
-}
-
 // Stores v at p; a masked row leaves the elements the pattern does not own untouched.
 template <class D, class T, class Masked>
 HWY_INLINE void StoreOwned(D d, hn::Vec<D> v, T* HWY_RESTRICT p, const RowPattern<T>* pat,

@@ -4,7 +4,6 @@
 #pragma once
 
 #include "core/frame.h"
-#include "convert/rows.h"
 
 #include <cstddef>
 #include <cstdint>

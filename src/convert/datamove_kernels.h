@@ -6,7 +6,6 @@
 #pragma once
 
 #include "core/frame.h"
-#include "convert/rows.h"
 
 #include <cstdint>
 #include <cstring>

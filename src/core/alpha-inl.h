@@ -19,13 +19,23 @@ HWY_BEFORE_NAMESPACE();
 namespace lumi {
 namespace HWY_NAMESPACE {
 
+// The colour lanes of a vector whose first lane is element `first` of a row, where an element
+// unit of 2^unitShift lanes makes one channel (1 for the two floats of a complex channel, or
+// for narrow elements carried in double-width lanes): lane j is colour unless unit
+// (first + j) >> unitShift is the fourth of its pixel. Vectors of fewer lanes than a pixel
+// start at any element; the others start on a pixel and use colourLanes(d).
 template <class D>
-HWY_INLINE hwy::HWY_NAMESPACE::Mask<D> colourLanes(D d) {
+HWY_INLINE hwy::HWY_NAMESPACE::Mask<D> colourLanesAt(D d, size_t first, int unitShift) {
   namespace hn = hwy::HWY_NAMESPACE;
   const hn::RebindToUnsigned<D> du;
   using U = hn::TFromD<decltype(du)>;
-  const auto lane = hn::Iota(du, U{0});
-  return hn::RebindMask(d, hn::Ne(hn::And(lane, hn::Set(du, U{3})), hn::Set(du, U{3})));
+  const U phase = static_cast<U>(first & ((size_t{4} << unitShift) - 1));
+  const auto unit = hn::ShiftRightSame(hn::Add(hn::Iota(du, U{0}), hn::Set(du, phase)), unitShift);
+  return hn::RebindMask(d, hn::Ne(hn::And(unit, hn::Set(du, U{3})), hn::Set(du, U{3})));
+}
+template <class D>
+HWY_INLINE hwy::HWY_NAMESPACE::Mask<D> colourLanes(D d) {
+  return colourLanesAt(d, 0, 0);
 }
 
 // Stores v at p: every lane when keepAlpha is false, else only the colour lanes.

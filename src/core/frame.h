@@ -79,6 +79,13 @@ inline LumiSize coalesceRows(LumiSize roi, std::ptrdiff_t pixelBytes, S... steps
   return LumiSize{static_cast<int>(total), 1};
 }
 
+// coalesceRows for two groups of images whose pixels differ in size (a source and a
+// destination of other element types or layouts, or images and a byte mask): a and b are what
+// coalesceRows gives for each group, and the ROI is one long row only when both are.
+inline LumiSize coalesceBoth(LumiSize roi, LumiSize a, LumiSize b) {
+  return a.height == b.height ? a : roi;
+}
+
 // ---- validation --------------------------------------------------------------------------
 template <class... P>
 inline bool anyNull(const P*... p) {
@@ -88,6 +95,13 @@ inline bool badSize(LumiSize r) { return r.width < 1 || r.height < 1; }
 template <class... S>
 inline bool badStep(S... s) {
   return ((s < 1) || ...);
+}
+
+// The checks nearly every call makes first, in this order: pointers, then the ROI size.
+template <class... P>
+inline LumStatus checkPointersSize(LumiSize roi, const P*... p) {
+  if (anyNull(p...)) return lumStatusNullPtrErr;
+  return badSize(roi) ? lumStatusSizeErr : lumStatusOk;
 }
 
 // ---- status composition of row-composed functions ---------------------------------------
