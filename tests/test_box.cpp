@@ -180,6 +180,8 @@ TEST(FilterBox, WideTallAndOnePixelMasks) {  // long running sums, the wide-mask
     checkBox<Lum8u>({21, 3, {95, 90}, {40, 89}}, li, 12);  // float path
     checkBox<Lum16s>({23, 6, {40, 2}, {0, 1}}, li, 7);
     checkBox<Lum32f>({29, 4, {33, 5}, {16, 4}}, li, 8);
+    checkBox<Lum16s>({1, 4, {20, 2}, {3, 1}}, li, 10);  // one-pixel rows of a wide mask
+    checkBox<Lum32f>({2, 3, {25, 1}, {24, 0}}, li, 10);
     checkBox<Lum8u>({17, 3, {1, 1}, {0, 0}}, li, 9);  // a one-pixel mask copies
     checkBox<Lum16s>({17, 3, {1, 1}, {0, 0}}, li, 9);
     checkBox<Lum32f>({17, 3, {1, 1}, {0, 0}}, li, 9);

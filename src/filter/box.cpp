@@ -100,29 +100,40 @@ void directRow(const A* HWY_RESTRICT col, T* HWY_RESTRICT dst, int width, int mw
   }
 }
 
-// Four-channel rows: one pixel's four running sums in one vector, slid along the row.
+// Three- and four-channel rows: one pixel's running sums in one four-lane vector, slid along
+// the row. Three-channel pixels carry the next pixel's first channel in lane 3: each store
+// spills into that pixel before its own store overwrites it, and the last pixel of the row goes
+// out through a buffer.
 template <class T, class A, class L>
 void pixelRow(const A* HWY_RESTRICT col, T* HWY_RESTRICT dst, int width, int mw,
               const box::BoxScale& sc) {
+  constexpr int kCh = L::kCh;
   constexpr bool kAlpha = L::kUse != L::kCh;
   const hn::CappedTag<A, 4> da;
   const hn::Rebind<T, decltype(da)> dt;
   const auto colour = colourLanes(dt);
   auto sum = hn::LoadU(da, col);
-  for (int k = 1; k < mw; ++k) sum = hn::Add(sum, hn::LoadU(da, col + elemsOf(k, 4)));
-  for (int x = 0; x < width; ++x) {
-    storeColour(dt, normaliseVec<T>(da, sum, sc), dst + elemsOf(x, 4), kAlpha, colour);
-    if (x + 1 < width)
-      sum = hn::Add(sum, hn::Sub(hn::LoadU(da, col + elemsOf(x + mw, 4)),
-                                 hn::LoadU(da, col + elemsOf(x, 4))));
+  for (int k = 1; k < mw; ++k) sum = hn::Add(sum, hn::LoadU(da, col + elemsOf(k, kCh)));
+  for (int x = 0; x + 1 < width; ++x) {
+    storeColour(dt, normaliseVec<T>(da, sum, sc), dst + elemsOf(x, kCh), kAlpha, colour);
+    sum = hn::Add(sum, hn::Sub(hn::LoadU(da, col + elemsOf(x + mw, kCh)),
+                               hn::LoadU(da, col + elemsOf(x, kCh))));
+  }
+  T* last = dst + elemsOf(width - 1, kCh);
+  if constexpr (kCh == 4) {
+    storeColour(dt, normaliseVec<T>(da, sum, sc), last, kAlpha, colour);
+  } else {
+    HWY_ALIGN T buf[4];
+    hn::Store(normaliseVec<T>(da, sum, sc), dt, buf);
+    for (int c = 0; c < kCh; ++c) last[c] = buf[c];
   }
 }
 
-// One-channel 8u rows of wide masks: prefix sums of the column sums (scans carried from vector
-// to vector), then S(x) = P(x + mw) - P(x). The prefix sums wrap modulo 2^bits of the
+// One-channel integer rows of wide masks: prefix sums of the column sums (scans carried from
+// vector to vector), then S(x) = P(x + mw) - P(x). The prefix sums wrap modulo 2^bits of the
 // lane, and the differences of sums below 2^bits are still exact.
-template <class A>
-void prefixRow(const A* HWY_RESTRICT col, Lum8u* HWY_RESTRICT dst, int width, int mw,
+template <class T, class A>
+void prefixRow(const A* HWY_RESTRICT col, T* HWY_RESTRICT dst, int width, int mw,
                const box::BoxScale& sc, A* HWY_RESTRICT work) {
   const std::ptrdiff_t ext = static_cast<std::ptrdiff_t>(width) + mw - 1;
   work[0] = 0;
@@ -167,22 +178,22 @@ void prefixRow(const A* HWY_RESTRICT col, Lum8u* HWY_RESTRICT dst, int width, in
     }
   }
   const hn::ScalableTag<A> da;
-  const hn::Rebind<Lum8u, decltype(da)> dt;
+  const hn::Rebind<T, decltype(da)> dt;
   const int N = static_cast<int>(hn::Lanes(da));
   int x = 0;
   for (; x + N <= width; x += N) {
     const auto sum = hn::Sub(hn::LoadU(da, work + x + mw), hn::LoadU(da, work + x));
-    hn::StoreU(normaliseVec<Lum8u>(da, sum, sc), dt, dst + x);
+    hn::StoreU(normaliseVec<T>(da, sum, sc), dt, dst + x);
   }
-  for (; x < width; ++x) dst[x] = box::normalise<Lum8u, A>(static_cast<A>(work[x + mw] - work[x]), sc);
+  for (; x < width; ++x) dst[x] = box::normalise<T, A>(box::accSlide(A{0}, work[x + mw], work[x]), sc);
 }
 
 template <class T, class A, class L>
 void boxRow(const A* HWY_RESTRICT col, T* HWY_RESTRICT dst, int width, int mw,
             const box::BoxScale& sc, A* HWY_RESTRICT work) {
   if (mw <= kDirectMax) return directRow<T, A, L>(col, dst, width, mw, sc);
-  if constexpr (L::kCh == 4) return pixelRow<T, A, L>(col, dst, width, mw, sc);
-  if constexpr (L::kCh == 1 && std::is_same_v<T, Lum8u>) return prefixRow<A>(col, dst, width, mw, sc, work);
+  if constexpr (L::kCh > 1) return pixelRow<T, A, L>(col, dst, width, mw, sc);
+  if constexpr (std::is_integral_v<A>) return prefixRow<T, A>(col, dst, width, mw, sc, work);
   box::boxRowScalar<T, A, L>(col, dst, width, mw, sc);
 }
 
