@@ -7,8 +7,9 @@
 // masks up to 16 columns wide add each window's column sums directly where the plain kernel
 // slides one running sum along the row; the two agree within a few units in the last place of
 // the window sums' magnitudes times the row length (the tests allow 2e-7 x sum of |values| x
-// (width + height + mask sizes) / area). Four-channel rows and all column sums are the same
-// arithmetic in the same order in both, so they agree exactly.
+// (width + height + mask sizes) / area). Wider three- and four-channel rows and all column
+// sums are the same arithmetic in the same order in both, so they agree exactly; wider
+// one-channel 32f rows keep the plain kernel.
 #include <algorithm>
 
 #undef HWY_TARGET_INCLUDE
