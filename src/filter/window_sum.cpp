@@ -3,12 +3,63 @@
 // summed in integers; each later one adds the entering pixel minus the leaving one, a
 // difference taken in integers, to the running single-precision sum. While the sums stay below
 // 2^24 (any 8u mask up to 65793 pixels) every result is the exact sum.
-#include "core/frame.h"
+#include <cstring>
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "src/filter/window_sum.cpp"
+#include "hwy/foreach_target.h"
+#include "hwy/highway.h"
+#include "core/simd.h"
 #include "lumi/filter.h"
 
+#ifndef LUMI_FILTER_WINDOW_SUM_PLAIN_  // once, though the file is read once per target
+#define LUMI_FILTER_WINDOW_SUM_PLAIN_
+namespace lumi {
+namespace window {
+// Column sums moved down one row: sum += (float)(in - out), the difference in integers.
+template <class T>
+void slideRowScalar(const T* in, const T* out, Lum32f* sum, std::ptrdiff_t n) {
+  for (std::ptrdiff_t i = 0; i < n; ++i) sum[i] += static_cast<Lum32f>(in[i] - out[i]);
+}
+template <class T>
+using SlideRowFn = void (*)(const T*, const T*, Lum32f*, std::ptrdiff_t);
+}  // namespace window
+}  // namespace lumi
+#endif
+
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+
+// The same arithmetic lane by lane, so the results equal the plain kernel's exactly.
+template <class T>
+void slideRow(const T* HWY_RESTRICT in, const T* HWY_RESTRICT out, Lum32f* HWY_RESTRICT sum,
+              std::ptrdiff_t n) {
+  const hn::ScalableTag<float> df;
+  const hn::RebindToSigned<decltype(df)> di;
+  const hn::Rebind<T, decltype(df)> dt;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(df));
+  std::ptrdiff_t i = 0;
+  for (; i + N <= n; i += N) {
+    const auto diff = hn::Sub(hn::PromoteTo(di, hn::LoadU(dt, in + i)), hn::PromoteTo(di, hn::LoadU(dt, out + i)));
+    hn::StoreU(hn::Add(hn::LoadU(df, sum + i), hn::ConvertTo(df, diff)), df, sum + i);
+  }
+  window::slideRowScalar(in + i, out + i, sum + i, n - i);
+}
+
+#endif
+LUMI_SIMD_END
+
+#if HWY_ONCE
 namespace lumi {
 namespace window {
 namespace {
+
+template <class T>
+SlideRowFn<T> pickSlideRow() {
+  using Fn = SlideRowFn<T>;
+  LUMI_SIMD_TABLE(Fn, table, slideRow<T>);
+  return pick(table, static_cast<Fn>(&slideRowScalar<T>));
+}
 
 // The first window's integer sum wraps modulo 2^32: masks of more than 65536 extreme 16s
 // values are the caller's to avoid, as for the box filter.
@@ -66,6 +117,7 @@ LumStatus columnImpl(const T* src, int srcStep, Lum32f* dst, int dstStep, LumiSi
   Lum32f sum[kStrip];
   const T* top = rowAt(src, srcStep, -anchor);
   const std::ptrdiff_t n = elemsOf(roi.width, kCh);
+  const SlideRowFn<T> slideRow = pickSlideRow<T>();
   for (std::ptrdiff_t i0 = 0; i0 < n; i0 += kStrip) {
     const std::ptrdiff_t len = n - i0 < kStrip ? n - i0 : kStrip;
     for (std::ptrdiff_t i = 0; i < len; ++i) first[i] = 0;
@@ -75,12 +127,9 @@ LumStatus columnImpl(const T* src, int srcStep, Lum32f* dst, int dstStep, LumiSi
     }
     for (std::ptrdiff_t i = 0; i < len; ++i) sum[i] = static_cast<Lum32f>(first[i]);
     for (int y = 0; y < roi.height; ++y) {
-      Lum32f* d = rowAt(dst, dstStep, y) + i0;
-      for (std::ptrdiff_t i = 0; i < len; ++i) d[i] = static_cast<Lum32f>(sum[i]);
-      if (y + 1 == roi.height) break;
-      const T* in = rowAt(top, srcStep, y + mask) + i0;
-      const T* out = rowAt(top, srcStep, y) + i0;
-      for (std::ptrdiff_t i = 0; i < len; ++i) sum[i] += static_cast<Lum32f>(in[i] - out[i]);
+      std::memcpy(rowAt(dst, dstStep, y) + i0, sum, static_cast<std::size_t>(len) * sizeof(Lum32f));
+      if (y + 1 < roi.height)
+        slideRow(rowAt(top, srcStep, y + mask) + i0, rowAt(top, srcStep, y) + i0, sum, len);
     }
   }
   return lumStatusOk;
@@ -118,3 +167,4 @@ LUMI_SUM_WINDOW_COLUMN(lumiSumWindowColumn_16s32f_C1R, Lum16s, 1)
 LUMI_SUM_WINDOW_COLUMN(lumiSumWindowColumn_16s32f_C3R, Lum16s, 3)
 LUMI_SUM_WINDOW_COLUMN(lumiSumWindowColumn_16s32f_C4R, Lum16s, 4)
 }
+#endif  // HWY_ONCE
