@@ -3,6 +3,10 @@
 // summed in integers; each later one adds the entering pixel minus the leaving one, a
 // difference taken in integers, to the running single-precision sum. While the sums stay below
 // 2^24 (any 8u mask up to 65793 pixels) every result is the exact sum.
+//
+// Vector kernels give the plain kernels' results exactly: column sums move down with the same
+// arithmetic lane by lane, and rows of masks up to 16 pixels, whose sums are all exact, are
+// summed directly.
 #include <cstring>
 
 #undef HWY_TARGET_INCLUDE
@@ -23,6 +27,33 @@ void slideRowScalar(const T* in, const T* out, Lum32f* sum, std::ptrdiff_t n) {
 }
 template <class T>
 using SlideRowFn = void (*)(const T*, const T*, Lum32f*, std::ptrdiff_t);
+
+// The first window's integer sum wraps modulo 2^32: masks of more than 65536 extreme 16s
+// values are the caller's to avoid, as for the box filter.
+inline int32_t add(int32_t sum, int32_t v) {
+  return static_cast<int32_t>(static_cast<uint32_t>(sum) + static_cast<uint32_t>(v));
+}
+
+// Window sums along one row of `width` pixels; s points at the first pixel of the first window.
+template <class T, int kCh>
+void windowRowScalar(const T* s, Lum32f* d, int width, int mask) {
+  for (int c = 0; c < kCh; ++c) {
+    int32_t first = 0;
+    for (int k = 0; k < mask; ++k) first = add(first, s[elemsOf(k, kCh) + c]);
+    Lum32f sum = static_cast<Lum32f>(first);
+    d[c] = sum;
+    for (int x = 1; x < width; ++x) {
+      sum += static_cast<Lum32f>(s[elemsOf(x + mask - 1, kCh) + c] - s[elemsOf(x - 1, kCh) + c]);
+      d[elemsOf(x, kCh) + c] = sum;
+    }
+  }
+}
+template <class T>
+using RowFn = void (*)(const T*, Lum32f*, int, int);
+
+// Masks up to this many pixels have vector row kernels: their sums (at most 16 x 32768) are
+// exact in single precision, so the running sum of the plain kernel is the exact sum too.
+constexpr int kDirectMax = 16;
 }  // namespace window
 }  // namespace lumi
 #endif
@@ -46,6 +77,28 @@ void slideRow(const T* HWY_RESTRICT in, const T* HWY_RESTRICT out, Lum32f* HWY_R
   window::slideRowScalar(in + i, out + i, sum + i, n - i);
 }
 
+// Masks up to kDirectMax pixels: every element of the row is the integer sum of mask source
+// elements kCh apart, converted once.
+template <class T, int kCh>
+void windowRow(const T* HWY_RESTRICT s, Lum32f* HWY_RESTRICT d, int width, int mask) {
+  const hn::ScalableTag<float> df;
+  const hn::RebindToSigned<decltype(df)> di;
+  const hn::Rebind<T, decltype(df)> dt;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(df));
+  const std::ptrdiff_t n = elemsOf(width, kCh);
+  std::ptrdiff_t i = 0;
+  for (; i + N <= n; i += N) {
+    auto sum = hn::PromoteTo(di, hn::LoadU(dt, s + i));
+    for (int k = 1; k < mask; ++k) sum = hn::Add(sum, hn::PromoteTo(di, hn::LoadU(dt, s + i + elemsOf(k, kCh))));
+    hn::StoreU(hn::ConvertTo(df, sum), df, d + i);
+  }
+  for (; i < n; ++i) {
+    int32_t sum = 0;
+    for (int k = 0; k < mask; ++k) sum += s[i + elemsOf(k, kCh)];
+    d[i] = static_cast<Lum32f>(sum);
+  }
+}
+
 #endif
 LUMI_SIMD_END
 
@@ -54,17 +107,18 @@ namespace lumi {
 namespace window {
 namespace {
 
+template <class T, int kCh>
+RowFn<T> pickRow(int mask) {
+  using Fn = RowFn<T>;
+  if (mask > kDirectMax) return &windowRowScalar<T, kCh>;
+  LUMI_SIMD_TABLE(Fn, table, windowRow<T, kCh>);
+  return pick(table, static_cast<Fn>(&windowRowScalar<T, kCh>));
+}
 template <class T>
 SlideRowFn<T> pickSlideRow() {
   using Fn = SlideRowFn<T>;
   LUMI_SIMD_TABLE(Fn, table, slideRow<T>);
   return pick(table, static_cast<Fn>(&slideRowScalar<T>));
-}
-
-// The first window's integer sum wraps modulo 2^32: masks of more than 65536 extreme 16s
-// values are the caller's to avoid, as for the box filter.
-inline int32_t add(int32_t sum, int32_t v) {
-  return static_cast<int32_t>(static_cast<uint32_t>(sum) + static_cast<uint32_t>(v));
 }
 
 template <class T>
@@ -86,19 +140,11 @@ LumStatus rowImpl(const T* src, int srcStep, Lum32f* dst, int dstStep, LumiSize 
   srcStep = wholeElements<T>(srcStep);
   dstStep = wholeElements<Lum32f>(dstStep);
   const std::ptrdiff_t lead = elemsOf(anchor, kCh);
-  for (int y = 0; y < roi.height; ++y) {
+  const RowFn<T> windowRow = pickRow<T, kCh>(mask);
+  for (int y = 0; y < roi.height && roi.width > 0; ++y) {
     const T* s = rowAt(src, srcStep, y) - lead;
     Lum32f* d = rowAt(dst, dstStep, y);
-    for (int c = 0; c < kCh && roi.width > 0; ++c) {
-      int32_t first = 0;
-      for (int k = 0; k < mask; ++k) first = add(first, s[elemsOf(k, kCh) + c]);
-      Lum32f sum = static_cast<Lum32f>(first);
-      d[c] = sum;
-      for (int x = 1; x < roi.width; ++x) {
-        sum += static_cast<Lum32f>(s[elemsOf(x + mask - 1, kCh) + c] - s[elemsOf(x - 1, kCh) + c]);
-        d[elemsOf(x, kCh) + c] = sum;
-      }
-    }
+    windowRow(s, d, roi.width, mask);
   }
   return lumStatusOk;
 }
