@@ -218,6 +218,15 @@ TEST(FilterBox, IntegerPathMultiplierAndBias) {
   }
 }
 
+// Every multiplier of the integer path keeps 255 at 255 (m x 255 x area stays below 2^32).
+TEST(FilterBox, WhiteStaysWhiteForEveryIntegerArea) {
+  std::vector<Lum8u> white(8100 + 2, 255), out(3);
+  for (int area = 1; area <= 8100; ++area) {
+    ASSERT_EQ(lumiFilterBox_8u_C1R(white.data(), 8200, out.data(), 8, {3, 1}, {area, 1}, {0, 0}), lumStatusOk);
+    ASSERT_EQ(out, std::vector<Lum8u>(3, 255)) << area;
+  }
+}
+
 // 16s rounds to nearest, ties to even, whatever mode the caller left the SSE unit in (the
 // result equals the one in the default mode), and puts the caller's mode back.
 TEST(FilterBox, RoundingIsNearestWhateverTheCallersMode) {
