@@ -1,0 +1,567 @@
+// Rank filters: median over fixed shapes and general masks, the colour (vector) median, and the
+// minimum and maximum over rectangular masks.
+//
+// Medians are exact for every type: each kernel selects the middle value, and the vector
+// networks give the value the plain sort-and-pick twin gives, bit for bit. The general median of
+// 8u slides a 256-bin histogram along each row; of 16s it sorts each window. The minimum and
+// maximum are separable: the row pass doubles the span it covers (1, 2, 4, ... pixels, then
+// one overlapping step to the mask width), the column pass takes prefix and suffix extrema over
+// blocks of mask-height rows, so a pixel costs a few comparisons whatever the mask. Both passes
+// use the same grouping on every path, so even which of +0 and -0 a tie keeps is the same (NaN
+// sources give no defined result).
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "src/filter/rank.cpp"
+#include "hwy/foreach_target.h"
+#include "hwy/highway.h"
+#include "core/alpha-inl.h"
+#include "core/simd.h"
+#include "lumi/filter_rank.h"
+
+// The scalar kernels, once (this file is compiled once per target).
+#ifndef LUMI_FILTER_RANK_SCALAR_
+#define LUMI_FILTER_RANK_SCALAR_
+#include <algorithm>
+
+namespace lumi {
+namespace rank {
+
+// The fixed shapes, centred on the pixel.
+enum Shape { kHoriz3, kHoriz5, kVert3, kVert5, kSquare3, kSquare5, kCross3, kCross5 };
+
+constexpr int reachX(int s) {
+  return s == kHoriz3 || s == kSquare3 || s == kCross3 ? 1
+         : s == kHoriz5 || s == kSquare5 || s == kCross5 ? 2 : 0;
+}
+constexpr int reachY(int s) {
+  return s == kVert3 || s == kSquare3 || s == kCross3 ? 1
+         : s == kVert5 || s == kSquare5 || s == kCross5 ? 2 : 0;
+}
+constexpr bool isCross(int s) { return s == kCross3 || s == kCross5; }
+constexpr int tapsOf(int s) {
+  return isCross(s) ? 2 * (reachX(s) + reachY(s)) + 1 : (2 * reachX(s) + 1) * (2 * reachY(s) + 1);
+}
+
+// The operand order of the vector min/max instructions: a tie keeps the second operand.
+template <bool kMax, class T>
+inline T extreme(T a, T b) {
+  if constexpr (kMax)
+    return a > b ? a : b;
+  else
+    return a < b ? a : b;
+}
+
+// Sorts v[0..n) ascending (insertion sort: windows are small) and returns the middle.
+template <class T>
+inline T sortAndPick(T* v, int n) {
+  for (int i = 1; i < n; ++i) {
+    T x = v[i];
+    int j = i;
+    for (; j > 0 && v[j - 1] > x; --j) v[j] = v[j - 1];
+    v[j] = x;
+  }
+  return v[n / 2];
+}
+
+// Median of one fixed shape for elements [from, elems) of a row; `centre` is element 0 of the
+// source row the shape is centred on. With kAlpha every fourth element is left alone.
+template <class T, int kCh, bool kAlpha, int kShape>
+inline void shapeRowFrom(const T* centre, int step, T* out, std::ptrdiff_t from,
+                         std::ptrdiff_t elems) {
+  constexpr int rx = reachX(kShape), ry = reachY(kShape);
+  for (std::ptrdiff_t e = from; e < elems; ++e) {
+    if (kAlpha && (e & 3) == 3) continue;
+    T v[25];
+    int n = 0;
+    for (int dy = -ry; dy <= ry; ++dy) {
+      const T* r = rowAt(centre, step, dy) + e;
+      for (int dx = -rx; dx <= rx; ++dx)
+        if (!isCross(kShape) || dx == 0 || dy == 0) v[n++] = r[dx * kCh];
+    }
+    out[e] = sortAndPick(v, n);
+  }
+}
+
+// out[e] = extremum(a[e], b[e]) for e in [from, n), in increasing e: out may be a, and b may
+// run ahead of a in the same buffer. With kAlpha every fourth element is left alone.
+template <class T, bool kMax, bool kAlpha>
+inline void extreme2From(const T* a, const T* b, T* out, std::ptrdiff_t from, std::ptrdiff_t n) {
+  for (std::ptrdiff_t e = from; e < n; ++e) {
+    if (kAlpha && (e & 3) == 3) continue;
+    out[e] = extreme<kMax>(a[e], b[e]);
+  }
+}
+
+}  // namespace rank
+}  // namespace lumi
+#endif
+
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+#endif
+LUMI_SIMD_END
+
+#if HWY_ONCE
+namespace lumi {
+namespace rank {
+namespace {
+
+// Rows go to threads when pixels x reads reach this.
+constexpr long long kForkWork = 1LL << 20;
+
+// ---- kernel choosers ---------------------------------------------------------------------------
+// A fixed-shape median row: centre row, source step, destination, elements, scratch elements.
+template <class T>
+using ShapeRowFn = void (*)(const T*, int, T*, std::ptrdiff_t, T*);
+
+template <class T, int kCh, bool kAlpha, int kShape>
+void shapeRowScalar(const T* centre, int step, T* out, std::ptrdiff_t elems, T*) {
+  shapeRowFrom<T, kCh, kAlpha, kShape>(centre, step, out, 0, elems);
+}
+
+template <class T, int kCh, bool kAlpha, int kShape>
+ShapeRowFn<T> pickShapeRow() {
+  return &shapeRowScalar<T, kCh, kAlpha, kShape>;
+}
+
+// Scratch elements a fixed-shape row kernel needs for a row of `elems` elements.
+inline std::ptrdiff_t shapeScratch(int, std::ptrdiff_t) { return 0; }
+
+template <class T>
+using Extreme2Fn = void (*)(const T*, const T*, T*, std::ptrdiff_t);
+
+template <class T, bool kMax, bool kAlpha>
+void extreme2Scalar(const T* a, const T* b, T* out, std::ptrdiff_t n) {
+  extreme2From<T, kMax, kAlpha>(a, b, out, 0, n);
+}
+
+template <class T, bool kMax, bool kAlpha>
+Extreme2Fn<T> pickExtreme2() {
+  return &extreme2Scalar<T, kMax, kAlpha>;
+}
+
+// ---- copies (1x1 masks) ------------------------------------------------------------------------
+template <class T, class L>
+LumStatus copyRoi(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
+  const std::ptrdiff_t elems = elemsOf(roi.width, L::kCh);
+  for (int y = 0; y < roi.height; ++y) {
+    const T* s = rowAt(src, srcStep, y);
+    T* d = rowAt(dst, dstStep, y);
+    if constexpr (L::kUse == L::kCh) {
+      std::memcpy(d, s, static_cast<std::size_t>(elems) * sizeof(T));
+    } else {
+      for (std::ptrdiff_t e = 0; e < elems; ++e)
+        if ((e & 3) != 3) d[e] = s[e];
+    }
+  }
+  return lumStatusOk;
+}
+
+// ---- fixed shapes ----------------------------------------------------------------------------
+// src points at the centre of the first destination pixel's shape.
+template <class T, class L, int kShape>
+LumStatus runShape(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
+  constexpr bool kAlpha = L::kUse < L::kCh;
+  const auto kernel = pickShapeRow<T, L::kCh, kAlpha, kShape>();
+  const std::ptrdiff_t elems = elemsOf(roi.width, L::kCh);
+  const std::ptrdiff_t scratch = shapeScratch(kShape, elems);
+  const bool parallel = forkByWork(roi, tapsOf(kShape), kForkWork);
+  if (scratch == 0) {
+    forRows(roi.height, parallel, [&](int y0, int y1) {
+      for (int y = y0; y < y1; ++y)
+        kernel(rowAt(src, srcStep, y), srcStep, rowAt(dst, dstStep, y), elems, nullptr);
+    });
+    return lumStatusOk;
+  }
+  return forRowsWithScratch(roi.height, parallel,
+                            static_cast<std::size_t>(scratch) * sizeof(T),
+                            [&](int y0, int y1, Lum8u* s) {
+                              T* mine = reinterpret_cast<T*>(s);
+                              for (int y = y0; y < y1; ++y)
+                                kernel(rowAt(src, srcStep, y), srcStep, rowAt(dst, dstStep, y),
+                                       elems, mine);
+                            });
+}
+
+template <class T, class L>
+LumStatus runShapeCode(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int shape) {
+  switch (shape) {
+    case kHoriz3: return runShape<T, L, kHoriz3>(src, srcStep, dst, dstStep, roi);
+    case kHoriz5: return runShape<T, L, kHoriz5>(src, srcStep, dst, dstStep, roi);
+    case kVert3: return runShape<T, L, kVert3>(src, srcStep, dst, dstStep, roi);
+    case kVert5: return runShape<T, L, kVert5>(src, srcStep, dst, dstStep, roi);
+    case kSquare3: return runShape<T, L, kSquare3>(src, srcStep, dst, dstStep, roi);
+    case kSquare5: return runShape<T, L, kSquare5>(src, srcStep, dst, dstStep, roi);
+    case kCross3: return runShape<T, L, kCross3>(src, srcStep, dst, dstStep, roi);
+    default: return runShape<T, L, kCross5>(src, srcStep, dst, dstStep, roi);
+  }
+}
+
+// ---- general median --------------------------------------------------------------------------
+// 8u: for each row and channel, the histogram of the first window, then the window slides one
+// pixel at a time (the leaving column out, the entering one in) and the median is walked to
+// from the previous one, keeping the count of values below it. `src` is the top-left corner of
+// the first window.
+template <class L>
+void medianHistRows(const Lum8u* src, int srcStep, Lum8u* dst, int dstStep, LumiSize roi,
+                    LumiSize ms, int y0, int y1) {
+  constexpr int kCh = L::kCh;
+  const int rank = ms.width * ms.height / 2 + 1;
+  std::uint32_t hist[256];
+  for (int y = y0; y < y1; ++y) {
+    const Lum8u* top = rowAt(src, srcStep, y);
+    Lum8u* out = rowAt(dst, dstStep, y);
+    for (int c = 0; c < L::kUse; ++c) {
+      std::memset(hist, 0, sizeof(hist));
+      for (int i = 0; i < ms.height; ++i) {
+        const Lum8u* r = rowAt(top, srcStep, i) + c;
+        for (int j = 0; j < ms.width; ++j) ++hist[r[j * kCh]];
+      }
+      int med = 0, below = 0;
+      for (int x = 0;; ++x) {
+        while (below + static_cast<int>(hist[med]) < rank) below += hist[med++];
+        while (below >= rank) below -= hist[--med];
+        out[elemsOf(x, kCh) + c] = static_cast<Lum8u>(med);
+        if (x + 1 == roi.width) break;
+        const std::ptrdiff_t leave = elemsOf(x, kCh) + c, enter = elemsOf(x + ms.width, kCh) + c;
+        for (int i = 0; i < ms.height; ++i) {
+          const Lum8u* r = rowAt(top, srcStep, i);
+          const int a = r[leave], b = r[enter];
+          --hist[a];
+          below -= a < med;
+          ++hist[b];
+          below += b < med;
+        }
+      }
+    }
+  }
+}
+
+// 16s: each window gathered and partly sorted (scratch: one window).
+template <class T, class L>
+void medianSortRows(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, LumiSize ms,
+                    int y0, int y1, T* window) {
+  constexpr int kCh = L::kCh;
+  const int n = ms.width * ms.height;
+  for (int y = y0; y < y1; ++y) {
+    const T* top = rowAt(src, srcStep, y);
+    T* out = rowAt(dst, dstStep, y);
+    for (int x = 0; x < roi.width; ++x)
+      for (int c = 0; c < L::kUse; ++c) {
+        int k = 0;
+        for (int i = 0; i < ms.height; ++i) {
+          const T* r = rowAt(top, srcStep, i) + elemsOf(x, kCh) + c;
+          for (int j = 0; j < ms.width; ++j) window[k++] = r[j * kCh];
+        }
+        std::nth_element(window, window + n / 2, window + n);
+        out[elemsOf(x, kCh) + c] = window[n / 2];
+      }
+  }
+}
+
+template <class T, class L>
+LumStatus medianGeneral(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi,
+                        LumiSize ms) {
+  const long long taps = static_cast<long long>(ms.width) * ms.height;
+  if constexpr (std::is_same_v<T, Lum8u>) {
+    const bool parallel = forkByWork(roi, 2LL * ms.height + 8, kForkWork);
+    forRows(roi.height, parallel, [&](int y0, int y1) {
+      medianHistRows<L>(src, srcStep, dst, dstStep, roi, ms, y0, y1);
+    });
+    return lumStatusOk;
+  } else {
+    const bool parallel = forkByWork(roi, taps, kForkWork);
+    const long long bytes = taps * static_cast<long long>(sizeof(T));
+    if (bytes > INT_MAX / 2) return lumStatusMemAllocErr;
+    return forRowsWithScratch(roi.height, parallel, static_cast<std::size_t>(bytes),
+                              [&](int y0, int y1, Lum8u* s) {
+                                medianSortRows<T, L>(src, srcStep, dst, dstStep, roi, ms, y0, y1,
+                                                     reinterpret_cast<T*>(s));
+                              });
+  }
+}
+
+// ---- checks --------------------------------------------------------------------------------------
+template <class T>
+inline LumStatus checkImages(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi) {
+  if (anyNull(src, dst)) return lumStatusNullPtrErr;
+  if (badSize(roi)) return lumStatusSizeErr;
+  if (badStep(srcStep, dstStep)) return lumStatusStepErr;
+  return lumStatusOk;
+}
+
+inline LumStatus checkMask(LumiSize ms, LumiPoint anchor, bool oddOnly) {
+  if (badSize(ms) || (oddOnly && (ms.width % 2 == 0 || ms.height % 2 == 0)))
+    return lumStatusMaskSizeErr;
+  if (anchor.x < 0 || anchor.x >= ms.width || anchor.y < 0 || anchor.y >= ms.height)
+    return lumStatusAnchorErr;
+  return lumStatusOk;
+}
+
+// ---- the exports' bodies -------------------------------------------------------------------------
+template <class T, class L>
+LumStatus median(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, LumiSize ms,
+                 LumiPoint anchor) {
+  if (LumStatus s = checkImages(src, srcStep, dst, dstStep, roi)) return s;
+  if (LumStatus s = checkMask(ms, anchor, true)) return s;
+  // Centre the mask on the source pointer.
+  const T* c = rowAt(src, srcStep, ms.height / 2 - anchor.y) + elemsOf(ms.width / 2 - anchor.x, L::kCh);
+  const int w = ms.width, h = ms.height;
+  int shape = -1;
+  if (w == 3 && h == 3) shape = kSquare3;
+  else if (w == 5 && h == 5) shape = kSquare5;
+  else if (w == 3 && h == 1) shape = kHoriz3;
+  else if (w == 5 && h == 1) shape = kHoriz5;
+  else if (w == 1 && h == 3) shape = kVert3;
+  else if (w == 1 && h == 5) shape = kVert5;
+  if (shape >= 0) return runShapeCode<T, L>(c, srcStep, dst, dstStep, roi, shape);
+  if (w == 1 && h == 1) return copyRoi<T, L>(c, srcStep, dst, dstStep, roi);
+  const T* corner = rowAt(c, srcStep, -(h / 2)) - elemsOf(w / 2, L::kCh);
+  return medianGeneral<T, L>(corner, srcStep, dst, dstStep, roi, ms);
+}
+
+// A fixed-shape entry point: its mask codes and the shapes they select.
+template <class T, class L>
+LumStatus medianFixed(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int mask,
+                      int code3, int shape3, int code5, int shape5, bool statusOfWorker) {
+  if (LumStatus s = checkImages(src, srcStep, dst, dstStep, roi)) return s;
+  if (mask != code3 && mask != code5) return lumStatusMaskSizeErr;
+  const LumStatus s =
+      runShapeCode<T, L>(src, srcStep, dst, dstStep, roi, mask == code3 ? shape3 : shape5);
+  return statusOfWorker ? s : lumStatusOk;
+}
+
+template <class T, class L>
+LumStatus medianHoriz(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int mask) {
+  return medianFixed<T, L>(src, srcStep, dst, dstStep, roi, mask, lumMskSize3x1, kHoriz3,
+                           lumMskSize5x1, kHoriz5, true);
+}
+template <class T, class L>
+LumStatus medianVert(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int mask) {
+  return medianFixed<T, L>(src, srcStep, dst, dstStep, roi, mask, lumMskSize1x3, kVert3,
+                           lumMskSize1x5, kVert5, true);
+}
+template <class T, class L>
+LumStatus medianCross(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int mask) {
+  return medianFixed<T, L>(src, srcStep, dst, dstStep, roi, mask, lumMskSize3x3, kCross3,
+                           lumMskSize5x5, kCross5, false);
+}
+
+// ---- colour median -----------------------------------------------------------------------------
+// The pixel of the square whose summed L1 distance (over the three colour channels) to the
+// others is least; the first in row order wins a tie. Integer sums are exact; 32f sums the
+// float differences in double precision.
+template <class T, class L>
+void colorRows(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int r, int y0,
+               int y1) {
+  using Acc = std::conditional_t<std::is_floating_point_v<T>, double, long long>;
+  constexpr int kCh = L::kCh;
+  const int side = 2 * r + 1, n = side * side;
+  const T* px[25];
+  for (int y = y0; y < y1; ++y)
+    for (int x = 0; x < roi.width; ++x) {
+      int k = 0;
+      for (int dy = -r; dy <= r; ++dy)
+        for (int dx = -r; dx <= r; ++dx)
+          px[k++] = rowAt(src, srcStep, y + dy) + elemsOf(x + dx, kCh);
+      int best = 0;
+      Acc bestSum = 0;
+      for (int i = 0; i < n; ++i) {
+        Acc sum = 0;
+        for (int j = 0; j < n; ++j)
+          for (int c = 0; c < 3; ++c) {
+            const Acc d = static_cast<Acc>(px[i][c]) - static_cast<Acc>(px[j][c]);
+            sum += d < 0 ? -d : d;
+          }
+        if (i == 0 || sum < bestSum) {
+          best = i;
+          bestSum = sum;
+        }
+      }
+      T* out = rowAt(dst, dstStep, y) + elemsOf(x, kCh);
+      for (int c = 0; c < 3; ++c) out[c] = px[best][c];
+    }
+}
+
+template <class T, class L>
+LumStatus medianColor(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int mask) {
+  if (LumStatus s = checkImages(src, srcStep, dst, dstStep, roi)) return s;
+  if (mask != lumMskSize3x3 && mask != lumMskSize5x5) return lumStatusMaskSizeErr;
+  const int r = mask == lumMskSize3x3 ? 1 : 2;
+  const long long side = 2 * r + 1;
+  forRows(roi.height, forkByWork(roi, side * side * side * side, kForkWork), [&](int y0, int y1) {
+    colorRows<T, L>(src, srcStep, dst, dstStep, roi, r, y0, y1);
+  });
+  return lumStatusOk;
+}
+
+// ---- minimum and maximum ---------------------------------------------------------------------------
+// Row pass of one source row into `buf` (span = width + mask width - 1 pixels): buf[x] becomes
+// the extremum of pixels x .. x + w - 1, first by doubling (pairs, fours, ...) and then by one
+// overlapping step. Every step reads ahead of what it writes, so it works in place.
+template <class T>
+void rowPass(const T* srcRow, T* buf, std::ptrdiff_t span, int w, int kCh, Extreme2Fn<T> ext) {
+  if (w == 1) {
+    std::memcpy(buf, srcRow, static_cast<std::size_t>(span) * sizeof(T));
+    return;
+  }
+  int p = 1;
+  const T* from = srcRow;
+  while (2 * p <= w) {
+    const std::ptrdiff_t d = elemsOf(p, kCh);
+    ext(from, from + d, buf, span - elemsOf(2 * p - 1, kCh));
+    from = buf;
+    p *= 2;
+  }
+  if (p < w) ext(buf, buf + elemsOf(w - p, kCh), buf, span - elemsOf(w - 1, kCh));
+}
+
+// The column pass over blocks of h rows: for block k (rows kh .. kh + h - 1 of the band's
+// source rows) the suffix extrema S; the destination row whose window starts at row kh + m is
+// S[m] when m = 0, else the extremum of S[m] and the prefix extremum of block k + 1 up to row
+// (k + 1)h + m - 1. Scratch: two blocks of rows and one prefix row.
+template <class T, class L, bool kMax>
+LumStatus minMax(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, LumiSize ms,
+                 LumiPoint anchor) {
+  if (LumStatus s = checkImages(src, srcStep, dst, dstStep, roi)) return s;
+  if (LumStatus s = checkMask(ms, anchor, false)) return s;
+  constexpr int kCh = L::kCh;
+  constexpr bool kAlpha = L::kUse < L::kCh;
+  const auto ext = pickExtreme2<T, kMax, false>();
+  const auto extOut = pickExtreme2<T, kMax, kAlpha>();
+  const int w = ms.width, h = ms.height;
+  const std::ptrdiff_t span = elemsOf(roi.width + w - 1, kCh);  // at most 2^31 pixels x 4
+  const std::ptrdiff_t elems = elemsOf(roi.width, kCh);
+  const std::ptrdiff_t rowStride = (span + 15) & ~std::ptrdiff_t{15};
+  const long double bytes = static_cast<long double>(rowStride) * (2.0L * h + 1) * sizeof(T);
+  if (bytes > static_cast<long double>(INT_MAX / 2)) return lumStatusMemAllocErr;
+  const T* corner = rowAt(src, srcStep, -anchor.y) - elemsOf(anchor.x, kCh);
+  int levels = 1;
+  for (int p = 1; 2 * p <= w; p *= 2) ++levels;
+  const bool parallel = forkByWork(roi, levels + 3, kForkWork);
+  auto body = [&](int y0, int y1, Lum8u* scratch) {
+    T* blocks[2] = {reinterpret_cast<T*>(scratch),
+                    reinterpret_cast<T*>(scratch) + rowStride * h};
+    T* prefix = blocks[1] + rowStride * h;
+    auto slot = [&](int b, int m) { return blocks[b] + rowStride * m; };
+    auto pass = [&](int j, T* to) {  // row j of the band's source rows
+      rowPass(rowAt(corner, srcStep, y0 + j), to, span, w, kCh, ext);
+    };
+    auto suffix = [&](int b) {
+      for (int m = h - 2; m >= 0; --m) ext(slot(b, m), slot(b, m + 1), slot(b, m), elems);
+    };
+    const int n = y1 - y0;
+    int cur = 0;
+    for (int m = 0; m < h; ++m) pass(m, slot(cur, m));
+    suffix(cur);
+    for (int k = 0; k * h < n; ++k) {
+      const int base = k * h;
+      T* out = rowAt(dst, dstStep, y0 + base);
+      extOut(slot(cur, 0), slot(cur, 0), out, elems);
+      int done = 0;  // rows of block k + 1 already passed
+      for (int m = 1; m < h && base + m < n; ++m) {
+        T* row = slot(1 - cur, m - 1);
+        pass(base + h + m - 1, row);
+        done = m;
+        const T* p = row;
+        if (m >= 2) {
+          ext(m == 2 ? slot(1 - cur, 0) : prefix, row, prefix, elems);
+          p = prefix;
+        }
+        extOut(slot(cur, m), p, rowAt(dst, dstStep, y0 + base + m), elems);
+      }
+      if (base + h >= n) break;
+      for (int m = done; m < h; ++m) pass(base + h + m, slot(1 - cur, m));
+      cur = 1 - cur;
+      suffix(cur);
+    }
+  };
+  return forRowsWithScratch(roi.height, parallel, static_cast<std::size_t>(bytes), body);
+}
+
+}  // namespace
+}  // namespace rank
+}  // namespace lumi
+
+// One stamp per export.
+#define LUMI_MEDIAN(NAME, T, L)                                                                   \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize dstRoiSize, \
+                          LumiSize maskSize, LumiPoint anchor) {                                  \
+    return median<T, L>(pSrc, srcStep, pDst, dstStep, dstRoiSize, maskSize, anchor);              \
+  }
+#define LUMI_MEDIAN_CODE(NAME, T, L, IMPL)                                                        \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize dstRoiSize, \
+                          int mask) {                                                             \
+    return IMPL<T, L>(pSrc, srcStep, pDst, dstStep, dstRoiSize, mask);                            \
+  }
+#define LUMI_MINMAX(NAME, T, L, MAX)                                                              \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize dstRoiSize, \
+                          LumiSize maskSize, LumiPoint anchor) {                                  \
+    return minMax<T, L, MAX>(pSrc, srcStep, pDst, dstStep, dstRoiSize, maskSize, anchor);         \
+  }
+
+using namespace lumi;
+using namespace lumi::rank;
+
+extern "C" {
+LUMI_MEDIAN(lumiFilterMedian_8u_C1R, Lum8u, C1)
+LUMI_MEDIAN(lumiFilterMedian_8u_C3R, Lum8u, C3)
+LUMI_MEDIAN(lumiFilterMedian_8u_C4R, Lum8u, C4)
+LUMI_MEDIAN(lumiFilterMedian_8u_AC4R, Lum8u, AC4)
+LUMI_MEDIAN(lumiFilterMedian_16s_C1R, Lum16s, C1)
+LUMI_MEDIAN(lumiFilterMedian_16s_C3R, Lum16s, C3)
+LUMI_MEDIAN(lumiFilterMedian_16s_C4R, Lum16s, C4)
+LUMI_MEDIAN(lumiFilterMedian_16s_AC4R, Lum16s, AC4)
+LUMI_MEDIAN_CODE(lumiFilterMedianHoriz_8u_C1R, Lum8u, C1, medianHoriz)
+LUMI_MEDIAN_CODE(lumiFilterMedianHoriz_8u_C3R, Lum8u, C3, medianHoriz)
+LUMI_MEDIAN_CODE(lumiFilterMedianHoriz_8u_C4R, Lum8u, C4, medianHoriz)
+LUMI_MEDIAN_CODE(lumiFilterMedianHoriz_8u_AC4R, Lum8u, AC4, medianHoriz)
+LUMI_MEDIAN_CODE(lumiFilterMedianHoriz_16s_C1R, Lum16s, C1, medianHoriz)
+LUMI_MEDIAN_CODE(lumiFilterMedianHoriz_16s_C3R, Lum16s, C3, medianHoriz)
+LUMI_MEDIAN_CODE(lumiFilterMedianHoriz_16s_C4R, Lum16s, C4, medianHoriz)
+LUMI_MEDIAN_CODE(lumiFilterMedianHoriz_16s_AC4R, Lum16s, AC4, medianHoriz)
+LUMI_MEDIAN_CODE(lumiFilterMedianVert_8u_C1R, Lum8u, C1, medianVert)
+LUMI_MEDIAN_CODE(lumiFilterMedianVert_8u_C3R, Lum8u, C3, medianVert)
+LUMI_MEDIAN_CODE(lumiFilterMedianVert_8u_C4R, Lum8u, C4, medianVert)
+LUMI_MEDIAN_CODE(lumiFilterMedianVert_8u_AC4R, Lum8u, AC4, medianVert)
+LUMI_MEDIAN_CODE(lumiFilterMedianVert_16s_C1R, Lum16s, C1, medianVert)
+LUMI_MEDIAN_CODE(lumiFilterMedianVert_16s_C3R, Lum16s, C3, medianVert)
+LUMI_MEDIAN_CODE(lumiFilterMedianVert_16s_C4R, Lum16s, C4, medianVert)
+LUMI_MEDIAN_CODE(lumiFilterMedianVert_16s_AC4R, Lum16s, AC4, medianVert)
+LUMI_MEDIAN_CODE(lumiFilterMedianCross_8u_C1R, Lum8u, C1, medianCross)
+LUMI_MEDIAN_CODE(lumiFilterMedianCross_8u_C3R, Lum8u, C3, medianCross)
+LUMI_MEDIAN_CODE(lumiFilterMedianCross_8u_AC4R, Lum8u, AC4, medianCross)
+LUMI_MEDIAN_CODE(lumiFilterMedianCross_16s_C1R, Lum16s, C1, medianCross)
+LUMI_MEDIAN_CODE(lumiFilterMedianCross_16s_C3R, Lum16s, C3, medianCross)
+LUMI_MEDIAN_CODE(lumiFilterMedianCross_16s_AC4R, Lum16s, AC4, medianCross)
+LUMI_MEDIAN_CODE(lumiFilterMedianColor_8u_C3R, Lum8u, C3, medianColor)
+LUMI_MEDIAN_CODE(lumiFilterMedianColor_8u_AC4R, Lum8u, AC4, medianColor)
+LUMI_MEDIAN_CODE(lumiFilterMedianColor_16s_C3R, Lum16s, C3, medianColor)
+LUMI_MEDIAN_CODE(lumiFilterMedianColor_16s_AC4R, Lum16s, AC4, medianColor)
+LUMI_MEDIAN_CODE(lumiFilterMedianColor_32f_C3R, Lum32f, C3, medianColor)
+LUMI_MEDIAN_CODE(lumiFilterMedianColor_32f_AC4R, Lum32f, AC4, medianColor)
+LUMI_MINMAX(lumiFilterMin_8u_C1R, Lum8u, C1, false)
+LUMI_MINMAX(lumiFilterMin_8u_C3R, Lum8u, C3, false)
+LUMI_MINMAX(lumiFilterMin_8u_C4R, Lum8u, C4, false)
+LUMI_MINMAX(lumiFilterMin_8u_AC4R, Lum8u, AC4, false)
+LUMI_MINMAX(lumiFilterMin_16s_C1R, Lum16s, C1, false)
+LUMI_MINMAX(lumiFilterMin_16s_C3R, Lum16s, C3, false)
+LUMI_MINMAX(lumiFilterMin_16s_C4R, Lum16s, C4, false)
+LUMI_MINMAX(lumiFilterMin_16s_AC4R, Lum16s, AC4, false)
+LUMI_MINMAX(lumiFilterMin_32f_C1R, Lum32f, C1, false)
+LUMI_MINMAX(lumiFilterMin_32f_C3R, Lum32f, C3, false)
+LUMI_MINMAX(lumiFilterMin_32f_C4R, Lum32f, C4, false)
+LUMI_MINMAX(lumiFilterMin_32f_AC4R, Lum32f, AC4, false)
+LUMI_MINMAX(lumiFilterMax_8u_C1R, Lum8u, C1, true)
+LUMI_MINMAX(lumiFilterMax_8u_C3R, Lum8u, C3, true)
+LUMI_MINMAX(lumiFilterMax_8u_C4R, Lum8u, C4, true)
+LUMI_MINMAX(lumiFilterMax_8u_AC4R, Lum8u, AC4, true)
+LUMI_MINMAX(lumiFilterMax_16s_C1R, Lum16s, C1, true)
+LUMI_MINMAX(lumiFilterMax_16s_C3R, Lum16s, C3, true)
+LUMI_MINMAX(lumiFilterMax_16s_C4R, Lum16s, C4, true)
+LUMI_MINMAX(lumiFilterMax_16s_AC4R, Lum16s, AC4, true)
+LUMI_MINMAX(lumiFilterMax_32f_C1R, Lum32f, C1, true)
+LUMI_MINMAX(lumiFilterMax_32f_C3R, Lum32f, C3, true)
+LUMI_MINMAX(lumiFilterMax_32f_C4R, Lum32f, C4, true)
+LUMI_MINMAX(lumiFilterMax_32f_AC4R, Lum32f, AC4, true)
+}
+#endif
