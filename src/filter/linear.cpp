@@ -83,7 +83,7 @@ template <class T, class K, class L>
 void linearRow(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, int width,
                const K* HWY_RESTRICT kernel, int kw, int kh, const linear::Scale& sc) {
   using A = linear::Acc<K>;
-  constexpr int kCh = L::kCh, U = 4;
+  constexpr int kCh = L::kCh, U = 8;
   constexpr bool kAlpha = L::kUse != L::kCh;
   const hn::ScalableTag<A> da;
   const hn::Rebind<T, decltype(da)> dt;
@@ -93,19 +93,33 @@ void linearRow(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, int 
   const K* last = kernel + (static_cast<std::ptrdiff_t>(kw) * kh - 1);
   const auto colour = colourLanes(dt);
   std::ptrdiff_t e = 0;
+  // Eight named sums (they stay in registers) hide the latency of each sum's chain of additions.
   for (; e + U * N <= n; e += U * N) {
-    V acc[U];
-    for (int u = 0; u < U; ++u) acc[u] = hn::Zero(da);
+    V a0 = hn::Zero(da), a1 = a0, a2 = a0, a3 = a0, a4 = a0, a5 = a0, a6 = a0, a7 = a0;
     const K* tap = last;
     for (int ii = 0; ii < kh; ++ii) {
       const T* p = rowAt(win, srcStep, ii) + e;
       for (int jj = 0; jj < kw; ++jj, --tap, p += kCh) {
         const V t = hn::Set(da, static_cast<A>(*tap));
-        for (int u = 0; u < U; ++u) acc[u] = mulAdd<decltype(da)>(acc[u], t, loadAs(da, p + u * N));
+        a0 = mulAdd<decltype(da)>(a0, t, loadAs(da, p));
+        a1 = mulAdd<decltype(da)>(a1, t, loadAs(da, p + N));
+        a2 = mulAdd<decltype(da)>(a2, t, loadAs(da, p + 2 * N));
+        a3 = mulAdd<decltype(da)>(a3, t, loadAs(da, p + 3 * N));
+        a4 = mulAdd<decltype(da)>(a4, t, loadAs(da, p + 4 * N));
+        a5 = mulAdd<decltype(da)>(a5, t, loadAs(da, p + 5 * N));
+        a6 = mulAdd<decltype(da)>(a6, t, loadAs(da, p + 6 * N));
+        a7 = mulAdd<decltype(da)>(a7, t, loadAs(da, p + 7 * N));
       }
     }
-    for (int u = 0; u < U; ++u)
-      storeColour(dt, finishVec<T>(da, acc[u], sc), dst + e + u * N, kAlpha, colour);
+    T* q = dst + e;
+    storeColour(dt, finishVec<T>(da, a0, sc), q, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, a1, sc), q + N, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, a2, sc), q + 2 * N, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, a3, sc), q + 3 * N, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, a4, sc), q + 4 * N, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, a5, sc), q + 5 * N, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, a6, sc), q + 6 * N, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, a7, sc), q + 7 * N, kAlpha, colour);
   }
   for (; e + N <= n; e += N) {
     V acc = hn::Zero(da);
