@@ -19,6 +19,241 @@
 
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
+
+using fixed::FixedKernel;
+using fixed::Post;
+
+// acc + w x v, with the common weights as additions.
+template <class D>
+HWY_INLINE hn::Vec<D> addTimes(D d, hn::Vec<D> acc, hn::Vec<D> v, int w) {
+  using T = hn::TFromD<D>;
+  if (w == 1) return hn::Add(acc, v);
+  if (w == -1) return hn::Sub(acc, v);
+  if (w == 2) return hn::Add(acc, hn::Add(v, v));
+  if (w == -2) return hn::Sub(acc, hn::Add(v, v));
+  return hn::Add(acc, hn::Mul(v, hn::Set(d, static_cast<T>(w))));
+}
+
+// The integer post step of finishInt on 16- or 32-bit lanes (saturation follows in the
+// demotion). 16-bit nearest division only meets non-negative 8u sums.
+template <class Ts, class Td, class D>
+HWY_INLINE hn::Vec<D> postInt(D d, hn::Vec<D> s, const FixedKernel& fk) {
+  using T = hn::TFromD<D>;
+  switch (fk.post) {
+    case Post::Exact: return s;
+    case Post::Even4:
+      return hn::ShiftRight<4>(hn::Add(hn::Add(s, hn::Set(d, T{7})), hn::And(hn::ShiftRight<4>(s), hn::Set(d, T{1}))));
+    case Post::Even3:
+      return hn::ShiftRight<3>(hn::Add(hn::Add(s, hn::Set(d, T{3})), hn::And(hn::ShiftRight<3>(s), hn::Set(d, T{1}))));
+    case Post::Nearest: break;
+  }
+  if constexpr (sizeof(T) == 2) {
+    const hn::RebindToUnsigned<D> du;
+    const auto n = hn::BitCast(du, hn::Add(s, hn::Set(d, static_cast<T>(fk.bias16))));
+    const auto q = hn::ShiftRightSame(hn::MulHigh(n, hn::Set(du, static_cast<uint16_t>(fk.m16))), fk.sh16);
+    return hn::BitCast(d, q);
+  } else {
+    const hn::Rebind<float, D> df;
+    if (std::is_same_v<Td, uint8_t> && fk.div == 9)
+      return hn::ShiftRight<16>(hn::Mul(hn::Add(s, hn::Set(d, 5)), hn::Set(d, 7281)));
+    if constexpr (sizeof(Ts) == 1) {
+      // sums of 8-bit pixels: S / d is at most 255 x the weights' sum / d and at least 1 / 2d
+      // from any half, far beyond the float product's error, so rounding it is exact
+      const auto q = hn::Round(hn::Mul(hn::ConvertTo(df, s), hn::Set(df, 1.0f / static_cast<float>(fk.div))));
+      return hn::ConvertTo(d, q);
+    }
+    // floor((2S + d) / 2d): a float estimate, then one correction either way
+    const int32_t d2 = 2 * fk.div;
+    const auto n = hn::Add(hn::Add(s, s), hn::Set(d, fk.div));
+    auto q = hn::ConvertTo(d, hn::Floor(hn::Mul(hn::ConvertTo(df, n), hn::Set(df, 1.0f / static_cast<float>(d2)))));
+    const auto r = hn::Sub(n, hn::Mul(q, hn::Set(d, d2)));
+    const auto one = hn::Set(d, 1);
+    q = hn::Add(q, hn::IfThenElseZero(hn::Gt(r, hn::Set(d, d2 - 1)), one));
+    return hn::Sub(q, hn::IfThenElseZero(hn::Lt(r, hn::Zero(d)), one));
+  }
+}
+
+template <class DD, class V>
+HWY_INLINE hn::Vec<DD> toDst(DD dd, V v) {
+  if constexpr (sizeof(hn::TFromD<DD>) == sizeof(hn::TFromV<V>))
+    return v;
+  else
+    return hn::DemoteTo(dd, v);  // saturating
+}
+
+// Separable kernels over 8-bit sources in 16-bit lanes (every sum of these kernels fits): the
+// column pass fills one line over width + k - 1 pixels, the row pass combines it, adds the
+// centre weight and rounds.
+template <class Ts, class Td, class L>
+void sepRow16(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const FixedKernel& fk,
+              int16_t* HWY_RESTRICT line) {
+  constexpr int kCh = L::kCh;
+  constexpr bool kAlpha = L::kUse != L::kCh;
+  const hn::ScalableTag<int16_t> d;
+  const hn::Rebind<Ts, decltype(d)> ds;
+  const hn::Rebind<Td, decltype(d)> dd;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
+  const int k = fk.k, c = k / 2;
+  const std::ptrdiff_t lead = elemsOf(c, kCh), ext = elemsOf(width + k - 1, kCh), n = elemsOf(width, kCh);
+  std::ptrdiff_t e = 0;
+  for (; e + N <= ext; e += N) {
+    auto acc = hn::Zero(d);
+    for (int r = 0; r < k; ++r)
+      if (fk.col[r]) acc = addTimes(d, acc, hn::PromoteTo(d, hn::LoadU(ds, rows[r] - lead + e)), fk.col[r]);
+    hn::StoreU(acc, d, line + e);
+  }
+  for (; e < ext; ++e) {
+    int s = 0;
+    for (int r = 0; r < k; ++r) s += fk.col[r] * rows[r][e - lead];
+    line[e] = static_cast<int16_t>(s);
+  }
+  const auto colour = colourLanes(dd);
+  std::ptrdiff_t i = 0;
+  for (; i + N <= n; i += N) {
+    auto acc = hn::Zero(d);
+    for (int j = 0; j < k; ++j)
+      if (fk.row[j]) acc = addTimes(d, acc, hn::LoadU(d, line + i + elemsOf(j, kCh)), fk.row[j]);
+    if (fk.centre) acc = addTimes(d, acc, hn::PromoteTo(d, hn::LoadU(ds, rows[c] + i)), fk.centre);
+    storeColour(dd, toDst(dd, postInt<Ts, Td>(d, acc, fk)), dst + i, kAlpha, colour);
+  }
+  fixed::fixedFrom<Ts, Td, L>(rows, dst, i, n, fk);
+}
+
+// Kernels symmetric about both axes (the 5x5 Gauss and Laplace) over 8-bit sources: the column
+// pass folds rows 0 and 4, 1 and 3, and keeps one 16-bit line per distinct column of weights
+// (columns 0 = 4, 1 = 3, 2); the row pass adds five line elements in 32-bit lanes. The Gauss
+// lines stay below 2^16 and are read as unsigned, the Laplace lines as signed.
+template <class Ts, class Td, class L>
+void symRow5(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const FixedKernel& fk,
+             int16_t* HWY_RESTRICT line) {
+  constexpr int kCh = L::kCh;
+  constexpr bool kAlpha = L::kUse != L::kCh;
+  const hn::ScalableTag<int16_t> d;
+  const hn::Rebind<Ts, decltype(d)> ds;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
+  const std::ptrdiff_t lead = elemsOf(2, kCh), ext = elemsOf(width + 4, kCh), n = elemsOf(width, kCh);
+  const std::ptrdiff_t ls = (ext + N) & ~(N - 1);
+  int16_t* HWY_RESTRICT c0 = line;
+  int16_t* HWY_RESTRICT c1 = line + ls;
+  int16_t* HWY_RESTRICT c2 = line + 2 * ls;
+  const int* w = fk.w;
+  std::ptrdiff_t e = 0;
+  for (; e + N <= ext; e += N) {
+    const auto a = hn::Add(hn::PromoteTo(d, hn::LoadU(ds, rows[0] - lead + e)),
+                           hn::PromoteTo(d, hn::LoadU(ds, rows[4] - lead + e)));
+    const auto b = hn::Add(hn::PromoteTo(d, hn::LoadU(ds, rows[1] - lead + e)),
+                           hn::PromoteTo(d, hn::LoadU(ds, rows[3] - lead + e)));
+    const auto m = hn::PromoteTo(d, hn::LoadU(ds, rows[2] - lead + e));
+    int16_t* outs[3] = {c0, c1, c2};
+    for (int j = 0; j < 3; ++j) {
+      auto acc = hn::Zero(d);
+      if (w[j]) acc = addTimes(d, acc, a, w[j]);
+      if (w[5 + j]) acc = addTimes(d, acc, b, w[5 + j]);
+      if (w[10 + j]) acc = addTimes(d, acc, m, w[10 + j]);
+      hn::StoreU(acc, d, outs[j] + e);
+    }
+  }
+  for (; e < ext; ++e) {
+    const int a = rows[0][e - lead] + rows[4][e - lead], b = rows[1][e - lead] + rows[3][e - lead];
+    const int m = rows[2][e - lead];
+    c0[e] = static_cast<int16_t>(static_cast<uint16_t>(w[0] * a + w[5] * b + w[10] * m));
+    c1[e] = static_cast<int16_t>(static_cast<uint16_t>(w[1] * a + w[6] * b + w[11] * m));
+    c2[e] = static_cast<int16_t>(static_cast<uint16_t>(w[2] * a + w[7] * b + w[12] * m));
+  }
+  const hn::ScalableTag<int32_t> d32;
+  const hn::Rebind<int16_t, decltype(d32)> dh;
+  const hn::Rebind<uint16_t, decltype(d32)> duh;
+  const hn::Rebind<Td, decltype(d32)> dd;
+  const std::ptrdiff_t N32 = static_cast<std::ptrdiff_t>(hn::Lanes(d32));
+  const bool unsig = fk.symUnsigned;
+  auto ld = [&](const int16_t* p) {
+    return unsig ? hn::PromoteTo(d32, hn::LoadU(duh, reinterpret_cast<const uint16_t*>(p)))
+                 : hn::PromoteTo(d32, hn::LoadU(dh, p));
+  };
+  const auto colour = colourLanes(dd);
+  std::ptrdiff_t i = 0;
+  for (; i + N32 <= n; i += N32) {
+    auto s = hn::Add(hn::Add(ld(c0 + i), ld(c0 + i + 4 * kCh)), hn::Add(ld(c1 + i + kCh), ld(c1 + i + 3 * kCh)));
+    s = hn::Add(s, ld(c2 + i + 2 * kCh));
+    storeColour(dd, toDst(dd, postInt<Ts, Td>(d32, s, fk)), dst + i, kAlpha, colour);
+  }
+  fixed::fixedFrom<Ts, Td, L>(rows, dst, i, n, fk);
+}
+
+// Any kernel over integer sources, tap by tap in 32-bit lanes.
+template <class Ts, class Td, class L>
+void directRow32(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const FixedKernel& fk) {
+  constexpr int kCh = L::kCh;
+  constexpr bool kAlpha = L::kUse != L::kCh;
+  const hn::ScalableTag<int32_t> d;
+  const hn::Rebind<Ts, decltype(d)> ds;
+  const hn::Rebind<Td, decltype(d)> dd;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d)), n = elemsOf(width, kCh);
+  const auto colour = colourLanes(dd);
+  std::ptrdiff_t i = 0;
+  for (; i + N <= n; i += N) {
+    auto acc = hn::Zero(d);
+    for (int t = 0; t < fk.nTaps; ++t) {
+      const fixed::Tap& p = fk.taps[t];
+      acc = addTimes(d, acc, hn::PromoteTo(d, hn::LoadU(ds, rows[p.r] + i + elemsOf(p.dx, kCh))), p.w);
+    }
+    storeColour(dd, toDst(dd, postInt<Ts, Td>(d, acc, fk)), dst + i, kAlpha, colour);
+  }
+  fixed::fixedFrom<Ts, Td, L>(rows, dst, i, n, fk);
+}
+
+// 32f: the same products added in the same order as the plain kernel.
+template <class L>
+void directRowF(const float* const* rows, float* HWY_RESTRICT dst, int width, const FixedKernel& fk) {
+  constexpr int kCh = L::kCh;
+  constexpr bool kAlpha = L::kUse != L::kCh;
+  const hn::ScalableTag<float> d;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d)), n = elemsOf(width, kCh);
+  const auto colour = colourLanes(d);
+  std::ptrdiff_t i = 0;
+  for (; i + N <= n; i += N) {
+    auto acc = hn::Zero(d);
+    for (int t = 0; t < fk.nTaps; ++t) {
+      const fixed::Tap& p = fk.taps[t];
+      acc = hn::Add(acc, hn::Mul(hn::Set(d, p.fw), hn::LoadU(d, rows[p.r] + i + elemsOf(p.dx, kCh))));
+    }
+    if (fk.fpost == fixed::FPost::Scale) acc = hn::Mul(acc, hn::Set(d, fk.fval));
+    if (fk.fpost == fixed::FPost::Divide) acc = hn::Div(acc, hn::Set(d, fk.fval));
+    storeColour(d, acc, dst + i, kAlpha, colour);
+  }
+  fixed::fixedFrom<float, float, L>(rows, dst, i, n, fk);
+}
+
+template <class Ts, class Td, class L>
+void fixedRow(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const FixedKernel& fk, void* line) {
+  if constexpr (std::is_floating_point_v<Ts>) {
+    directRowF<L>(rows, dst, width, fk);
+  } else if constexpr (sizeof(Ts) == 1) {
+    if (fk.sep) return sepRow16<Ts, Td, L>(rows, dst, width, fk, static_cast<int16_t*>(line));
+    if (fk.sym) return symRow5<Ts, Td, L>(rows, dst, width, fk, static_cast<int16_t*>(line));
+    directRow32<Ts, Td, L>(rows, dst, width, fk);
+  } else {
+    directRow32<Ts, Td, L>(rows, dst, width, fk);
+  }
+}
+
+template <class T, class L>
+void robertsRow(const T* HWY_RESTRICT a, const T* HWY_RESTRICT b, T* HWY_RESTRICT dst, int width) {
+  constexpr bool kAlpha = L::kUse != L::kCh;
+  const hn::ScalableTag<T> d;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d)), n = elemsOf(width, L::kCh);
+  const auto colour = colourLanes(d);
+  std::ptrdiff_t i = 0;
+  for (; i + N <= n; i += N) {
+    const auto va = hn::LoadU(d, a + i), vb = hn::LoadU(d, b + i);
+    if constexpr (std::is_floating_point_v<T>)
+      storeColour(d, hn::Sub(va, vb), dst + i, kAlpha, colour);
+    else
+      storeColour(d, hn::SaturatedSub(va, vb), dst + i, kAlpha, colour);
+  }
+  fixed::robertsFrom<T, L>(a, b, dst, i, n);
+}
+
 #endif
 LUMI_SIMD_END
 
@@ -46,6 +281,16 @@ FixedKernel finish(FixedKernel fk) {
                            : static_cast<float>(w);
       fk.taps[fk.nTaps++] = Tap{i, j - c, w, fw};
     }
+  if (fk.k == 5 && !fk.sep) {  // symmetric about both axes?
+    fk.sym = true;
+    fk.symUnsigned = true;
+    for (int i = 0; i < 5; ++i)
+      for (int j = 0; j < 5; ++j) {
+        const int v = fk.w[i * 5 + j];
+        fk.sym = fk.sym && v == fk.w[(4 - i) * 5 + j] && v == fk.w[i * 5 + 4 - j];
+        fk.symUnsigned = fk.symUnsigned && v >= 0;
+      }
+  }
   if (fk.post == Post::Nearest) {  // the 16-bit division of non-negative 8u sums
     if (fk.div == 9) {
       fk.bias16 = 5, fk.m16 = 7281, fk.sh16 = 0;
@@ -156,11 +401,14 @@ void robertsRowScalar(const T* a, const T* b, T* dst, int width) {
 
 template <class Ts, class Td, class L>
 FixedRowFn<Ts, Td> pickFixedRow() {
-  return &fixedRowScalar<Ts, Td, L>;
+  using Fn = FixedRowFn<Ts, Td>;
+  LUMI_SIMD_TABLE(Fn, table, fixedRow<Ts, Td, L>);
+  return pick(table, &fixedRowScalar<Ts, Td, L>);
 }
 template <class T, class L>
 RobertsRowFn<T> pickRobertsRow() {
-  return &robertsRowScalar<T, L>;
+  LUMI_SIMD_TABLE(RobertsRowFn<T>, table, robertsRow<T, L>);
+  return pick(table, &robertsRowScalar<T, L>);
 }
 
 template <class Ts, class Td, class L>
@@ -173,8 +421,9 @@ LumStatus fixedImpl(Kind kind, const Ts* src, int srcStep, Td* dst, int dstStep,
   const FixedKernel& fk = kernelOf(kind, mask == lumMskSize5x5);
   const FixedRowFn<Ts, Td> rowFn = pickFixedRow<Ts, Td, L>();
   const int c = fk.k / 2;
-  // one 16-bit line of column sums per thread, for the separable vector kernels
-  const std::size_t line = static_cast<std::size_t>(bytesOf(roi.width + fk.k, L::kCh, sizeof(int16_t))) + 64;
+  // 16-bit lines of column sums per thread for the vector kernels: one for the separable
+  // kernels, three for the symmetric 5x5 ones
+  const std::size_t line = 3 * static_cast<std::size_t>(bytesOf(roi.width + fk.k, L::kCh, sizeof(int16_t))) + 256;
   return forRowsWithScratch(
       roi.height, forkByWork(roi, fk.k * fk.k, kForkWork), line, [&](int y0, int y1, Lum8u* scratch) {
         const Ts* rows[5];

@@ -38,6 +38,8 @@ struct FixedKernel {
   // w = col (x) row + centre at the middle, when sep is set
   bool sep = false;
   int col[5] = {}, row[5] = {}, centre = 0;
+  // 5x5 weights symmetric about both axes (all of them non-negative: symUnsigned)
+  bool sym = false, symUnsigned = false;
   // 16-bit nearest division of non-negative sums: ((S + bias) x m) >> (16 + sh)
   int bias16 = 0, m16 = 0, sh16 = 0;
   int nTaps = 0;
