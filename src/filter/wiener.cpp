@@ -11,21 +11,173 @@
 #include <climits>
 #include <cmath>
 
-#include "core/frame.h"
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "src/filter/wiener.cpp"
+#include "hwy/foreach_target.h"
+#include "hwy/highway.h"
+#include "core/alpha-inl.h"
+#include "core/simd.h"
 #include "filter/wiener_kernels.h"
 #include "lumi/filter_wiener.h"
 
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+
+// N elements of T from p as double lanes.
+template <class DD, class T>
+HWY_INLINE hn::Vec<DD> loadDouble(DD dd, const T* HWY_RESTRICT p) {
+  if constexpr (std::is_same_v<T, double>) {
+    return hn::LoadU(dd, p);
+  } else if constexpr (std::is_same_v<T, float>) {
+    return hn::PromoteTo(dd, hn::LoadU(hn::Rebind<float, DD>(), p));
+  } else {
+    const hn::Rebind<int32_t, DD> di;
+    return hn::PromoteTo(dd, hn::PromoteTo(di, hn::LoadU(hn::Rebind<T, DD>(), p)));
+  }
+}
+
+// The vector form of sumRowScalar: the same additions in the same order, per lane.
+template <class T, int kCh>
+void sumRow(const T* HWY_RESTRICT in, const T* HWY_RESTRICT out, double* HWY_RESTRICT s,
+            double* HWY_RESTRICT q, std::ptrdiff_t elems, int mw) {
+  const hn::ScalableTag<double> dd;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(dd));
+  std::ptrdiff_t i = 0;
+  for (; i + N <= elems; i += N) {
+    auto a = loadDouble(dd, in + i);
+    auto a2 = hn::Mul(a, a);
+    for (int k = 1; k < mw; ++k) {
+      const auto v = loadDouble(dd, in + i + elemsOf(k, kCh));
+      a = hn::Add(a, v);
+      a2 = hn::Add(a2, hn::Mul(v, v));
+    }
+    if (out) {
+      auto b = loadDouble(dd, out + i);
+      auto b2 = hn::Mul(b, b);
+      for (int k = 1; k < mw; ++k) {
+        const auto v = loadDouble(dd, out + i + elemsOf(k, kCh));
+        b = hn::Add(b, v);
+        b2 = hn::Add(b2, hn::Mul(v, v));
+      }
+      a = hn::Sub(a, b);
+      a2 = hn::Sub(a2, b2);
+    }
+    hn::StoreU(hn::Add(hn::LoadU(dd, s + i), a), dd, s + i);
+    hn::StoreU(hn::Add(hn::LoadU(dd, q + i), a2), dd, q + i);
+  }
+  if (i < elems)
+    wiener::sumRowScalar<T, kCh>(in + i, out ? out + i : nullptr, s + i, q + i, elems - i, mw);
+}
+
+// The vector form of rangeRowScalar: kCh running minima and maxima kCh x N elements apart, so
+// lane j of vector k always holds channel (k N + j) mod kCh; reduced per channel at the end.
+template <class T, class L>
+void rangeRow(const T* HWY_RESTRICT row, int pixels, T* HWY_RESTRICT lo, T* HWY_RESTRICT hi) {
+  constexpr int kCh = L::kCh;
+  const hn::ScalableTag<T> d;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
+  const std::ptrdiff_t elems = elemsOf(pixels, kCh), stride = kCh * N;
+  std::ptrdiff_t i = 0;
+  if (elems >= stride) {
+    hn::Vec<decltype(d)> vlo[kCh], vhi[kCh];
+    for (int k = 0; k < kCh; ++k) vlo[k] = vhi[k] = hn::LoadU(d, row + k * N);
+    for (i = stride; i + stride <= elems; i += stride)
+      for (int k = 0; k < kCh; ++k) {
+        const auto v = hn::LoadU(d, row + i + k * N);
+        vlo[k] = hn::Min(vlo[k], v);
+        vhi[k] = hn::Max(vhi[k], v);
+      }
+    HWY_ALIGN T a[hn::MaxLanes(d)], b[hn::MaxLanes(d)];
+    for (int k = 0; k < kCh; ++k) {
+      hn::Store(vlo[k], d, a);
+      hn::Store(vhi[k], d, b);
+      for (std::ptrdiff_t j = 0; j < N; ++j) {
+        const int c = static_cast<int>((k * N + j) % kCh);
+        if (c >= L::kUse) continue;
+        if (a[j] < lo[c]) lo[c] = a[j];
+        if (b[j] > hi[c]) hi[c] = b[j];
+      }
+    }
+  }
+  wiener::rangeRowScalar<T, L>(row + i, static_cast<int>((elems - i) / kCh), lo, hi);
+}
+
+// Double lanes to pixels: ties to even and saturation for 8u and 16s, the nearest float (the
+// caller holds round-to-nearest) for 32f.
+template <class DD, class T>
+HWY_INLINE hn::Vec<hn::Rebind<T, DD>> toPixels(DD dd, hn::Vec<DD> v) {
+  const hn::Rebind<T, DD> dt;
+  if constexpr (std::is_same_v<T, float>) {
+    return hn::DemoteTo(dt, v);
+  } else {
+    const hn::Rebind<int32_t, DD> di;
+    (void)dd;
+    return hn::DemoteTo(dt, hn::DemoteTo(di, hn::Round(v)));
+  }
+}
+
+// The vector form of filterRowScalar. Lanes take the noise power of their channel from a
+// repeating pattern; AC4 vectors keep the destination's alpha lanes.
+template <class T, class L>
+void filterRow(const T* HWY_RESTRICT src, T* HWY_RESTRICT dst, const double* HWY_RESTRICT s,
+               const double* HWY_RESTRICT q, int width, const wiener::RowParams& p) {
+  constexpr int kCh = L::kCh;
+  constexpr bool kAlpha = L::kUse != L::kCh;
+  const hn::ScalableTag<double> dd;
+  const hn::Rebind<T, decltype(dd)> dt;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(dd));
+  const std::ptrdiff_t elems = elemsOf(width, kCh);
+  HWY_ALIGN double pattern[hn::MaxLanes(dd) + 4];
+  for (std::ptrdiff_t j = 0; j < N + kCh; ++j) pattern[j] = p.power[j % kCh];
+  const auto n = hn::Set(dd, p.n);
+  const auto zero = hn::Zero(dd);
+  std::ptrdiff_t i = 0;
+  int phase = 0;  // i % kCh
+  for (; i + N <= elems; i += N) {
+    const auto power = hn::LoadU(dd, pattern + phase);
+    const auto sv = hn::LoadU(dd, s + i);
+    const auto m = hn::Div(sv, n);
+    auto v = hn::Sub(hn::LoadU(dd, q + i), hn::Div(hn::Mul(sv, sv), n));
+    v = hn::IfThenElse(hn::Lt(v, power), power, v);
+    const auto g = hn::Div(hn::Sub(v, power), v);
+    const auto r = hn::Add(m, hn::Mul(hn::Sub(loadDouble(dd, src + i), m), g));
+    const auto out = toPixels<decltype(dd), T>(dd, hn::IfThenElse(hn::Gt(v, zero), r, m));
+    if constexpr (kAlpha)
+      storeColour(dt, out, dst + i, true, colourLanesAt(dt, static_cast<size_t>(i), 0));
+    else
+      hn::StoreU(out, dt, dst + i);
+    phase = static_cast<int>((phase + N) % kCh);
+  }
+  for (; i < elems; ++i) {
+    const int c = static_cast<int>(i % kCh);
+    if (c >= L::kUse) continue;
+    dst[i] = wiener::toPixel<T>(wiener::wienerValue(static_cast<double>(src[i]), s[i], q[i], p.n,
+                                                    p.power[c]));
+  }
+}
+
+#endif
+LUMI_SIMD_END
+
+#if HWY_ONCE
 namespace lumi {
 namespace wiener {
 namespace {
 
 template <class T, class L>
+RangeRowFn<T> pickRangeRow() {
+  LUMI_SIMD_TABLE(RangeRowFn<T>, table, rangeRow<T, L>);
+  return pick(table, &rangeRowScalar<T, L>);
+}
+template <class T, class L>
 SumRowFn<T> pickSumRow() {
-  return &sumRowScalar<T, L::kCh>;
+  LUMI_SIMD_TABLE(SumRowFn<T>, table, sumRow<T, L::kCh>);
+  return pick(table, &sumRowScalar<T, L::kCh>);
 }
 template <class T, class L>
 FilterRowFn<T> pickFilterRow() {
-  return &filterRowScalar<T, L>;
+  LUMI_SIMD_TABLE(FilterRowFn<T>, table, filterRow<T, L>);
+  return pick(table, &filterRowScalar<T, L>);
 }
 
 // Below this magnitude (the single-precision machine epsilon) a noise value asks for the
@@ -127,6 +279,7 @@ LumStatus run(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, Lumi
   bool anyEstimate = false;
   for (int c = 0; c < kUse; ++c) anyEstimate |= estimate[c] = std::fabs(noise[c]) < kNoiseEpsilon;
   const SumRowFn<T> sumRow = pickSumRow<T, L>();
+  const RangeRowFn<T> rangeRow = pickRangeRow<T, L>();
 
   // Region 1: the range over the band's rows of the source area (the last band also takes the
   // mask.height - 1 rows below the ROI) and the sums of V.
@@ -136,15 +289,7 @@ LumStatus run(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, Lumi
     const int last = y1 == roi.height ? y1 + mask.height - 1 : y1;
     T lo[4], hi[4];
     for (int c = 0; c < kUse; ++c) lo[c] = hi[c] = rowAt(area, srcStep, y0)[c];
-    for (int y = y0; y < last; ++y) {
-      const T* r = rowAt(area, srcStep, y);
-      for (int x = 0; x < areaWidth; ++x)
-        for (int c = 0; c < kUse; ++c) {
-          const T v = r[elemsOf(x, kCh) + c];
-          if (v < lo[c]) lo[c] = v;
-          if (v > hi[c]) hi[c] = v;
-        }
-    }
+    for (int y = y0; y < last; ++y) rangeRow(rowAt(area, srcStep, y), areaWidth, lo, hi);
     for (int c = 0; c < kUse; ++c) {
       sl.lo[c] = static_cast<float>(lo[c]);
       sl.hi[c] = static_cast<float>(hi[c]);
@@ -152,13 +297,15 @@ LumStatus run(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, Lumi
     }
     if (!anyEstimate) return;
     walkSums(sumRow, area, srcStep, elems, mask, y0, y1, sl, [&](int) {
+      // n V = n Q - S^2 summed along the row (exact integers for 8u and 16s until the sum
+      // passes 2^53), one division per row.
       double rowSum[4] = {0, 0, 0, 0};
       for (int x = 0; x < roi.width; ++x)
         for (int c = 0; c < kUse; ++c) {
           const std::ptrdiff_t i = elemsOf(x, kCh) + c;
-          rowSum[c] += sl.q[i] - sl.s[i] * sl.s[i] / n;
+          rowSum[c] += sl.q[i] * n - sl.s[i] * sl.s[i];
         }
-      for (int c = 0; c < kUse; ++c) sl.vsum[c] += rowSum[c];
+      for (int c = 0; c < kUse; ++c) sl.vsum[c] += rowSum[c] / n;
     });
   });
 
@@ -252,3 +399,4 @@ LUMI_FILTER_WIENER(lumiFilterWiener_32f_C3R, Lum32f, C3)
 LUMI_FILTER_WIENER(lumiFilterWiener_32f_C4R, Lum32f, C4)
 LUMI_FILTER_WIENER(lumiFilterWiener_32f_AC4R, Lum32f, AC4)
 }
+#endif  // HWY_ONCE

@@ -53,6 +53,20 @@ void sumRowScalar(const T* in, const T* out, double* s, double* q, std::ptrdiff_
   }
 }
 
+// Lowers lo[c] and raises hi[c] to the extremes of channel c (c < kUse) over `pixels` pixels.
+template <class T>
+using RangeRowFn = void (*)(const T* row, int pixels, T* lo, T* hi);
+
+template <class T, class L>
+void rangeRowScalar(const T* row, int pixels, T* lo, T* hi) {
+  for (int x = 0; x < pixels; ++x)
+    for (int c = 0; c < L::kUse; ++c) {
+      const T v = row[elemsOf(x, L::kCh) + c];
+      if (v < lo[c]) lo[c] = v;
+      if (v > hi[c]) hi[c] = v;
+    }
+}
+
 // Double to pixel: ties to even (the caller holds round-to-nearest) and saturation for 8u and
 // 16s, the nearest float for 32f.
 template <class T>
