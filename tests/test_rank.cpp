@@ -133,7 +133,7 @@ void medianCases() {
     for (LumiSize ms : sizes)
       for (int n = 0; n < 3; ++n) {
         const LumiPoint a{randInt(r, 0, ms.width - 1), randInt(r, 0, ms.height - 1)};
-        LumiSize roi = randomSize(r, 75, 7);
+        LumiSize roi = randomSize(r, 150, 7);
         if (n == 0) roi.width = randInt(r, 1, 3);
         check<T>({ms}, a, roi, layout, kMedian, static_cast<uint32_t>(r()),
                  [&](const T* s, int ss, T* d, int ds, LumiSize ro) {

@@ -97,6 +97,271 @@ inline void extreme2From(const T* a, const T* b, T* out, std::ptrdiff_t from, st
 
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
+
+// ---- median networks on vectors of elements (each lane its own window) ----------------------------
+template <class V>
+HWY_INLINE V med3(V a, V b, V c) {
+  return hn::Max(hn::Min(a, b), hn::Min(hn::Max(a, b), c));
+}
+// The median of five: e against the larger of the pair minima and the smaller of the pair maxima.
+template <class V>
+HWY_INLINE V med5(V a, V b, V c, V d, V e) {
+  return med3(e, hn::Max(hn::Min(a, b), hn::Min(c, d)), hn::Min(hn::Max(a, b), hn::Max(c, d)));
+}
+template <class V>
+HWY_INLINE void sort3(V& a, V& b, V& c) {
+  const V lo = hn::Min(a, b), hi = hn::Max(a, b);
+  a = hn::Min(lo, c);
+  const V m = hn::Max(lo, c);
+  b = hn::Min(m, hi);
+  c = hn::Max(m, hi);
+}
+// The median of nine as three sorted triples: the largest minimum, the middle middle and the
+// smallest maximum hold it.
+template <class V>
+HWY_INLINE V med9(V a0, V a1, V a2, V b0, V b1, V b2, V c0, V c1, V c2) {
+  sort3(a0, a1, a2);
+  sort3(b0, b1, b2);
+  sort3(c0, c1, c2);
+  const V lo = hn::Max(hn::Max(a0, b0), c0);
+  const V hi = hn::Min(hn::Min(a2, b2), c2);
+  return med3(lo, med3(a1, b1, c1), hi);
+}
+
+// Sorts five vectors ascending (nine exchanges).
+template <class V>
+HWY_INLINE void sort5(V& v0, V& v1, V& v2, V& v3, V& v4) {
+  const V t0 = hn::Min(v0, v1);
+  const V t1 = hn::Max(v0, v1);
+  const V t2 = hn::Min(v3, v4);
+  const V t3 = hn::Max(v3, v4);
+  const V t4 = hn::Min(v2, t3);
+  const V t5 = hn::Max(v2, t3);
+  const V t6 = hn::Min(t4, t2);
+  const V t7 = hn::Max(t4, t2);
+  const V t8 = hn::Min(t0, t7);
+  const V t9 = hn::Max(t0, t7);
+  const V t10 = hn::Min(t8, t6);
+  const V t11 = hn::Max(t8, t6);
+  const V t12 = hn::Min(t1, t5);
+  const V t13 = hn::Max(t1, t5);
+  const V t14 = hn::Min(t12, t9);
+  const V t15 = hn::Max(t12, t9);
+  const V t16 = hn::Min(t14, t11);
+  const V t17 = hn::Max(t14, t11);
+  v0 = t10; v1 = t16; v2 = t17; v3 = t15; v4 = t13;
+}
+
+// Merges two ascending runs of five into out[0..9] (odd-even merge, pruned).
+template <class V>
+HWY_INLINE void merge5x5(const V* HWY_RESTRICT a, const V* HWY_RESTRICT b, V* HWY_RESTRICT out) {
+  const V t0 = hn::Min(a[0], b[0]);
+  const V t1 = hn::Max(a[0], b[0]);
+  const V t2 = hn::Min(a[4], b[4]);
+  const V t3 = hn::Max(a[4], b[4]);
+  const V t4 = hn::Min(t2, t1);
+  const V t5 = hn::Max(t2, t1);
+  const V t6 = hn::Min(a[2], b[2]);
+  const V t7 = hn::Max(a[2], b[2]);
+  const V t8 = hn::Min(t6, t4);
+  const V t9 = hn::Max(t6, t4);
+  const V t10 = hn::Min(t7, t5);
+  const V t11 = hn::Max(t7, t5);
+  const V t12 = hn::Min(a[1], b[1]);
+  const V t13 = hn::Max(a[1], b[1]);
+  const V t14 = hn::Min(a[3], b[3]);
+  const V t15 = hn::Max(a[3], b[3]);
+  const V t16 = hn::Min(t14, t13);
+  const V t17 = hn::Max(t14, t13);
+  const V t18 = hn::Min(t12, t8);
+  const V t19 = hn::Max(t12, t8);
+  const V t20 = hn::Min(t16, t9);
+  const V t21 = hn::Max(t16, t9);
+  const V t22 = hn::Min(t17, t10);
+  const V t23 = hn::Max(t17, t10);
+  const V t24 = hn::Min(t15, t11);
+  const V t25 = hn::Max(t15, t11);
+  out[0] = t0;
+  out[1] = t18;
+  out[2] = t19;
+  out[3] = t20;
+  out[4] = t21;
+  out[5] = t22;
+  out[6] = t23;
+  out[7] = t24;
+  out[8] = t25;
+  out[9] = t3;
+}
+
+// The 13th smallest of two ascending runs of ten (p, q) and one of five (c): the runs p and q
+// merged as far as the rank needs, then the rank taken against c.
+template <class V>
+HWY_INLINE V select13(const V* HWY_RESTRICT p, const V* HWY_RESTRICT q, const V* HWY_RESTRICT c) {
+  const V t1 = hn::Max(p[0], q[0]);
+  const V t2 = hn::Min(p[8], q[8]);
+  const V t4 = hn::Min(t2, t1);
+  const V t5 = hn::Max(t2, t1);
+  const V t6 = hn::Min(p[4], q[4]);
+  const V t7 = hn::Max(p[4], q[4]);
+  const V t9 = hn::Max(t6, t4);
+  const V t10 = hn::Min(t7, t5);
+  const V t13 = hn::Max(p[2], q[2]);
+  const V t14 = hn::Min(p[6], q[6]);
+  const V t16 = hn::Min(t14, t13);
+  const V t17 = hn::Max(t14, t13);
+  const V t21 = hn::Max(t16, t9);
+  const V t22 = hn::Min(t17, t10);
+  const V t23 = hn::Max(t17, t10);
+  const V t27 = hn::Max(p[1], q[1]);
+  const V t28 = hn::Min(p[9], q[9]);
+  const V t30 = hn::Min(t28, t27);
+  const V t31 = hn::Max(t28, t27);
+  const V t32 = hn::Min(p[5], q[5]);
+  const V t33 = hn::Max(p[5], q[5]);
+  const V t35 = hn::Max(t32, t30);
+  const V t36 = hn::Min(t33, t31);
+  const V t39 = hn::Max(p[3], q[3]);
+  const V t40 = hn::Min(p[7], q[7]);
+  const V t42 = hn::Min(t40, t39);
+  const V t43 = hn::Max(t40, t39);
+  const V t46 = hn::Min(t42, t35);
+  const V t47 = hn::Max(t42, t35);
+  const V t48 = hn::Min(t43, t36);
+  const V t58 = hn::Min(t46, t21);
+  const V t59 = hn::Max(t46, t21);
+  const V t60 = hn::Min(t47, t22);
+  const V t61 = hn::Max(t47, t22);
+  const V t62 = hn::Min(t48, t23);
+  const V t63 = hn::Max(t48, t23);
+  const V t70 = hn::Max(t62, c[0]);
+  const V t71 = hn::Max(t61, c[1]);
+  const V t72 = hn::Max(t60, c[2]);
+  const V t73 = hn::Max(t59, c[3]);
+  const V t74 = hn::Max(t58, c[4]);
+  const V t75 = hn::Min(t63, t70);
+  const V t76 = hn::Min(t75, t71);
+  const V t77 = hn::Min(t76, t72);
+  const V t78 = hn::Min(t77, t73);
+  const V t79 = hn::Min(t78, t74);
+  return t79;
+}
+
+// A fixed shape whose taps are loaded directly: rows 3 and 5 wide, columns, crosses, the 3x3
+// square. The last partial vector is redone as a whole vector ending at the row's end; rows
+// shorter than a vector take the scalar kernel.
+template <class T, int kCh, bool kAlpha, int kShape>
+void shapeRow(const T* HWY_RESTRICT centre, int step, T* HWY_RESTRICT out, std::ptrdiff_t elems,
+              T* scratch) {
+  const hn::ScalableTag<T> d;
+  using V = hn::Vec<decltype(d)>;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
+  if (elems < N) {
+    rank::shapeRowFrom<T, kCh, kAlpha, kShape>(centre, step, out, 0, elems);
+    return;
+  }
+  const auto colour = colourLanes(d);
+  const T* up2 = rowAt(centre, step, -2);
+  const T* up1 = rowAt(centre, step, -1);
+  const T* dn1 = rowAt(centre, step, 1);
+  const T* dn2 = rowAt(centre, step, 2);
+  constexpr std::ptrdiff_t c1 = kCh, c2 = 2 * kCh;
+  if constexpr (kShape == rank::kSquare5) {
+    // Columns sorted once, merged in neighbouring pairs once, then each pixel takes the 13th
+    // value of its two pairs and its fifth column. Column i of the buffers is source element
+    // i - 2 kCh; the row of sorted columns k is s + k * span, pair rank k is pr + k * span.
+    const std::ptrdiff_t span = elems + 4 * kCh;
+    T* s = scratch;
+    T* pr = scratch + 5 * span;
+    auto sortColumns = [&](std::ptrdiff_t i) {
+      const std::ptrdiff_t e = i - c2;
+      V v0 = hn::LoadU(d, up2 + e), v1 = hn::LoadU(d, up1 + e), v2 = hn::LoadU(d, centre + e),
+        v3 = hn::LoadU(d, dn1 + e), v4 = hn::LoadU(d, dn2 + e);
+      sort5(v0, v1, v2, v3, v4);
+      hn::StoreU(v0, d, s + i);
+      hn::StoreU(v1, d, s + span + i);
+      hn::StoreU(v2, d, s + 2 * span + i);
+      hn::StoreU(v3, d, s + 3 * span + i);
+      hn::StoreU(v4, d, s + 4 * span + i);
+    };
+    auto mergePairs = [&](std::ptrdiff_t i) {
+      V a[5], b[5], m[10];
+      for (int k = 0; k < 5; ++k) {
+        a[k] = hn::LoadU(d, s + k * span + i);
+        b[k] = hn::LoadU(d, s + k * span + i + c1);
+      }
+      merge5x5(a, b, m);
+      for (int k = 0; k < 10; ++k) hn::StoreU(m[k], d, pr + k * span + i);
+    };
+    auto select = [&](std::ptrdiff_t e) {
+      V p[10], q[10], c[5];
+      for (int k = 0; k < 10; ++k) {
+        p[k] = hn::LoadU(d, pr + k * span + e);
+        q[k] = hn::LoadU(d, pr + k * span + e + c2);
+      }
+      for (int k = 0; k < 5; ++k) c[k] = hn::LoadU(d, s + k * span + e + 2 * c2);
+      storeColour(d, select13(p, q, c), out + e, kAlpha, colour);
+    };
+    auto sweep = [&](std::ptrdiff_t n, auto&& f) {
+      std::ptrdiff_t i = 0;
+      for (; i + N <= n; i += N) f(i);
+      if (i < n) f(n - N);
+    };
+    sweep(span, sortColumns);
+    sweep(span - c1, mergePairs);
+    sweep(elems, select);
+    return;
+  }
+  auto at = [&](const T* r, std::ptrdiff_t e) { return hn::LoadU(d, r + e); };
+  auto one = [&](std::ptrdiff_t e) {
+    V m;
+    if constexpr (kShape == rank::kHoriz3) {
+      m = med3(at(centre, e - c1), at(centre, e), at(centre, e + c1));
+    } else if constexpr (kShape == rank::kHoriz5) {
+      m = med5(at(centre, e - c2), at(centre, e - c1), at(centre, e + c1), at(centre, e + c2),
+               at(centre, e));
+    } else if constexpr (kShape == rank::kVert3) {
+      m = med3(at(up1, e), at(centre, e), at(dn1, e));
+    } else if constexpr (kShape == rank::kVert5) {
+      m = med5(at(up2, e), at(up1, e), at(dn1, e), at(dn2, e), at(centre, e));
+    } else if constexpr (kShape == rank::kCross3) {
+      m = med5(at(up1, e), at(dn1, e), at(centre, e - c1), at(centre, e + c1), at(centre, e));
+    } else if constexpr (kShape == rank::kCross5) {
+      m = med9(at(up2, e), at(up1, e), at(dn1, e), at(dn2, e), at(centre, e), at(centre, e - c2),
+               at(centre, e - c1), at(centre, e + c1), at(centre, e + c2));
+    } else {  // the 3x3 square, by columns
+      m = med9(at(up1, e - c1), at(centre, e - c1), at(dn1, e - c1), at(up1, e), at(centre, e),
+               at(dn1, e), at(up1, e + c1), at(centre, e + c1), at(dn1, e + c1));
+    }
+    storeColour(d, m, out + e, kAlpha, colour);
+  };
+  std::ptrdiff_t e = 0;
+  for (; e + N <= elems; e += N) one(e);
+  if (e < elems) one(elems - N);  // a pixel boundary: N and elems are multiples of 4 for AC4
+  (void)scratch;
+}
+
+// out[e] = extremum(a[e], b[e]) in increasing e (out may be a, b may run ahead in the same
+// buffer, so the tail is finished by the scalar loop, never redone).
+template <class T, bool kMax, bool kAlpha>
+void extreme2(const T* a, const T* b, T* out, std::ptrdiff_t n) {
+  const hn::ScalableTag<T> d;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
+  const auto colour = colourLanes(d);
+  std::ptrdiff_t e = 0;
+  for (; e + 2 * N <= n; e += 2 * N) {
+    const auto a0 = hn::LoadU(d, a + e), a1 = hn::LoadU(d, a + e + N);
+    const auto b0 = hn::LoadU(d, b + e), b1 = hn::LoadU(d, b + e + N);
+    if constexpr (kMax) {
+      storeColour(d, hn::Max(a0, b0), out + e, kAlpha, colour);
+      storeColour(d, hn::Max(a1, b1), out + e + N, kAlpha, colour);
+    } else {
+      storeColour(d, hn::Min(a0, b0), out + e, kAlpha, colour);
+      storeColour(d, hn::Min(a1, b1), out + e + N, kAlpha, colour);
+    }
+  }
+  rank::extreme2From<T, kMax, kAlpha>(a, b, out, e, n);
+}
+
 #endif
 LUMI_SIMD_END
 
@@ -120,11 +385,15 @@ void shapeRowScalar(const T* centre, int step, T* out, std::ptrdiff_t elems, T*)
 
 template <class T, int kCh, bool kAlpha, int kShape>
 ShapeRowFn<T> pickShapeRow() {
-  return &shapeRowScalar<T, kCh, kAlpha, kShape>;
+  LUMI_SIMD_TABLE(ShapeRowFn<T>, table, shapeRow<T, kCh, kAlpha, kShape>);
+  return pick(table, &shapeRowScalar<T, kCh, kAlpha, kShape>);
 }
 
-// Scratch elements a fixed-shape row kernel needs for a row of `elems` elements.
-inline std::ptrdiff_t shapeScratch(int, std::ptrdiff_t) { return 0; }
+// Scratch elements a fixed-shape row kernel needs for a row of `elems` elements: the 5x5
+// square keeps five rows of sorted columns and ten of merged pairs, four pixels wider.
+inline std::ptrdiff_t shapeScratch(int shape, std::ptrdiff_t elems, int kCh) {
+  return shape == kSquare5 ? 15 * (elems + 4 * kCh) : 0;
+}
 
 template <class T>
 using Extreme2Fn = void (*)(const T*, const T*, T*, std::ptrdiff_t);
@@ -136,7 +405,8 @@ void extreme2Scalar(const T* a, const T* b, T* out, std::ptrdiff_t n) {
 
 template <class T, bool kMax, bool kAlpha>
 Extreme2Fn<T> pickExtreme2() {
-  return &extreme2Scalar<T, kMax, kAlpha>;
+  LUMI_SIMD_TABLE(Extreme2Fn<T>, table, extreme2<T, kMax, kAlpha>);
+  return pick(table, &extreme2Scalar<T, kMax, kAlpha>);
 }
 
 // ---- copies (1x1 masks) ------------------------------------------------------------------------
@@ -163,7 +433,7 @@ LumStatus runShape(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi)
   constexpr bool kAlpha = L::kUse < L::kCh;
   const auto kernel = pickShapeRow<T, L::kCh, kAlpha, kShape>();
   const std::ptrdiff_t elems = elemsOf(roi.width, L::kCh);
-  const std::ptrdiff_t scratch = shapeScratch(kShape, elems);
+  const std::ptrdiff_t scratch = shapeScratch(kShape, elems, L::kCh);
   const bool parallel = forkByWork(roi, tapsOf(kShape), kForkWork);
   if (scratch == 0) {
     forRows(roi.height, parallel, [&](int y0, int y1) {
