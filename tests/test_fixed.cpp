@@ -125,9 +125,14 @@ double expected(const Taps& t, double sum) {
   }
 }
 
+// Random values (mode 0), only the type's two ends (1), or its maximum everywhere (2): the
+// last two drive the sums to their limits.
 template <class Ts>
-void fillSource(GuardedImage<Ts>& src, Rng& rng) {
-  if constexpr (std::is_floating_point_v<Ts>)
+void fillSource(GuardedImage<Ts>& src, Rng& rng, int mode = 0) {
+  using Lim = std::numeric_limits<Ts>;
+  if (mode != 0 && !std::is_floating_point_v<Ts>)
+    src.fill([&](int, int, int) { return mode == 2 || randInt(rng, 0, 1) ? Lim::max() : Lim::min(); });
+  else if constexpr (std::is_floating_point_v<Ts>)
     src.fill([&](int, int, int) { return static_cast<Ts>(randInt(rng, -100000, 100000) / 100.0); });
   else
     src.fillRandom(rng);
@@ -136,14 +141,14 @@ void fillSource(GuardedImage<Ts>& src, Rng& rng) {
 // Source with a two-pixel border (random), destination prefilled (random); checks every ROI
 // element against the reference, AC4 alpha and the guards.
 template <class Ts, class Td>
-void checkEntry(const Entry<Ts, Td>& e, bool five, int w, int h, uint32_t seed) {
+void checkEntry(const Entry<Ts, Td>& e, bool five, int w, int h, uint32_t seed, int mode = 0) {
   const Layout L = e.layout;
   const Taps t = tapsOf(e.filter, five);
   const int c = t.k / 2;
   Rng rng = makeRng(seed);
   GuardedImage<Ts> src(w + 4, h + 4, L.ch, -1, -1, seed);
   GuardedImage<Td> dst(w, h, L.ch, -1, -1, seed + 1);
-  fillSource(src, rng);
+  fillSource(src, rng, mode);
   dst.fillRandom(rng);
   const std::vector<Td> before = dst.pixels();
   ASSERT_EQ(e.call(&src.at(2, 2), src.step(), dst.ptr(), dst.step(), dst.roi(), five ? 55 : 33), lumStatusOk)
@@ -189,6 +194,8 @@ void checkAll(const std::vector<Entry<Ts, Td>>& table) {
       for (const Shape& s : kShapes) {
         ThreadCount tc(s.threads);
         checkEntry(e, five, s.w, s.h, seed++);
+        if (s.w == 67) checkEntry(e, five, s.w, s.h, seed++, 1);
+        if (s.w == 37) checkEntry(e, five, s.w, s.h, seed++, 2);
         if (::testing::Test::HasFatalFailure()) return;
       }
     }

@@ -160,22 +160,57 @@ void symRow5(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixed
     c1[e] = static_cast<int16_t>(static_cast<uint16_t>(w[1] * a + w[6] * b + w[11] * m));
     c2[e] = static_cast<int16_t>(static_cast<uint16_t>(w[2] * a + w[7] * b + w[12] * m));
   }
-  const hn::ScalableTag<int32_t> d32;
-  const hn::Rebind<int16_t, decltype(d32)> dh;
-  const hn::Rebind<uint16_t, decltype(d32)> duh;
-  const hn::Rebind<Td, decltype(d32)> dd;
-  const std::ptrdiff_t N32 = static_cast<std::ptrdiff_t>(hn::Lanes(d32));
-  const bool unsig = fk.symUnsigned;
-  auto ld = [&](const int16_t* p) {
-    return unsig ? hn::PromoteTo(d32, hn::LoadU(duh, reinterpret_cast<const uint16_t*>(p)))
-                 : hn::PromoteTo(d32, hn::LoadU(dh, p));
-  };
-  const auto colour = colourLanes(dd);
   std::ptrdiff_t i = 0;
-  for (; i + N32 <= n; i += N32) {
-    auto s = hn::Add(hn::Add(ld(c0 + i), ld(c0 + i + 4 * kCh)), hn::Add(ld(c1 + i + kCh), ld(c1 + i + 3 * kCh)));
-    s = hn::Add(s, ld(c2 + i + 2 * kCh));
-    storeColour(dd, toDst(dd, postInt<Ts, Td>(d32, s, fk)), dst + i, kAlpha, colour);
+  if (fk.post == Post::Exact || (fk.post == Post::Nearest && fk.symUnsigned)) {
+    // Row pass in 16-bit lanes. Exact sums (Laplace) fit. Sums that do not (Gauss, up to
+    // 571 x 255) are known modulo 2^16; a quotient from the lines shifted right by 3 is at most
+    // 1.2 below S / div, so S - div x quotient, taken modulo 2^16, is the true remainder (0 to
+    // about 1.2 div), and two comparisons round it to nearest.
+    const hn::RebindToUnsigned<decltype(d)> du;
+    const hn::Rebind<Td, decltype(d)> dd;
+    const auto colour = colourLanes(dd);
+    const bool divide = fk.post == Post::Nearest;
+    const auto m = hn::Set(du, static_cast<uint16_t>(fk.m5));
+    const auto dv = hn::Set(du, static_cast<uint16_t>(fk.div));
+    const auto half = hn::Set(d, static_cast<int16_t>(fk.div / 2));
+    const auto half3 = hn::Set(d, static_cast<int16_t>(fk.div + fk.div / 2));
+    for (; i + N <= n; i += N) {
+      const auto a0 = hn::LoadU(du, reinterpret_cast<const uint16_t*>(c0 + i));
+      const auto a4 = hn::LoadU(du, reinterpret_cast<const uint16_t*>(c0 + i + 4 * kCh));
+      const auto a1 = hn::LoadU(du, reinterpret_cast<const uint16_t*>(c1 + i + kCh));
+      const auto a3 = hn::LoadU(du, reinterpret_cast<const uint16_t*>(c1 + i + 3 * kCh));
+      const auto a2 = hn::LoadU(du, reinterpret_cast<const uint16_t*>(c2 + i + 2 * kCh));
+      const auto sum = hn::Add(hn::Add(hn::Add(a0, a4), hn::Add(a1, a3)), a2);
+      auto v = hn::BitCast(d, sum);
+      if (divide) {
+        const auto sa = hn::Add(hn::Add(hn::Add(hn::ShiftRight<3>(a0), hn::ShiftRight<3>(a4)),
+                                        hn::Add(hn::ShiftRight<3>(a1), hn::ShiftRight<3>(a3))),
+                                hn::ShiftRight<3>(a2));
+        const auto q = hn::MulHigh(sa, m);
+        const auto r = hn::BitCast(d, hn::Sub(sum, hn::Mul(q, dv)));
+        v = hn::BitCast(d, q);
+        v = hn::Sub(v, hn::VecFromMask(d, hn::Gt(r, half)));  // true lanes are -1
+        v = hn::Sub(v, hn::VecFromMask(d, hn::Gt(r, half3)));
+      }
+      storeColour(dd, toDst(dd, v), dst + i, kAlpha, colour);
+    }
+  } else {
+    const hn::ScalableTag<int32_t> d32;
+    const hn::Rebind<int16_t, decltype(d32)> dh;
+    const hn::Rebind<uint16_t, decltype(d32)> duh;
+    const hn::Rebind<Td, decltype(d32)> dd;
+    const std::ptrdiff_t N32 = static_cast<std::ptrdiff_t>(hn::Lanes(d32));
+    const bool unsig = fk.symUnsigned;
+    auto ld = [&](const int16_t* p) {
+      return unsig ? hn::PromoteTo(d32, hn::LoadU(duh, reinterpret_cast<const uint16_t*>(p)))
+                   : hn::PromoteTo(d32, hn::LoadU(dh, p));
+    };
+    const auto colour = colourLanes(dd);
+    for (; i + N32 <= n; i += N32) {
+      auto s = hn::Add(hn::Add(ld(c0 + i), ld(c0 + i + 4 * kCh)), hn::Add(ld(c1 + i + kCh), ld(c1 + i + 3 * kCh)));
+      s = hn::Add(s, ld(c2 + i + 2 * kCh));
+      storeColour(dd, toDst(dd, postInt<Ts, Td>(d32, s, fk)), dst + i, kAlpha, colour);
+    }
   }
   fixed::fixedFrom<Ts, Td, L>(rows, dst, i, n, fk);
 }
@@ -291,6 +326,8 @@ FixedKernel finish(FixedKernel fk) {
         fk.symUnsigned = fk.symUnsigned && v >= 0;
       }
   }
+  if (fk.sym && fk.post == Post::Nearest)  // the quotient estimate of the 16-bit 5x5 row pass
+    fk.m5 = static_cast<int>(65536.0 * 8 / fk.div);  // rounded down: the estimate stays below
   if (fk.post == Post::Nearest) {  // the 16-bit division of non-negative 8u sums
     if (fk.div == 9) {
       fk.bias16 = 5, fk.m16 = 7281, fk.sh16 = 0;

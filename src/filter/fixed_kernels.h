@@ -40,6 +40,7 @@ struct FixedKernel {
   int col[5] = {}, row[5] = {}, centre = 0;
   // 5x5 weights symmetric about both axes (all of them non-negative: symUnsigned)
   bool sym = false, symUnsigned = false;
+  int m5 = 0;  // 2^16 x 8 / div, for the quotient estimate of their 16-bit row pass
   // 16-bit nearest division of non-negative sums: ((S + bias) x m) >> (16 + sh)
   int bias16 = 0, m16 = 0, sh16 = 0;
   int nTaps = 0;
