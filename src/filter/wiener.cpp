@@ -6,7 +6,9 @@
 //   2. the filter: window sums S and Q per destination element, slid down the band one source
 //      row in and one out, then one destination row from them.
 // The window sums are doubles, exact for 8u and 16s; every later step is the same double
-// arithmetic in the plain and the vector kernels, so their results agree bit for bit.
+// arithmetic, in the same order, in the plain and the vector kernels, so their results agree
+// bit for bit for every type (32f included; only a NaN in a 32f source may give the two another
+// range). The sums of V of the estimate are plain code on both paths.
 #include <algorithm>
 #include <climits>
 #include <cmath>
@@ -232,9 +234,10 @@ int forRowsWithSlices(int height, int threads, Lum8u* base, std::size_t sliceByt
   return team;
 }
 
-// Walks S and Q down rows [y0, y1) of the destination, calling row(y, slice) for each: the
-// first window is summed whole, then each step adds source row y + mh and drops row y (rows
-// of the source area, whose row 0 is the mask's top row for destination row 0).
+// Walks S and Q down rows [y0, y1) of the destination, calling row(y) once they hold row y's
+// windows: the first window is summed whole, then each step adds source row y + mask.height
+// and drops row y (rows of the source area, whose row 0 is the top of destination row 0's
+// mask).
 template <class T, class Row>
 void walkSums(SumRowFn<T> sumRow, const T* area, int srcStep, std::ptrdiff_t elems,
               LumiSize mask, int y0, int y1, const Slice& sl, Row&& row) {
