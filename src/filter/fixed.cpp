@@ -81,25 +81,52 @@ HWY_INLINE hn::Vec<DD> toDst(DD dd, V v) {
     return hn::DemoteTo(dd, v);  // saturating
 }
 
+// The weights of a kernel as the vector kernels read them: from the table entry at run time,
+// or, for the common kernels, as constants, so that their loops carry no tests on the weights.
+struct RunTaps {
+  const FixedKernel& fk;
+  int k() const { return fk.k; }
+  int col(int i) const { return fk.col[i]; }
+  int row(int j) const { return fk.row[j]; }
+  int centre() const { return fk.centre; }
+  int w(int i) const { return fk.w[i]; }
+};
+template <int K, int C0, int C1, int C2, int R0, int R1, int R2, int CE>
+struct SepTaps3 {
+  static constexpr int k() { return K; }
+  static constexpr int col(int i) { return i == 0 ? C0 : i == 1 ? C1 : i == 2 ? C2 : 0; }
+  static constexpr int row(int j) { return j == 0 ? R0 : j == 1 ? R1 : j == 2 ? R2 : 0; }
+  static constexpr int centre() { return CE; }
+};
+// The upper-left quarter of a 5x5 kernel symmetric about both axes: w(i x 5 + j), i, j < 3.
+template <int A0, int A1, int A2, int B0, int B1, int B2, int M0, int M1, int M2>
+struct SymTaps5 {
+  static constexpr int w(int i) {
+    return i == 0 ? A0 : i == 1 ? A1 : i == 2 ? A2 : i == 5 ? B0 : i == 6 ? B1 : i == 7 ? B2
+         : i == 10 ? M0 : i == 11 ? M1 : i == 12 ? M2 : 0;
+  }
+};
+
 // Separable kernels over 8-bit sources in 16-bit lanes (every sum of these kernels fits): the
 // column pass fills one line over width + k - 1 pixels, the row pass combines it, adds the
 // centre weight and rounds.
-template <class Ts, class Td, class L>
+template <class Ts, class Td, class L, class W>
 void sepRow16(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const FixedKernel& fk,
-              int16_t* HWY_RESTRICT line) {
+              int16_t* HWY_RESTRICT line, W tw) {
   constexpr int kCh = L::kCh;
   constexpr bool kAlpha = L::kUse != L::kCh;
   const hn::ScalableTag<int16_t> d;
   const hn::Rebind<Ts, decltype(d)> ds;
   const hn::Rebind<Td, decltype(d)> dd;
   const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
-  const int k = fk.k, c = k / 2;
+  const int k = tw.k(), c = k / 2;
   const std::ptrdiff_t lead = elemsOf(c, kCh), ext = elemsOf(width + k - 1, kCh), n = elemsOf(width, kCh);
   std::ptrdiff_t e = 0;
   for (; e + N <= ext; e += N) {
     auto acc = hn::Zero(d);
+#pragma GCC unroll 5
     for (int r = 0; r < k; ++r)
-      if (fk.col[r]) acc = addTimes(d, acc, hn::PromoteTo(d, hn::LoadU(ds, rows[r] - lead + e)), fk.col[r]);
+      if (tw.col(r)) acc = addTimes(d, acc, hn::PromoteTo(d, hn::LoadU(ds, rows[r] - lead + e)), tw.col(r));
     hn::StoreU(acc, d, line + e);
   }
   for (; e < ext; ++e) {
@@ -111,9 +138,10 @@ void sepRow16(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixe
   std::ptrdiff_t i = 0;
   for (; i + N <= n; i += N) {
     auto acc = hn::Zero(d);
+#pragma GCC unroll 5
     for (int j = 0; j < k; ++j)
-      if (fk.row[j]) acc = addTimes(d, acc, hn::LoadU(d, line + i + elemsOf(j, kCh)), fk.row[j]);
-    if (fk.centre) acc = addTimes(d, acc, hn::PromoteTo(d, hn::LoadU(ds, rows[c] + i)), fk.centre);
+      if (tw.row(j)) acc = addTimes(d, acc, hn::LoadU(d, line + i + elemsOf(j, kCh)), tw.row(j));
+    if (tw.centre()) acc = addTimes(d, acc, hn::PromoteTo(d, hn::LoadU(ds, rows[c] + i)), tw.centre());
     storeColour(dd, toDst(dd, postInt<Ts, Td>(d, acc, fk)), dst + i, kAlpha, colour);
   }
   fixed::fixedFrom<Ts, Td, L>(rows, dst, i, n, fk);
@@ -123,9 +151,9 @@ void sepRow16(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixe
 // pass folds rows 0 and 4, 1 and 3, and keeps one 16-bit line per distinct column of weights
 // (columns 0 = 4, 1 = 3, 2); the row pass adds five line elements in 32-bit lanes. The Gauss
 // lines stay below 2^16 and are read as unsigned, the Laplace lines as signed.
-template <class Ts, class Td, class L>
+template <class Ts, class Td, class L, class W>
 void symRow5(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const FixedKernel& fk,
-             int16_t* HWY_RESTRICT line) {
+             int16_t* HWY_RESTRICT line, W tw) {
   constexpr int kCh = L::kCh;
   constexpr bool kAlpha = L::kUse != L::kCh;
   const hn::ScalableTag<int16_t> d;
@@ -136,7 +164,6 @@ void symRow5(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixed
   int16_t* HWY_RESTRICT c0 = line;
   int16_t* HWY_RESTRICT c1 = line + ls;
   int16_t* HWY_RESTRICT c2 = line + 2 * ls;
-  const int* w = fk.w;
   std::ptrdiff_t e = 0;
   for (; e + N <= ext; e += N) {
     const auto a = hn::Add(hn::PromoteTo(d, hn::LoadU(ds, rows[0] - lead + e)),
@@ -145,14 +172,16 @@ void symRow5(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixed
                            hn::PromoteTo(d, hn::LoadU(ds, rows[3] - lead + e)));
     const auto m = hn::PromoteTo(d, hn::LoadU(ds, rows[2] - lead + e));
     int16_t* outs[3] = {c0, c1, c2};
+#pragma GCC unroll 3
     for (int j = 0; j < 3; ++j) {
       auto acc = hn::Zero(d);
-      if (w[j]) acc = addTimes(d, acc, a, w[j]);
-      if (w[5 + j]) acc = addTimes(d, acc, b, w[5 + j]);
-      if (w[10 + j]) acc = addTimes(d, acc, m, w[10 + j]);
+      if (tw.w(j)) acc = addTimes(d, acc, a, tw.w(j));
+      if (tw.w(5 + j)) acc = addTimes(d, acc, b, tw.w(5 + j));
+      if (tw.w(10 + j)) acc = addTimes(d, acc, m, tw.w(10 + j));
       hn::StoreU(acc, d, outs[j] + e);
     }
   }
+  const int* w = fk.w;
   for (; e < ext; ++e) {
     const int a = rows[0][e - lead] + rows[4][e - lead], b = rows[1][e - lead] + rows[3][e - lead];
     const int m = rows[2][e - lead];
@@ -264,8 +293,20 @@ void fixedRow(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixe
   if constexpr (std::is_floating_point_v<Ts>) {
     directRowF<L>(rows, dst, width, fk);
   } else if constexpr (sizeof(Ts) == 1) {
-    if (fk.sep) return sepRow16<Ts, Td, L>(rows, dst, width, fk, static_cast<int16_t*>(line));
-    if (fk.sym) return symRow5<Ts, Td, L>(rows, dst, width, fk, static_cast<int16_t*>(line));
+    int16_t* l16 = static_cast<int16_t*>(line);
+    switch (fk.hot) {
+      case fixed::Hot::Gauss3: return sepRow16<Ts, Td, L>(rows, dst, width, fk, l16, SepTaps3<3, 1, 2, 1, 1, 2, 1, 0>());
+      case fixed::Hot::SobelVert3: return sepRow16<Ts, Td, L>(rows, dst, width, fk, l16, SepTaps3<3, 1, 2, 1, 1, 0, -1, 0>());
+      case fixed::Hot::SobelHoriz3: return sepRow16<Ts, Td, L>(rows, dst, width, fk, l16, SepTaps3<3, -1, 0, 1, 1, 2, 1, 0>());
+      case fixed::Hot::ScharrVert: return sepRow16<Ts, Td, L>(rows, dst, width, fk, l16, SepTaps3<3, 3, 10, 3, 1, 0, -1, 0>());
+      case fixed::Hot::ScharrHoriz: return sepRow16<Ts, Td, L>(rows, dst, width, fk, l16, SepTaps3<3, -1, 0, 1, 3, 10, 3, 0>());
+      case fixed::Hot::Laplace3: return sepRow16<Ts, Td, L>(rows, dst, width, fk, l16, SepTaps3<3, 1, 1, 1, -1, -1, -1, 9>());
+      case fixed::Hot::Gauss5: return symRow5<Ts, Td, L>(rows, dst, width, fk, l16, SymTaps5<2, 7, 12, 7, 31, 52, 12, 52, 127>());
+      case fixed::Hot::Laplace5: return symRow5<Ts, Td, L>(rows, dst, width, fk, l16, SymTaps5<-1, -3, -4, -3, 0, 6, -4, 6, 20>());
+      case fixed::Hot::None: break;
+    }
+    if (fk.sep) return sepRow16<Ts, Td, L>(rows, dst, width, fk, l16, RunTaps{fk});
+    if (fk.sym) return symRow5<Ts, Td, L>(rows, dst, width, fk, l16, RunTaps{fk});
     directRow32<Ts, Td, L>(rows, dst, width, fk);
   } else {
     directRow32<Ts, Td, L>(rows, dst, width, fk);
@@ -298,6 +339,31 @@ namespace fixed {
 
 namespace {
 
+// The kernels the vector code has with constant weights (which must match the tables there).
+Hot hotOf(const FixedKernel& fk) {
+  struct Known {
+    Hot hot;
+    int k;
+    int w[25];
+  };
+  static const Known known[] = {
+      {Hot::Gauss3, 3, {1, 2, 1, 2, 4, 2, 1, 2, 1}},
+      {Hot::SobelVert3, 3, {1, 0, -1, 2, 0, -2, 1, 0, -1}},
+      {Hot::SobelHoriz3, 3, {-1, -2, -1, 0, 0, 0, 1, 2, 1}},
+      {Hot::ScharrVert, 3, {3, 0, -3, 10, 0, -10, 3, 0, -3}},
+      {Hot::ScharrHoriz, 3, {-3, -10, -3, 0, 0, 0, 3, 10, 3}},
+      {Hot::Laplace3, 3, {-1, -1, -1, -1, 8, -1, -1, -1, -1}},
+      {Hot::Gauss5, 5, {2, 7, 12, 7, 2, 7, 31, 52, 31, 7, 12, 52, 127, 52, 12, 7, 31, 52, 31, 7, 2, 7, 12, 7, 2}},
+      {Hot::Laplace5, 5, {-1, -3, -4, -3, -1, -3, 0, 6, 0, -3, -4, 6, 20, 6, -4, -3, 0, 6, 0, -3, -1, -3, -4, -3, -1}},
+  };
+  for (const Known& h : known) {
+    bool same = h.k == fk.k && fk.sep == (h.k == 3);
+    for (int i = 0; same && i < fk.k * fk.k; ++i) same = h.w[i] == fk.w[i];
+    if (same) return h.hot;
+  }
+  return Hot::None;
+}
+
 FixedKernel finish(FixedKernel fk) {
   const int c = fk.k / 2;
   if (fk.sep) {
@@ -326,6 +392,7 @@ FixedKernel finish(FixedKernel fk) {
         fk.symUnsigned = fk.symUnsigned && v >= 0;
       }
   }
+  fk.hot = hotOf(fk);
   if (fk.sym && fk.post == Post::Nearest)  // the quotient estimate of the 16-bit 5x5 row pass
     fk.m5 = static_cast<int>(65536.0 * 8 / fk.div);  // rounded down: the estimate stays below
   if (fk.post == Post::Nearest) {  // the 16-bit division of non-negative 8u sums

@@ -21,6 +21,9 @@ enum class Post : int { Exact, Even4, Even3, Nearest };
 // What follows the float sum: nothing, a product with a power-of-two reciprocal, a division.
 enum class FPost : int { None, Scale, Divide };
 
+// Kernels the vector code has with constant weights.
+enum class Hot : int { None, Gauss3, SobelVert3, SobelHoriz3, ScharrVert, ScharrHoriz, Laplace3, Gauss5, Laplace5 };
+
 struct Tap {
   int r;   // source row 0 .. k - 1 (row y - k/2 + r)
   int dx;  // column offset from the pixel, -k/2 .. k/2
@@ -40,7 +43,8 @@ struct FixedKernel {
   int col[5] = {}, row[5] = {}, centre = 0;
   // 5x5 weights symmetric about both axes (all of them non-negative: symUnsigned)
   bool sym = false, symUnsigned = false;
-  int m5 = 0;  // 2^16 x 8 / div, for the quotient estimate of their 16-bit row pass
+  int m5 = 0;
+  Hot hot = Hot::None;  // 2^16 x 8 / div, for the quotient estimate of their 16-bit row pass
   // 16-bit nearest division of non-negative sums: ((S + bias) x m) >> (16 + sh)
   int bias16 = 0, m16 = 0, sh16 = 0;
   int nTaps = 0;
