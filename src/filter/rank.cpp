@@ -98,6 +98,9 @@ inline void extreme2From(const T* a, const T* b, T* out, std::ptrdiff_t from, st
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
 
+// Elements of one strip of the 5x5 square (a multiple of every vector's lanes and of 4).
+constexpr std::ptrdiff_t kStrip = 512;
+
 // ---- median networks on vectors of elements (each lane its own window) ----------------------------
 template <class V>
 HWY_INLINE V med3(V a, V b, V c) {
@@ -153,24 +156,25 @@ HWY_INLINE void sort5(V& v0, V& v1, V& v2, V& v3, V& v4) {
 }
 
 // Merges two ascending runs of five into out[0..9] (odd-even merge, pruned).
-template <class V>
-HWY_INLINE void merge5x5(const V* HWY_RESTRICT a, const V* HWY_RESTRICT b, V* HWY_RESTRICT out) {
-  const V t0 = hn::Min(a[0], b[0]);
-  const V t1 = hn::Max(a[0], b[0]);
-  const V t2 = hn::Min(a[4], b[4]);
-  const V t3 = hn::Max(a[4], b[4]);
+// a(k) and b(k) load rank k of each run, out(k, v) stores rank k of the result.
+template <class V, class A, class B, class Out>
+HWY_INLINE void merge5x5(A a, B b, Out out) {
+  const V t0 = hn::Min(a(0), b(0));
+  const V t1 = hn::Max(a(0), b(0));
+  const V t2 = hn::Min(a(4), b(4));
+  const V t3 = hn::Max(a(4), b(4));
   const V t4 = hn::Min(t2, t1);
   const V t5 = hn::Max(t2, t1);
-  const V t6 = hn::Min(a[2], b[2]);
-  const V t7 = hn::Max(a[2], b[2]);
+  const V t6 = hn::Min(a(2), b(2));
+  const V t7 = hn::Max(a(2), b(2));
   const V t8 = hn::Min(t6, t4);
   const V t9 = hn::Max(t6, t4);
   const V t10 = hn::Min(t7, t5);
   const V t11 = hn::Max(t7, t5);
-  const V t12 = hn::Min(a[1], b[1]);
-  const V t13 = hn::Max(a[1], b[1]);
-  const V t14 = hn::Min(a[3], b[3]);
-  const V t15 = hn::Max(a[3], b[3]);
+  const V t12 = hn::Min(a(1), b(1));
+  const V t13 = hn::Max(a(1), b(1));
+  const V t14 = hn::Min(a(3), b(3));
+  const V t15 = hn::Max(a(3), b(3));
   const V t16 = hn::Min(t14, t13);
   const V t17 = hn::Max(t14, t13);
   const V t18 = hn::Min(t12, t8);
@@ -181,47 +185,49 @@ HWY_INLINE void merge5x5(const V* HWY_RESTRICT a, const V* HWY_RESTRICT b, V* HW
   const V t23 = hn::Max(t17, t10);
   const V t24 = hn::Min(t15, t11);
   const V t25 = hn::Max(t15, t11);
-  out[0] = t0;
-  out[1] = t18;
-  out[2] = t19;
-  out[3] = t20;
-  out[4] = t21;
-  out[5] = t22;
-  out[6] = t23;
-  out[7] = t24;
-  out[8] = t25;
-  out[9] = t3;
+  out(0, t0);
+  out(1, t18);
+  out(2, t19);
+  out(3, t20);
+  out(4, t21);
+  out(5, t22);
+  out(6, t23);
+  out(7, t24);
+  out(8, t25);
+  out(9, t3);
 }
 
 // The 13th smallest of two ascending runs of ten (p, q) and one of five (c): the runs p and q
 // merged as far as the rank needs, then the rank taken against c.
-template <class V>
-HWY_INLINE V select13(const V* HWY_RESTRICT p, const V* HWY_RESTRICT q, const V* HWY_RESTRICT c) {
-  const V t1 = hn::Max(p[0], q[0]);
-  const V t2 = hn::Min(p[8], q[8]);
+// p(k), q(k) and c(k) load rank k of each run where it is used, so the operands come from
+// memory rather than from registers spilled to the stack.
+template <class V, class P, class Q, class C>
+HWY_INLINE V select13(P p, Q q, C c) {
+  const V t1 = hn::Max(p(0), q(0));
+  const V t2 = hn::Min(p(8), q(8));
   const V t4 = hn::Min(t2, t1);
   const V t5 = hn::Max(t2, t1);
-  const V t6 = hn::Min(p[4], q[4]);
-  const V t7 = hn::Max(p[4], q[4]);
+  const V t6 = hn::Min(p(4), q(4));
+  const V t7 = hn::Max(p(4), q(4));
   const V t9 = hn::Max(t6, t4);
   const V t10 = hn::Min(t7, t5);
-  const V t13 = hn::Max(p[2], q[2]);
-  const V t14 = hn::Min(p[6], q[6]);
+  const V t13 = hn::Max(p(2), q(2));
+  const V t14 = hn::Min(p(6), q(6));
   const V t16 = hn::Min(t14, t13);
   const V t17 = hn::Max(t14, t13);
   const V t21 = hn::Max(t16, t9);
   const V t22 = hn::Min(t17, t10);
   const V t23 = hn::Max(t17, t10);
-  const V t27 = hn::Max(p[1], q[1]);
-  const V t28 = hn::Min(p[9], q[9]);
+  const V t27 = hn::Max(p(1), q(1));
+  const V t28 = hn::Min(p(9), q(9));
   const V t30 = hn::Min(t28, t27);
   const V t31 = hn::Max(t28, t27);
-  const V t32 = hn::Min(p[5], q[5]);
-  const V t33 = hn::Max(p[5], q[5]);
+  const V t32 = hn::Min(p(5), q(5));
+  const V t33 = hn::Max(p(5), q(5));
   const V t35 = hn::Max(t32, t30);
   const V t36 = hn::Min(t33, t31);
-  const V t39 = hn::Max(p[3], q[3]);
-  const V t40 = hn::Min(p[7], q[7]);
+  const V t39 = hn::Max(p(3), q(3));
+  const V t40 = hn::Min(p(7), q(7));
   const V t42 = hn::Min(t40, t39);
   const V t43 = hn::Max(t40, t39);
   const V t46 = hn::Min(t42, t35);
@@ -233,11 +239,11 @@ HWY_INLINE V select13(const V* HWY_RESTRICT p, const V* HWY_RESTRICT q, const V*
   const V t61 = hn::Max(t47, t22);
   const V t62 = hn::Min(t48, t23);
   const V t63 = hn::Max(t48, t23);
-  const V t70 = hn::Max(t62, c[0]);
-  const V t71 = hn::Max(t61, c[1]);
-  const V t72 = hn::Max(t60, c[2]);
-  const V t73 = hn::Max(t59, c[3]);
-  const V t74 = hn::Max(t58, c[4]);
+  const V t70 = hn::Max(t62, c(0));
+  const V t71 = hn::Max(t61, c(1));
+  const V t72 = hn::Max(t60, c(2));
+  const V t73 = hn::Max(t59, c(3));
+  const V t74 = hn::Max(t58, c(4));
   const V t75 = hn::Min(t63, t70);
   const V t76 = hn::Min(t75, t71);
   const V t77 = hn::Min(t76, t72);
@@ -267,48 +273,51 @@ void shapeRow(const T* HWY_RESTRICT centre, int step, T* HWY_RESTRICT out, std::
   constexpr std::ptrdiff_t c1 = kCh, c2 = 2 * kCh;
   if constexpr (kShape == rank::kSquare5) {
     // Columns sorted once, merged in neighbouring pairs once, then each pixel takes the 13th
-    // value of its two pairs and its fifth column. Column i of the buffers is source element
-    // i - 2 kCh; the row of sorted columns k is s + k * span, pair rank k is pr + k * span.
-    const std::ptrdiff_t span = elems + 4 * kCh;
+    // value of its two pairs and its fifth column. The row goes in strips of kStrip elements so
+    // that the fifteen buffer rows stay in the first-level cache; a last strip shorter than a
+    // vector starts earlier and redoes a few pixels. Column i of a strip's buffers is source
+    // element e0 + i - 2 kCh; sorted rank k is s + k * kSpan, pair rank k is pr + k * kSpan.
+    constexpr std::ptrdiff_t kSpan = kStrip + 4 * kCh;
     T* s = scratch;
-    T* pr = scratch + 5 * span;
-    auto sortColumns = [&](std::ptrdiff_t i) {
-      const std::ptrdiff_t e = i - c2;
-      V v0 = hn::LoadU(d, up2 + e), v1 = hn::LoadU(d, up1 + e), v2 = hn::LoadU(d, centre + e),
-        v3 = hn::LoadU(d, dn1 + e), v4 = hn::LoadU(d, dn2 + e);
-      sort5(v0, v1, v2, v3, v4);
-      hn::StoreU(v0, d, s + i);
-      hn::StoreU(v1, d, s + span + i);
-      hn::StoreU(v2, d, s + 2 * span + i);
-      hn::StoreU(v3, d, s + 3 * span + i);
-      hn::StoreU(v4, d, s + 4 * span + i);
-    };
-    auto mergePairs = [&](std::ptrdiff_t i) {
-      V a[5], b[5], m[10];
-      for (int k = 0; k < 5; ++k) {
-        a[k] = hn::LoadU(d, s + k * span + i);
-        b[k] = hn::LoadU(d, s + k * span + i + c1);
+    T* pr = scratch + 5 * kSpan;
+    for (std::ptrdiff_t e0 = 0; e0 < elems; e0 += kStrip) {
+      std::ptrdiff_t n = elems - e0 < kStrip ? elems - e0 : kStrip;
+      if (n < N) {
+        e0 = elems - N;
+        n = N;
       }
-      merge5x5(a, b, m);
-      for (int k = 0; k < 10; ++k) hn::StoreU(m[k], d, pr + k * span + i);
-    };
-    auto select = [&](std::ptrdiff_t e) {
-      V p[10], q[10], c[5];
-      for (int k = 0; k < 10; ++k) {
-        p[k] = hn::LoadU(d, pr + k * span + e);
-        q[k] = hn::LoadU(d, pr + k * span + e + c2);
-      }
-      for (int k = 0; k < 5; ++k) c[k] = hn::LoadU(d, s + k * span + e + 2 * c2);
-      storeColour(d, select13(p, q, c), out + e, kAlpha, colour);
-    };
-    auto sweep = [&](std::ptrdiff_t n, auto&& f) {
-      std::ptrdiff_t i = 0;
-      for (; i + N <= n; i += N) f(i);
-      if (i < n) f(n - N);
-    };
-    sweep(span, sortColumns);
-    sweep(span - c1, mergePairs);
-    sweep(elems, select);
+      const std::ptrdiff_t span = n + 4 * kCh;
+      auto sortColumns = [&](std::ptrdiff_t i) {
+        const std::ptrdiff_t e = e0 + i - c2;
+        V v0 = hn::LoadU(d, up2 + e), v1 = hn::LoadU(d, up1 + e), v2 = hn::LoadU(d, centre + e),
+          v3 = hn::LoadU(d, dn1 + e), v4 = hn::LoadU(d, dn2 + e);
+        sort5(v0, v1, v2, v3, v4);
+        hn::StoreU(v0, d, s + i);
+        hn::StoreU(v1, d, s + kSpan + i);
+        hn::StoreU(v2, d, s + 2 * kSpan + i);
+        hn::StoreU(v3, d, s + 3 * kSpan + i);
+        hn::StoreU(v4, d, s + 4 * kSpan + i);
+      };
+      auto mergePairs = [&](std::ptrdiff_t i) {
+        merge5x5<V>([&](int k) { return hn::LoadU(d, s + k * kSpan + i); },
+                    [&](int k) { return hn::LoadU(d, s + k * kSpan + i + c1); },
+                    [&](int k, V v) { hn::StoreU(v, d, pr + k * kSpan + i); });
+      };
+      auto select = [&](std::ptrdiff_t i) {
+        const V m = select13<V>([&](int k) { return hn::LoadU(d, pr + k * kSpan + i); },
+                                [&](int k) { return hn::LoadU(d, pr + k * kSpan + i + c2); },
+                                [&](int k) { return hn::LoadU(d, s + k * kSpan + i + 2 * c2); });
+        storeColour(d, m, out + e0 + i, kAlpha, colour);
+      };
+      auto sweep = [&](std::ptrdiff_t len, auto&& f) {
+        std::ptrdiff_t i = 0;
+        for (; i + N <= len; i += N) f(i);
+        if (i < len) f(len - N);
+      };
+      sweep(span, sortColumns);
+      sweep(span - c1, mergePairs);
+      sweep(n, select);
+    }
     return;
   }
   auto at = [&](const T* r, std::ptrdiff_t e) { return hn::LoadU(d, r + e); };
@@ -390,9 +399,11 @@ ShapeRowFn<T> pickShapeRow() {
 }
 
 // Scratch elements a fixed-shape row kernel needs for a row of `elems` elements: the 5x5
-// square keeps five rows of sorted columns and ten of merged pairs, four pixels wider.
+// square keeps five rows of sorted columns and ten of merged pairs, for strips of 512 elements
+// and four pixels more.
 inline std::ptrdiff_t shapeScratch(int shape, std::ptrdiff_t elems, int kCh) {
-  return shape == kSquare5 ? 15 * (elems + 4 * kCh) : 0;
+  (void)elems;
+  return shape == kSquare5 ? 15 * (512 + 4 * kCh) : 0;  // one strip of the vector kernel
 }
 
 template <class T>
