@@ -530,10 +530,20 @@ LumStatus fixedImpl(Kind kind, const Ts* src, int srcStep, Td* dst, int dstStep,
   const std::size_t line = 3 * static_cast<std::size_t>(bytesOf(roi.width + fk.k, L::kCh, sizeof(int16_t))) + 256;
   return forRowsWithScratch(
       roi.height, forkByWork(roi, fk.k * fk.k, kForkWork), line, [&](int y0, int y1, Lum8u* scratch) {
-        const Ts* rows[5];
-        for (int y = y0; y < y1; ++y) {
-          for (int r = 0; r < fk.k; ++r) rows[r] = rowAt(src, srcStep, y - c + r);
-          rowFn(rows, rowAt(dst, dstStep, y), roi.width, fk, scratch);
+        auto band = [&] {
+          const Ts* rows[5];
+          for (int y = y0; y < y1; ++y) {
+            for (int r = 0; r < fk.k; ++r) rows[r] = rowAt(src, srcStep, y - c + r);
+            rowFn(rows, rowAt(dst, dstStep, y), roi.width, fk, scratch);
+          }
+        };
+        // 16s sums divided to nearest (low-pass, Gauss 5x5) run in round-to-nearest mode, each
+        // thread under its own guard; their integer arithmetic gives the same in any mode
+        if (std::is_same_v<Ts, Lum16s> && fk.post == Post::Nearest) {
+          NearestRounding nearest;
+          band();
+        } else {
+          band();
         }
       });
 }
