@@ -128,7 +128,7 @@ template <class T>
 void medianCases() {
   Rng r = makeRng(sizeof(T));
   const LumiSize sizes[] = {{3, 3}, {5, 5}, {3, 1}, {5, 1}, {1, 3}, {1, 5}, {1, 1},
-                            {7, 3}, {1, 7}, {9, 1}, {3, 5}, {7, 7}, {11, 9}};
+                            {7, 3}, {1, 7}, {9, 1}, {3, 5}, {7, 7}, {11, 9}, {17, 17}};
   for (int layout = 0; layout < 4; ++layout)
     for (LumiSize ms : sizes)
       for (int n = 0; n < 3; ++n) {

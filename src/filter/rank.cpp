@@ -2,8 +2,10 @@
 // minimum and maximum over rectangular masks.
 //
 // Medians are exact for every type: each kernel selects the middle value, and the vector
-// networks give the value the plain sort-and-pick twin gives, bit for bit. The general median of
-// 8u slides a 256-bin histogram along each row; of 16s it sorts each window. The minimum and
+// networks give the value the plain sort-and-pick twin gives, bit for bit. The general median's
+// plain kernels slide a 256-bin histogram along each row (8u) or sort each window (16s); its
+// vector kernel finds each lane's middle value one bit at a time by counting the window's
+// values below a candidate, and so agrees with them exactly. The minimum and
 // maximum are separable: the row pass doubles the span it covers (1, 2, 4, ... pixels, then
 // one overlapping step to the mask width), the column pass takes prefix and suffix extrema over
 // blocks of mask-height rows, so a pixel costs a few comparisons whatever the mask. Both passes
@@ -89,6 +91,55 @@ inline void extreme2From(const T* a, const T* b, T* out, std::ptrdiff_t from, st
     if (kAlpha && (e & 3) == 3) continue;
     out[e] = extreme<kMax>(a[e], b[e]);
   }
+}
+
+// General median of one row. 8u: for each channel, the histogram of the first window, then the
+// window slides one pixel at a time (the leaving column out, the entering one in) and the
+// median is walked to from the previous one, keeping the count of values below it. `top` is
+// the top-left corner of the first window.
+template <int kCh, int kUse>
+void medianHistRow(const Lum8u* top, int step, Lum8u* out, int width, LumiSize ms) {
+  const int rank = ms.width * ms.height / 2 + 1;
+  std::uint32_t hist[256];
+  for (int c = 0; c < kUse; ++c) {
+    std::memset(hist, 0, sizeof(hist));
+    for (int i = 0; i < ms.height; ++i) {
+      const Lum8u* r = rowAt(top, step, i) + c;
+      for (int j = 0; j < ms.width; ++j) ++hist[r[j * kCh]];
+    }
+    int med = 0, below = 0;
+    for (int x = 0;; ++x) {
+      while (below + static_cast<int>(hist[med]) < rank) below += hist[med++];
+      while (below >= rank) below -= hist[--med];
+      out[elemsOf(x, kCh) + c] = static_cast<Lum8u>(med);
+      if (x + 1 == width) break;
+      const std::ptrdiff_t leave = elemsOf(x, kCh) + c, enter = elemsOf(x + ms.width, kCh) + c;
+      for (int i = 0; i < ms.height; ++i) {
+        const Lum8u* r = rowAt(top, step, i);
+        const int a = r[leave], b = r[enter];
+        --hist[a];
+        below -= a < med;
+        ++hist[b];
+        below += b < med;
+      }
+    }
+  }
+}
+
+// 16s: each window gathered and partly sorted (`window` holds one).
+template <class T, int kCh, int kUse>
+void medianSortRow(const T* top, int step, T* out, int width, LumiSize ms, T* window) {
+  const int n = ms.width * ms.height;
+  for (int x = 0; x < width; ++x)
+    for (int c = 0; c < kUse; ++c) {
+      int k = 0;
+      for (int i = 0; i < ms.height; ++i) {
+        const T* r = rowAt(top, step, i) + elemsOf(x, kCh) + c;
+        for (int j = 0; j < ms.width; ++j) window[k++] = r[j * kCh];
+      }
+      std::nth_element(window, window + n / 2, window + n);
+      out[elemsOf(x, kCh) + c] = window[n / 2];
+    }
 }
 
 }  // namespace rank
@@ -371,6 +422,52 @@ void extreme2(const T* a, const T* b, T* out, std::ptrdiff_t n) {
   rank::extreme2From<T, kMax, kAlpha>(a, b, out, e, n);
 }
 
+// General median by bits: each lane finds its window's middle value one bit at a time, from
+// the top, keeping a bit when fewer than rank values lie below the candidate. Counts are kept
+// in lanes of T, so windows of up to 255 (8u) or 32767 (16s) values take this kernel. Signed
+// values are searched in the order of their sign-flipped bits.
+template <class T, int kCh, bool kAlpha, int kUse>
+void medianBitsRow(const T* HWY_RESTRICT top, int step, T* HWY_RESTRICT out, int width,
+                   LumiSize ms, T* window) {
+  const hn::ScalableTag<T> d;
+  using V = hn::Vec<decltype(d)>;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
+  const std::ptrdiff_t elems = elemsOf(width, kCh);
+  const int n = ms.width * ms.height;
+  if (elems < N || n > static_cast<int>(std::numeric_limits<T>::max())) {
+    if constexpr (sizeof(T) == 1)
+      rank::medianHistRow<kCh, kUse>(top, step, out, width, ms);
+    else
+      rank::medianSortRow<T, kCh, kUse>(top, step, out, width, ms, window);
+    return;
+  }
+  constexpr int kBits = 8 * sizeof(T);
+  using U = hwy::MakeUnsigned<T>;
+  const V flip = hn::BitCast(d, hn::Set(hn::RebindToUnsigned<decltype(d)>(),
+                                        static_cast<U>(std::is_signed_v<T> ? U(1) << (kBits - 1) : 0)));
+  const V rank = hn::Set(d, static_cast<T>(n / 2 + 1));
+  const V one = hn::Set(d, T{1});
+  const auto colour = colourLanes(d);
+  auto one_vector = [&](std::ptrdiff_t e) {
+    V r = hn::Zero(d);  // in the flipped order
+    for (int b = kBits - 1; b >= 0; --b) {
+      const V t = hn::Or(r, hn::ShiftLeftSame(one, b));
+      const V ts = hn::Xor(t, flip);
+      V count = hn::Zero(d);
+      for (int i = 0; i < ms.height; ++i) {
+        const T* row = rowAt(top, step, i) + e;
+        for (int j = 0; j < ms.width; ++j)
+          count = hn::Sub(count, hn::VecFromMask(d, hn::Lt(hn::LoadU(d, row + j * kCh), ts)));
+      }
+      r = hn::IfThenElse(hn::Lt(count, rank), t, r);
+    }
+    storeColour(d, hn::Xor(r, flip), out + e, kAlpha, colour);
+  };
+  std::ptrdiff_t e = 0;
+  for (; e + N <= elems; e += N) one_vector(e);
+  if (e < elems) one_vector(elems - N);
+}
+
 #endif
 LUMI_SIMD_END
 
@@ -477,88 +574,38 @@ LumStatus runShapeCode(const T* src, int srcStep, T* dst, int dstStep, LumiSize 
   }
 }
 
-// ---- general median --------------------------------------------------------------------------
-// 8u: for each row and channel, the histogram of the first window, then the window slides one
-// pixel at a time (the leaving column out, the entering one in) and the median is walked to
-// from the previous one, keeping the count of values below it. `src` is the top-left corner of
-// the first window.
-template <class L>
-void medianHistRows(const Lum8u* src, int srcStep, Lum8u* dst, int dstStep, LumiSize roi,
-                    LumiSize ms, int y0, int y1) {
-  constexpr int kCh = L::kCh;
-  const int rank = ms.width * ms.height / 2 + 1;
-  std::uint32_t hist[256];
-  for (int y = y0; y < y1; ++y) {
-    const Lum8u* top = rowAt(src, srcStep, y);
-    Lum8u* out = rowAt(dst, dstStep, y);
-    for (int c = 0; c < L::kUse; ++c) {
-      std::memset(hist, 0, sizeof(hist));
-      for (int i = 0; i < ms.height; ++i) {
-        const Lum8u* r = rowAt(top, srcStep, i) + c;
-        for (int j = 0; j < ms.width; ++j) ++hist[r[j * kCh]];
-      }
-      int med = 0, below = 0;
-      for (int x = 0;; ++x) {
-        while (below + static_cast<int>(hist[med]) < rank) below += hist[med++];
-        while (below >= rank) below -= hist[--med];
-        out[elemsOf(x, kCh) + c] = static_cast<Lum8u>(med);
-        if (x + 1 == roi.width) break;
-        const std::ptrdiff_t leave = elemsOf(x, kCh) + c, enter = elemsOf(x + ms.width, kCh) + c;
-        for (int i = 0; i < ms.height; ++i) {
-          const Lum8u* r = rowAt(top, srcStep, i);
-          const int a = r[leave], b = r[enter];
-          --hist[a];
-          below -= a < med;
-          ++hist[b];
-          below += b < med;
-        }
-      }
-    }
-  }
+// A general median row: top-left of the first window, step, destination, width, mask, and a
+// window's worth of scratch.
+template <class T>
+using GeneralRowFn = void (*)(const T*, int, T*, int, LumiSize, T*);
+
+template <class T, int kCh, bool kAlpha, int kUse>
+void generalRowScalar(const T* top, int step, T* out, int width, LumiSize ms, T* window) {
+  if constexpr (sizeof(T) == 1)
+    medianHistRow<kCh, kUse>(top, step, out, width, ms);
+  else
+    medianSortRow<T, kCh, kUse>(top, step, out, width, ms, window);
 }
 
-// 16s: each window gathered and partly sorted (scratch: one window).
-template <class T, class L>
-void medianSortRows(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, LumiSize ms,
-                    int y0, int y1, T* window) {
-  constexpr int kCh = L::kCh;
-  const int n = ms.width * ms.height;
-  for (int y = y0; y < y1; ++y) {
-    const T* top = rowAt(src, srcStep, y);
-    T* out = rowAt(dst, dstStep, y);
-    for (int x = 0; x < roi.width; ++x)
-      for (int c = 0; c < L::kUse; ++c) {
-        int k = 0;
-        for (int i = 0; i < ms.height; ++i) {
-          const T* r = rowAt(top, srcStep, i) + elemsOf(x, kCh) + c;
-          for (int j = 0; j < ms.width; ++j) window[k++] = r[j * kCh];
-        }
-        std::nth_element(window, window + n / 2, window + n);
-        out[elemsOf(x, kCh) + c] = window[n / 2];
-      }
-  }
+template <class T, int kCh, bool kAlpha, int kUse>
+GeneralRowFn<T> pickGeneralRow() {
+  LUMI_SIMD_TABLE(GeneralRowFn<T>, table, medianBitsRow<T, kCh, kAlpha, kUse>);
+  return pick(table, &generalRowScalar<T, kCh, kAlpha, kUse>);
 }
 
 template <class T, class L>
 LumStatus medianGeneral(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi,
                         LumiSize ms) {
+  const auto kernel = pickGeneralRow<T, L::kCh, (L::kUse < L::kCh), L::kUse>();
   const long long taps = static_cast<long long>(ms.width) * ms.height;
-  if constexpr (std::is_same_v<T, Lum8u>) {
-    const bool parallel = forkByWork(roi, 2LL * ms.height + 8, kForkWork);
-    forRows(roi.height, parallel, [&](int y0, int y1) {
-      medianHistRows<L>(src, srcStep, dst, dstStep, roi, ms, y0, y1);
-    });
-    return lumStatusOk;
-  } else {
-    const bool parallel = forkByWork(roi, taps, kForkWork);
-    const long long bytes = taps * static_cast<long long>(sizeof(T));
-    if (bytes > INT_MAX / 2) return lumStatusMemAllocErr;
-    return forRowsWithScratch(roi.height, parallel, static_cast<std::size_t>(bytes),
-                              [&](int y0, int y1, Lum8u* s) {
-                                medianSortRows<T, L>(src, srcStep, dst, dstStep, roi, ms, y0, y1,
-                                                     reinterpret_cast<T*>(s));
-                              });
-  }
+  const long long bytes = taps * static_cast<long long>(sizeof(T));
+  if (bytes > INT_MAX / 2) return lumStatusMemAllocErr;
+  return forRowsWithScratch(roi.height, forkByWork(roi, taps, kForkWork),
+                            static_cast<std::size_t>(bytes), [&](int y0, int y1, Lum8u* s) {
+                              for (int y = y0; y < y1; ++y)
+                                kernel(rowAt(src, srcStep, y), srcStep, rowAt(dst, dstStep, y),
+                                       roi.width, ms, reinterpret_cast<T*>(s));
+                            });
 }
 
 // ---- checks --------------------------------------------------------------------------------------
