@@ -3,10 +3,16 @@
 // column kernels are 2-D kernels of one row or one column, so every export runs the same code.
 // The plain kernels and the scale record are in linear_kernels.h.
 //
-// Vector kernels: each lane computes one destination element with the same operations in the
-// same order as the plain kernel (taps in the order of the definition, a product rounded and
-// then added, no fused multiply-add; integer sums modulo 2^32), so integer and float results
-// alike equal the plain kernels' bit for bit: the tolerance is zero.
+// Vector kernels, one destination row at a time:
+//   - linearRow: one 32-bit lane per destination element (float, or integer products modulo
+//     2^32), every tap in the definition's order;
+//   - integer kernels whose taps all fit in 16 bits multiply-add two taps at once in 16-bit
+//     pairs: linearRowPairs for one-channel rows of kernels at least two taps wide (neighbouring
+//     taps of a kernel row), linearRowZip for the others (any two consecutive taps).
+// Each lane computes its element with the same operations in the same order as the plain kernel
+// (a product rounded and then added, no fused multiply-add; integer sums modulo 2^32, where the
+// order does not matter), so integer and float results alike equal the plain kernels' bit for
+// bit: the tolerance is zero.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/filter/linear.cpp"
 #include "hwy/foreach_target.h"
@@ -34,41 +40,44 @@ HWY_INLINE hn::Vec<DA> loadAs(DA da, const T* HWY_RESTRICT p) {
   }
 }
 
+// Integer sums scaled as the divisor says and clamped to T's range, still in 32-bit lanes (the
+// caller holds round-to-nearest). Integers are clamped before they narrow: some targets'
+// 32-to-8-bit narrowing passes through a signed 16-bit step that does not saturate large sums.
+template <class T, class DI>
+HWY_INLINE hn::Vec<DI> scaleClamp(DI di, hn::Vec<DI> sum, const linear::Scale& sc) {
+  const hn::Rebind<float, DI> df;
+  const auto lo = hn::Set(di, static_cast<int32_t>(linear::lowOf<T>()));
+  const auto hi = hn::Set(di, static_cast<int32_t>(linear::highOf<T>()));
+  switch (sc.mode) {
+    case linear::Mode::kShift: {
+      // (S + 2^(k-1)) >> k without the addition that could overflow: the bit below the
+      // shifted-out part rounds. An 8u sum below 1 gives at most 0 and saturates to 0.
+      const auto half = hn::And(hn::ShiftRightSame(sum, sc.k - 1), hn::Set(di, 1));
+      return hn::Min(hn::Max(hn::Add(hn::ShiftRightSame(sum, sc.k), half), lo), hi);
+    }
+    case linear::Mode::kMultiply: {
+      auto v = hn::Mul(hn::ConvertTo(df, sum), hn::Set(df, sc.r));
+      v = hn::Min(hn::Max(v, hn::Set(df, linear::lowOf<T>())), hn::Set(df, linear::highOf<T>()));
+      return hn::NearestInt(v);
+    }
+    default:
+      return hn::Min(hn::Max(sum, lo), hi);
+  }
+}
+
 // Sums to pixels: the vector form of linear::finish (the caller holds round-to-nearest).
 template <class T, class DA>
 HWY_INLINE hn::Vec<hn::Rebind<T, DA>> finishVec(DA da, hn::Vec<DA> sum, const linear::Scale& sc) {
   using A = hn::TFromD<DA>;
   const hn::Rebind<T, DA> dt;
-  const hn::Rebind<float, DA> df;
-  const hn::Rebind<int32_t, DA> di;
-  // Integers are clamped before they narrow: some targets' 32-to-8-bit narrowing passes through
-  // a signed 16-bit step that does not saturate large sums correctly.
-  auto narrow = [&](auto v) {
-    v = hn::Max(v, hn::Set(di, static_cast<int32_t>(linear::lowOf<T>())));
-    return hn::DemoteTo(dt, hn::Min(v, hn::Set(di, static_cast<int32_t>(linear::highOf<T>()))));
-  };
-  auto roundClamp = [&](auto v) {
-    v = hn::Max(v, hn::Set(df, linear::lowOf<T>()));
-    v = hn::Min(v, hn::Set(df, linear::highOf<T>()));
-    return hn::DemoteTo(dt, hn::NearestInt(v));
-  };
   if constexpr (std::is_same_v<T, Lum32f>) {
     return sum;
   } else if constexpr (std::is_same_v<A, float>) {
-    return roundClamp(sum);
+    const hn::Rebind<float, DA> df;
+    auto v = hn::Min(hn::Max(sum, hn::Set(df, linear::lowOf<T>())), hn::Set(df, linear::highOf<T>()));
+    return hn::DemoteTo(dt, hn::NearestInt(v));
   } else {
-    switch (sc.mode) {
-      case linear::Mode::kShift: {
-        // (S + 2^(k-1)) >> k without the addition that could overflow: the bit below the
-        // shifted-out part rounds. An 8u sum below 1 gives at most 0 and saturates to 0.
-        const auto half = hn::And(hn::ShiftRightSame(sum, sc.k - 1), hn::Set(di, 1));
-        return narrow(hn::Add(hn::ShiftRightSame(sum, sc.k), half));
-      }
-      case linear::Mode::kMultiply:
-        return roundClamp(hn::Mul(hn::ConvertTo(df, sum), hn::Set(df, sc.r)));
-      default:
-        return narrow(sum);
-    }
+    return hn::DemoteTo(dt, scaleClamp<T>(da, sum, sc));
   }
 }
 
@@ -121,17 +130,176 @@ void linearRow(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, int 
     storeColour(dt, finishVec<T>(da, a6, sc), q + 6 * N, kAlpha, colour);
     storeColour(dt, finishVec<T>(da, a7, sc), q + 7 * N, kAlpha, colour);
   }
-  for (; e + N <= n; e += N) {
+  auto pass = [&](std::ptrdiff_t at) {
     V acc = hn::Zero(da);
     const K* tap = last;
     for (int ii = 0; ii < kh; ++ii) {
-      const T* p = rowAt(win, srcStep, ii) + e;
+      const T* p = rowAt(win, srcStep, ii) + at;
       for (int jj = 0; jj < kw; ++jj, --tap, p += kCh)
         acc = mulAdd<decltype(da)>(acc, hn::Set(da, static_cast<A>(*tap)), loadAs(da, p));
     }
-    storeColour(dt, finishVec<T>(da, acc, sc), dst + e, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, acc, sc), dst + at, kAlpha, colour);
+  };
+  for (; e + N <= n; e += N) pass(e);
+  // The last elements: one more pass ending at the row's end, over elements already written
+  // (the same values again; a multiple of four lanes keeps AC4 pixels whole).
+  if (e < n && n >= N) {
+    pass(n - N);
+    e = n;
   }
   linear::linearFrom<T, K, L>(win, srcStep, dst, e, n, kernel, kw, kh, sc);
+}
+
+// One-channel integer rows whose taps all fit in 16 bits: two neighbouring taps of a kernel row
+// at once with one multiply-add of 16-bit pairs (pmaddwd: lane m of the 32-bit result is
+// a[2m] b[2m] + a[2m+1] b[2m+1], exact modulo 2^32 as the plain kernel's sums). The source loaded
+// at x + jj holds, in lanes 2m and 2m + 1, the pixels taps jj and jj + 1 take for the even
+// destination pixel x + 2m; loaded one pixel later, for the odd one. Even and odd sums are
+// scaled apart and interleaved back as 16-bit lanes. An odd kernel width pairs its last tap
+// with a zero tap, whose pixel is the one just past the window: the vector passes stop one
+// pixel early so that it is still a pixel of the row the caller supplies.
+template <class T>
+HWY_INLINE hn::Vec<hn::Repartition<int16_t, hn::ScalableTag<int32_t>>> load16(const T* HWY_RESTRICT p) {
+  const hn::Repartition<int16_t, hn::ScalableTag<int32_t>> d16;
+  if constexpr (std::is_same_v<T, Lum8u>) {
+    const hn::Rebind<uint8_t, decltype(d16)> d8;
+    return hn::BitCast(d16, hn::PromoteTo(hn::RebindToUnsigned<decltype(d16)>(), hn::LoadU(d8, p)));
+  } else {
+    return hn::LoadU(d16, p);
+  }
+}
+
+template <class T>
+void linearRowPairs(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, int width,
+                    const int32_t* HWY_RESTRICT kernel, int kw, int kh, const linear::Scale& sc) {
+  const hn::ScalableTag<int32_t> d32;
+  const hn::Repartition<int16_t, decltype(d32)> d16;
+  using V32 = hn::Vec<decltype(d32)>;
+  using V16 = hn::Vec<decltype(d16)>;
+  const std::ptrdiff_t M = static_cast<std::ptrdiff_t>(hn::Lanes(d16));  // pixels per pass
+  const std::ptrdiff_t n = width, stop = n - (kw & 1);
+  const int32_t* last = kernel + (static_cast<std::ptrdiff_t>(kw) * kh - 1);
+  auto pairOf = [](const int32_t* tap, bool both) {  // taps jj (low half) and jj + 1 (high)
+    const uint32_t a = static_cast<uint16_t>(tap[0]);
+    const uint32_t b = both ? static_cast<uint16_t>(tap[-1]) : 0u;
+    return static_cast<int32_t>(a | (b << 16));
+  };
+  auto store = [&](V32 even, V32 odd, T* q) {
+    even = scaleClamp<T>(d32, even, sc);
+    odd = scaleClamp<T>(d32, odd, sc);
+    const V16 v = hn::BitCast(d16, hn::Or(hn::And(even, hn::Set(d32, 0xFFFF)), hn::ShiftLeft<16>(odd)));
+    if constexpr (std::is_same_v<T, Lum8u>) hn::StoreU(hn::DemoteTo(hn::Rebind<uint8_t, decltype(d16)>(), v), hn::Rebind<uint8_t, decltype(d16)>(), q);
+    else hn::StoreU(v, d16, q);
+  };
+  std::ptrdiff_t e = 0;
+  for (; e + 2 * M <= stop; e += 2 * M) {  // two passes of M pixels: four named sums
+    V32 e0 = hn::Zero(d32), o0 = e0, e1 = e0, o1 = e0, s0 = e0, s1 = e0, s2 = e0, s3 = e0;
+    const int32_t* tap = last;
+    for (int ii = 0; ii < kh; ++ii) {
+      const T* p = rowAt(win, srcStep, ii) + e;
+      for (int jj = 0; jj < kw; jj += 2, tap -= 2, p += 2) {
+        const V16 k = hn::BitCast(d16, hn::Set(d32, pairOf(tap, jj + 1 < kw)));
+        e0 = hn::ReorderWidenMulAccumulate(d32, load16(p), k, e0, s0);
+        o0 = hn::ReorderWidenMulAccumulate(d32, load16(p + 1), k, o0, s1);
+        e1 = hn::ReorderWidenMulAccumulate(d32, load16(p + M), k, e1, s2);
+        o1 = hn::ReorderWidenMulAccumulate(d32, load16(p + M + 1), k, o1, s3);
+      }
+      tap += (kw & 1);  // the zero tap took no kernel element
+    }
+    store(e0, o0, dst + e);
+    store(e1, o1, dst + e + M);
+  }
+  auto pass = [&](std::ptrdiff_t at) {
+    V32 e0 = hn::Zero(d32), o0 = e0, s0 = e0, s1 = e0;
+    const int32_t* tap = last;
+    for (int ii = 0; ii < kh; ++ii) {
+      const T* p = rowAt(win, srcStep, ii) + at;
+      for (int jj = 0; jj < kw; jj += 2, tap -= 2, p += 2) {
+        const V16 k = hn::BitCast(d16, hn::Set(d32, pairOf(tap, jj + 1 < kw)));
+        e0 = hn::ReorderWidenMulAccumulate(d32, load16(p), k, e0, s0);
+        o0 = hn::ReorderWidenMulAccumulate(d32, load16(p + 1), k, o0, s1);
+      }
+      tap += (kw & 1);
+    }
+    store(e0, o0, dst + at);
+  };
+  for (; e + M <= stop; e += M) pass(e);
+  if (e < stop && stop >= M) {  // one more pass ending at `stop`, over pixels already written
+    pass(stop - M);
+    e = stop;
+  }
+  linear::linearFrom<T, int32_t, C1>(win, srcStep, dst, e, n, kernel, kw, kh, sc);
+}
+
+// Integer rows of 16-bit taps in any layout, column kernels included: taps t and t + 1 of the
+// definition's order (in the same kernel row or not) at once. Interleaving their two source
+// vectors gives 16-bit pairs for the multiply-add; the x86 targets interleave and pack within
+// each 128-bit block, so packing the sums of the lower and upper halves restores the order.
+template <class T, class L>
+void linearRowZip(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, int width,
+                  const int32_t* HWY_RESTRICT kernel, int kw, int kh, const linear::Scale& sc) {
+  constexpr int kCh = L::kCh;
+  constexpr bool kAlpha = L::kUse != L::kCh;
+  const hn::ScalableTag<int32_t> d32;
+  const hn::Repartition<int16_t, decltype(d32)> d16;
+  const hn::Rebind<T, decltype(d16)> dt;
+  using V32 = hn::Vec<decltype(d32)>;
+  using V16 = hn::Vec<decltype(d16)>;
+  const std::ptrdiff_t M = static_cast<std::ptrdiff_t>(hn::Lanes(d16));
+  const std::ptrdiff_t n = elemsOf(width, kCh);
+  const long long taps = static_cast<long long>(kw) * kh;
+  const int32_t* last = kernel + (taps - 1);
+  const auto colour = colourLanes(dt);
+  // U (1 or 2) blocks of M elements share each tap's bookkeeping.
+  auto pass = [&](std::ptrdiff_t at, auto blocks) {
+    constexpr int U = decltype(blocks)::value;
+    V32 lo0 = hn::Zero(d32), hi0 = lo0, lo1 = lo0, hi1 = lo0, s = lo0;
+    int ii = 0, jj = 0;
+    const T* p = win + at;
+    auto next = [&]() {  // the source of the following tap
+      const T* q = p;
+      if (++jj == kw) {
+        jj = 0;
+        p = rowAt(win, srcStep, ++ii) + at;
+      } else {
+        p += kCh;
+      }
+      return q;
+    };
+    const int32_t* tap = last;
+    for (long long t = 0; t < taps; t += 2, tap -= 2) {
+      const bool both = t + 1 < taps;
+      const T* pa = next();
+      const T* pb = both ? next() : pa;
+      const uint32_t pair = static_cast<uint16_t>(tap[0]) | (both ? static_cast<uint32_t>(static_cast<uint16_t>(tap[-1])) << 16 : 0u);
+      const V16 k = hn::BitCast(d16, hn::Set(d32, static_cast<int32_t>(pair)));
+      const V16 a0 = load16(pa), b0 = load16(pb);
+      lo0 = hn::ReorderWidenMulAccumulate(d32, hn::InterleaveLower(d16, a0, b0), k, lo0, s);
+      hi0 = hn::ReorderWidenMulAccumulate(d32, hn::InterleaveUpper(d16, a0, b0), k, hi0, s);
+      if (U == 2) {
+        const V16 a1 = load16(pa + M), b1 = load16(pb + M);
+        lo1 = hn::ReorderWidenMulAccumulate(d32, hn::InterleaveLower(d16, a1, b1), k, lo1, s);
+        hi1 = hn::ReorderWidenMulAccumulate(d32, hn::InterleaveUpper(d16, a1, b1), k, hi1, s);
+      }
+    }
+    auto out = [&](V32 lo, V32 hi, T* q) {
+      const V16 v = hn::ReorderDemote2To(d16, scaleClamp<T>(d32, lo, sc), scaleClamp<T>(d32, hi, sc));
+      if constexpr (std::is_same_v<T, Lum8u>) storeColour(dt, hn::DemoteTo(dt, v), q, kAlpha, colour);
+      else storeColour(dt, v, q, kAlpha, colour);
+    };
+    out(lo0, hi0, dst + at);
+    if (U == 2) out(lo1, hi1, dst + at + M);
+  };
+  using One = std::integral_constant<int, 1>;
+  using Two = std::integral_constant<int, 2>;
+  std::ptrdiff_t e = 0;
+  for (; e + 2 * M <= n; e += 2 * M) pass(e, Two());
+  for (; e + M <= n; e += M) pass(e, One());
+  if (e < n && n >= M) {  // one more pass ending at the row's end, over elements already written
+    pass(n - M, One());
+    e = n;
+  }
+  linear::linearFrom<T, int32_t, L>(win, srcStep, dst, e, n, kernel, kw, kh, sc);
 }
 
 #endif
@@ -148,6 +316,26 @@ LinearRowFn<T, K> pickLinearRow() {
   LUMI_SIMD_TABLE(Fn, table, linearRow<T, K, L>);
   return pick(table, static_cast<Fn>(&linearRowScalar<T, K, L>));
 }
+// One-channel integer rows of 16-bit taps: two taps per multiply-add.
+template <class T>
+LinearRowFn<T, int32_t> pickLinearRowPairs() {
+  using Fn = LinearRowFn<T, int32_t>;
+  LUMI_SIMD_TABLE(Fn, table, linearRowPairs<T>);
+  return pick(table, static_cast<Fn>(&linearRowScalar<T, int32_t, C1>));
+}
+
+template <class T, class L>
+LinearRowFn<T, int32_t> pickLinearRowZip() {
+  using Fn = LinearRowFn<T, int32_t>;
+  LUMI_SIMD_TABLE(Fn, table, linearRowZip<T, L>);
+  return pick(table, static_cast<Fn>(&linearRowScalar<T, int32_t, L>));
+}
+
+inline bool tapsFit16(const int32_t* k, long long count) {
+  for (long long i = 0; i < count; ++i)
+    if (k[i] < -32768 || k[i] > 32767) return false;
+  return true;
+}
 
 // Pixels x taps from which the rows are shared among threads.
 constexpr long long kForkWork = 1LL << 19;
@@ -157,7 +345,13 @@ constexpr long long kForkWork = 1LL << 19;
 template <class T, class K, class L>
 LumStatus run(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, const K* kernel,
               LumiSize ks, LumiPoint anchor, const Scale& sc) {
-  const LinearRowFn<T, K> rowFn = pickLinearRow<T, K, L>();
+  LinearRowFn<T, K> rowFn = pickLinearRow<T, K, L>();
+  if constexpr (std::is_same_v<K, int32_t>) {
+    if (tapsFit16(kernel, static_cast<long long>(ks.width) * ks.height)) {
+      if (L::kCh == 1 && ks.width >= 2) rowFn = pickLinearRowPairs<T>();
+      else rowFn = pickLinearRowZip<T, L>();
+    }
+  }
   const std::ptrdiff_t up = static_cast<std::ptrdiff_t>(ks.height) - 1 - anchor.y;
   const std::ptrdiff_t left = static_cast<std::ptrdiff_t>(ks.width) - 1 - anchor.x;
   const T* win = byteOffset(src, -up * srcStep) - left * L::kCh;
