@@ -89,8 +89,9 @@ HWY_INLINE hn::Vec<DA> mulAdd(hn::Vec<DA> acc, hn::Vec<DA> tap, hn::Vec<DA> x) {
 // One destination row: U vectors of elements at a time share each tap, then single vectors,
 // then the plain kernel for the last elements.
 template <class T, class K, class L>
-void linearRow(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, int width,
-               const K* HWY_RESTRICT kernel, int kw, int kh, const linear::Scale& sc) {
+HWY_INLINE void linearRowFrom(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst,
+                              std::ptrdiff_t e, int width, const K* HWY_RESTRICT kernel, int kw,
+                              int kh, const linear::Scale& sc) {
   using A = linear::Acc<K>;
   constexpr int kCh = L::kCh, U = 8;
   constexpr bool kAlpha = L::kUse != L::kCh;
@@ -101,7 +102,6 @@ void linearRow(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, int 
   const std::ptrdiff_t n = elemsOf(width, kCh);
   const K* last = kernel + (static_cast<std::ptrdiff_t>(kw) * kh - 1);
   const auto colour = colourLanes(dt);
-  std::ptrdiff_t e = 0;
   // Eight named sums (they stay in registers) hide the latency of each sum's chain of additions.
   for (; e + U * N <= n; e += U * N) {
     V a0 = hn::Zero(da), a1 = a0, a2 = a0, a3 = a0, a4 = a0, a5 = a0, a6 = a0, a7 = a0;
@@ -148,6 +148,69 @@ void linearRow(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, int 
     e = n;
   }
   linear::linearFrom<T, K, L>(win, srcStep, dst, e, n, kernel, kw, kh, sc);
+}
+
+template <class T, class K, class L>
+void linearRow(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, int width,
+               const K* HWY_RESTRICT kernel, int kw, int kh, const linear::Scale& sc) {
+  linearRowFrom<T, K, L>(win, srcStep, dst, 0, width, kernel, kw, kh, sc);
+}
+
+// Two destination rows (win and dst are those of the upper one): each source vector loaded once
+// serves both, the upper row with kernel row ii and the lower with ii - 1, every sum still
+// taking its taps in the definition's order. Four sums per row.
+template <class T, class K, class L>
+void linearTwoRows(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, int dstStep,
+                   int width, const K* HWY_RESTRICT kernel, int kw, int kh,
+                   const linear::Scale& sc) {
+  using A = linear::Acc<K>;
+  constexpr int kCh = L::kCh, U = 4;
+  constexpr bool kAlpha = L::kUse != L::kCh;
+  const hn::ScalableTag<A> da;
+  const hn::Rebind<T, decltype(da)> dt;
+  using V = hn::Vec<decltype(da)>;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(da));
+  const std::ptrdiff_t n = elemsOf(width, kCh);
+  const std::ptrdiff_t taps = static_cast<std::ptrdiff_t>(kw) * kh;
+  const auto colour = colourLanes(dt);
+  T* dst2 = rowAt(dst, dstStep, 1);
+  std::ptrdiff_t e = 0;
+  for (; e + U * N <= n; e += U * N) {
+    V a0 = hn::Zero(da), a1 = a0, a2 = a0, a3 = a0, b0 = a0, b1 = a0, b2 = a0, b3 = a0;
+    for (int r = 0; r <= kh; ++r) {  // source row r: kernel row r of the upper, r - 1 of the lower
+      const T* p = rowAt(win, srcStep, r) + e;
+      const K* tapA = kernel + (taps - 1 - static_cast<std::ptrdiff_t>(r) * kw);
+      const K* tapB = tapA + kw;
+      for (int jj = 0; jj < kw; ++jj, p += kCh) {
+        const V x0 = loadAs(da, p), x1 = loadAs(da, p + N), x2 = loadAs(da, p + 2 * N),
+                x3 = loadAs(da, p + 3 * N);
+        if (r < kh) {
+          const V t = hn::Set(da, static_cast<A>(tapA[-jj]));
+          a0 = mulAdd<decltype(da)>(a0, t, x0);
+          a1 = mulAdd<decltype(da)>(a1, t, x1);
+          a2 = mulAdd<decltype(da)>(a2, t, x2);
+          a3 = mulAdd<decltype(da)>(a3, t, x3);
+        }
+        if (r > 0) {
+          const V t = hn::Set(da, static_cast<A>(tapB[-jj]));
+          b0 = mulAdd<decltype(da)>(b0, t, x0);
+          b1 = mulAdd<decltype(da)>(b1, t, x1);
+          b2 = mulAdd<decltype(da)>(b2, t, x2);
+          b3 = mulAdd<decltype(da)>(b3, t, x3);
+        }
+      }
+    }
+    storeColour(dt, finishVec<T>(da, a0, sc), dst + e, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, a1, sc), dst + e + N, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, a2, sc), dst + e + 2 * N, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, a3, sc), dst + e + 3 * N, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, b0, sc), dst2 + e, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, b1, sc), dst2 + e + N, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, b2, sc), dst2 + e + 2 * N, kAlpha, colour);
+    storeColour(dt, finishVec<T>(da, b3, sc), dst2 + e + 3 * N, kAlpha, colour);
+  }
+  linearRowFrom<T, K, L>(win, srcStep, dst, e, width, kernel, kw, kh, sc);
+  linearRowFrom<T, K, L>(rowAt(win, srcStep, 1), srcStep, dst2, e, width, kernel, kw, kh, sc);
 }
 
 // One-channel integer rows whose taps all fit in 16 bits: two neighbouring taps of a kernel row
@@ -316,6 +379,21 @@ LinearRowFn<T, K> pickLinearRow() {
   LUMI_SIMD_TABLE(Fn, table, linearRow<T, K, L>);
   return pick(table, static_cast<Fn>(&linearRowScalar<T, K, L>));
 }
+template <class T, class K>
+using TwoRowsFn = void (*)(const T*, int, T*, int, int, const K*, int, int, const Scale&);
+template <class T, class K, class L>
+void linearTwoRowsScalar(const T* win, int srcStep, T* dst, int dstStep, int width, const K* kernel,
+                         int kw, int kh, const Scale& sc) {
+  linearRowScalar<T, K, L>(win, srcStep, dst, width, kernel, kw, kh, sc);
+  linearRowScalar<T, K, L>(rowAt(win, srcStep, 1), srcStep, rowAt(dst, dstStep, 1), width, kernel,
+                           kw, kh, sc);
+}
+template <class T, class K, class L>
+TwoRowsFn<T, K> pickLinearTwoRows() {
+  using Fn = TwoRowsFn<T, K>;
+  LUMI_SIMD_TABLE(Fn, table, linearTwoRows<T, K, L>);
+  return pick(table, static_cast<Fn>(&linearTwoRowsScalar<T, K, L>));
+}
 // One-channel integer rows of 16-bit taps: two taps per multiply-add.
 template <class T>
 LinearRowFn<T, int32_t> pickLinearRowPairs() {
@@ -346,10 +424,13 @@ template <class T, class K, class L>
 LumStatus run(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, const K* kernel,
               LumiSize ks, LumiPoint anchor, const Scale& sc) {
   LinearRowFn<T, K> rowFn = pickLinearRow<T, K, L>();
+  // Kernels of one row share no source rows between destination rows.
+  TwoRowsFn<T, K> twoRows = ks.height > 1 ? pickLinearTwoRows<T, K, L>() : nullptr;
   if constexpr (std::is_same_v<K, int32_t>) {
     if (tapsFit16(kernel, static_cast<long long>(ks.width) * ks.height)) {
       if (L::kCh == 1 && ks.width >= 2) rowFn = pickLinearRowPairs<T>();
       else rowFn = pickLinearRowZip<T, L>();
+      twoRows = nullptr;
     }
   }
   const std::ptrdiff_t up = static_cast<std::ptrdiff_t>(ks.height) - 1 - anchor.y;
@@ -359,7 +440,13 @@ LumStatus run(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, cons
   forRows(roi.height, parallel, [&](int y0, int y1) {
     std::conditional_t<std::is_same_v<T, Lum32f>, int, NearestRounding> rounding{};
     (void)rounding;
-    for (int y = y0; y < y1; ++y)
+    int y = y0;
+    if (twoRows) {
+      for (; y + 1 < y1; y += 2)
+        twoRows(rowAt(win, srcStep, y), srcStep, rowAt(dst, dstStep, y), dstStep, roi.width, kernel,
+                ks.width, ks.height, sc);
+    }
+    for (; y < y1; ++y)
       rowFn(rowAt(win, srcStep, y), srcStep, rowAt(dst, dstStep, y), roi.width, kernel, ks.width,
             ks.height, sc);
   });
