@@ -399,6 +399,7 @@ FixedKernel finish(FixedKernel fk) {
     if (fk.div == 9) {
       fk.bias16 = 5, fk.m16 = 7281, fk.sh16 = 0;
     } else {
+      // the largest shift whose multiplier ceil(2^(16 + sh) / div) stays below 2^16 (25: 4, 41944)
       fk.bias16 = fk.div / 2;
       fk.sh16 = 0;
       while ((((1 << (17 + fk.sh16)) + fk.div - 1) / fk.div) < 65536) ++fk.sh16;
