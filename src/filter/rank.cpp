@@ -38,6 +38,9 @@ constexpr int reachY(int s) {
   return s == kVert3 || s == kSquare3 || s == kCross3 ? 1
          : s == kVert5 || s == kSquare5 || s == kCross5 ? 2 : 0;
 }
+// Elements of one strip of the vector 5x5 square (a multiple of every vector's lanes and of 4).
+constexpr std::ptrdiff_t kStrip = 512;
+
 constexpr bool isCross(int s) { return s == kCross3 || s == kCross5; }
 constexpr int tapsOf(int s) {
   return isCross(s) ? 2 * (reachX(s) + reachY(s)) + 1 : (2 * reachX(s) + 1) * (2 * reachY(s) + 1);
@@ -148,9 +151,6 @@ void medianSortRow(const T* top, int step, T* out, int width, LumiSize ms, T* wi
 
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
-
-// Elements of one strip of the 5x5 square (a multiple of every vector's lanes and of 4).
-constexpr std::ptrdiff_t kStrip = 512;
 
 // ---- median networks on vectors of elements (each lane its own window) ----------------------------
 template <class V>
@@ -328,11 +328,11 @@ void shapeRow(const T* HWY_RESTRICT centre, int step, T* HWY_RESTRICT out, std::
     // that the fifteen buffer rows stay in the first-level cache; a last strip shorter than a
     // vector starts earlier and redoes a few pixels. Column i of a strip's buffers is source
     // element e0 + i - 2 kCh; sorted rank k is s + k * kSpan, pair rank k is pr + k * kSpan.
-    constexpr std::ptrdiff_t kSpan = kStrip + 4 * kCh;
+    constexpr std::ptrdiff_t kSpan = rank::kStrip + 4 * kCh;
     T* s = scratch;
     T* pr = scratch + 5 * kSpan;
-    for (std::ptrdiff_t e0 = 0; e0 < elems; e0 += kStrip) {
-      std::ptrdiff_t n = elems - e0 < kStrip ? elems - e0 : kStrip;
+    for (std::ptrdiff_t e0 = 0; e0 < elems; e0 += rank::kStrip) {
+      std::ptrdiff_t n = elems - e0 < rank::kStrip ? elems - e0 : rank::kStrip;
       if (n < N) {
         e0 = elems - N;
         n = N;
@@ -496,11 +496,11 @@ ShapeRowFn<T> pickShapeRow() {
 }
 
 // Scratch elements a fixed-shape row kernel needs for a row of `elems` elements: the 5x5
-// square keeps five rows of sorted columns and ten of merged pairs, for strips of 512 elements
-// and four pixels more.
+// square keeps five rows of sorted columns and ten of merged pairs, for one strip and four
+// pixels more.
 inline std::ptrdiff_t shapeScratch(int shape, std::ptrdiff_t elems, int kCh) {
   (void)elems;
-  return shape == kSquare5 ? 15 * (512 + 4 * kCh) : 0;  // one strip of the vector kernel
+  return shape == kSquare5 ? 15 * (kStrip + 4 * kCh) : 0;  // one strip of the vector kernel
 }
 
 template <class T>
