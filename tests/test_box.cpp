@@ -9,6 +9,7 @@
 #include <climits>
 #include <cmath>
 
+#include "filter/box_kernels.h"
 #include "lumi/filter.h"
 #include "lumitest.h"
 
@@ -215,6 +216,16 @@ TEST(FilterBox, IntegerPathMultiplierAndBias) {
                 lumStatusOk);
       for (int c = 0; c < L.use; ++c) EXPECT_EQ(+dst.at(0, 0, c), k.want) << k.mw << "x" << k.mh << " " << L.name;
     }
+  }
+}
+
+// The 16-bit form of the product, ((S x m16) >> 16) >> post, equals (m x S) >> s for every sum
+// of every mask area that keeps 16-bit sums.
+TEST(FilterBox, SixteenBitProductIsExact) {
+  for (long long area = 2; area <= lumi::box::kMaxNarrowArea; ++area) {
+    const lumi::box::BoxScale sc = lumi::box::scale8u(area);
+    for (uint32_t sum = 0; sum <= 255 * area; ++sum)
+      ASSERT_EQ(((sum * sc.m16) >> 16) >> sc.post, (sum * sc.m) >> sc.s) << area << " " << sum;
   }
 }
 
