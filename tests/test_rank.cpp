@@ -177,7 +177,7 @@ void colorCases() {
     for (int code : {lumMskSize3x3, lumMskSize5x5})
       for (int n = 0; n < 3; ++n) {
         const int side = code == lumMskSize3x3 ? 3 : 5;
-        check<T>({{side, side}}, {side / 2, side / 2}, randomSize(r, 23, 5), layout, kColor,
+        check<T>({{side, side}}, {side / 2, side / 2}, randomSize(r, 90, 4), layout, kColor,
                  static_cast<uint32_t>(r()), [&](const T* s, int ss, T* d, int ds, LumiSize ro) {
                    return Api<T>::color[layout](s, ss, d, ds, ro, code);
                  });

@@ -145,6 +145,37 @@ void medianSortRow(const T* top, int step, T* out, int width, LumiSize ms, T* wi
     }
 }
 
+// The colour median of pixels [x0, width) of one row: the pixel of the square whose summed L1
+// distance (over the three colour channels) to the others is least; the first in row order
+// wins a tie. Integer sums are exact; 32f sums the float differences in double precision.
+// `centre` is pixel 0 of the source row the squares are centred on.
+template <class T, int kCh>
+void colorRowFrom(const T* centre, int step, T* out, int x0, int width, int r) {
+  using Acc = std::conditional_t<std::is_floating_point_v<T>, double, long long>;
+  const int side = 2 * r + 1, n = side * side;
+  const T* px[25];
+  for (int x = x0; x < width; ++x) {
+    int k = 0;
+    for (int dy = -r; dy <= r; ++dy)
+      for (int dx = -r; dx <= r; ++dx) px[k++] = rowAt(centre, step, dy) + elemsOf(x + dx, kCh);
+    int best = 0;
+    Acc bestSum = 0;
+    for (int i = 0; i < n; ++i) {
+      Acc sum = 0;
+      for (int j = 0; j < n; ++j)
+        for (int c = 0; c < 3; ++c) {
+          const Acc d = static_cast<Acc>(px[i][c]) - static_cast<Acc>(px[j][c]);
+          sum += d < 0 ? -d : d;
+        }
+      if (i == 0 || sum < bestSum) {
+        best = i;
+        bestSum = sum;
+      }
+    }
+    for (int c = 0; c < 3; ++c) out[elemsOf(x, kCh) + c] = px[best][c];
+  }
+}
+
 }  // namespace rank
 }  // namespace lumi
 #endif
@@ -468,6 +499,72 @@ void medianBitsRow(const T* HWY_RESTRICT top, int step, T* HWY_RESTRICT out, int
   if (e < elems) one_vector(elems - N);
 }
 
+// Colour median of 8u pixels, one destination pixel per 16-bit lane: the channels of the square
+// are widened, each pair's distance is added to both its pixels' sums (at most 24 x 3 x 255,
+// so 16 bits hold them), and the first least sum wins as in the plain kernel.
+template <int kCh>
+void colorRow8u(const Lum8u* HWY_RESTRICT centre, int step, Lum8u* HWY_RESTRICT out, int width,
+                int r) {
+  const hn::ScalableTag<uint16_t> d;
+  const hn::Rebind<uint8_t, decltype(d)> d8;
+  using V = hn::Vec<decltype(d)>;
+  using V8 = hn::Vec<decltype(d8)>;
+  const int N = static_cast<int>(hn::Lanes(d));
+  if (width < N) {
+    rank::colorRowFrom<Lum8u, kCh>(centre, step, out, 0, width, r);
+    return;
+  }
+  const int side = 2 * r + 1, n = side * side;
+  auto one = [&](int x) {
+    V ch[3][25], sum[25];
+    int k = 0;
+    for (int dy = -r; dy <= r; ++dy)
+      for (int dx = -r; dx <= r; ++dx, ++k) {
+        const Lum8u* p = rowAt(centre, step, dy) + elemsOf(x + dx, kCh);
+        V8 c0, c1, c2, c3;
+        if constexpr (kCh == 3) {
+          hn::LoadInterleaved3(d8, p, c0, c1, c2);
+        } else {
+          hn::LoadInterleaved4(d8, p, c0, c1, c2, c3);
+        }
+        ch[0][k] = hn::PromoteTo(d, c0);
+        ch[1][k] = hn::PromoteTo(d, c1);
+        ch[2][k] = hn::PromoteTo(d, c2);
+        sum[k] = hn::Zero(d);
+      }
+    for (int i = 0; i < n; ++i)
+      for (int j = i + 1; j < n; ++j) {
+        V dist = hn::Zero(d);
+        for (int c = 0; c < 3; ++c)
+          dist = hn::Add(dist, hn::Sub(hn::Max(ch[c][i], ch[c][j]), hn::Min(ch[c][i], ch[c][j])));
+        sum[i] = hn::Add(sum[i], dist);
+        sum[j] = hn::Add(sum[j], dist);
+      }
+    V best = sum[0], b0 = ch[0][0], b1 = ch[1][0], b2 = ch[2][0];
+    for (int i = 1; i < n; ++i) {
+      const auto less = hn::Lt(sum[i], best);
+      best = hn::IfThenElse(less, sum[i], best);
+      b0 = hn::IfThenElse(less, ch[0][i], b0);
+      b1 = hn::IfThenElse(less, ch[1][i], b1);
+      b2 = hn::IfThenElse(less, ch[2][i], b2);
+    }
+    Lum8u* o = out + elemsOf(x, kCh);
+    const hn::RebindToSigned<decltype(d)> di;  // values are at most 255: no saturation
+    const V8 o0 = hn::DemoteTo(d8, hn::BitCast(di, b0)), o1 = hn::DemoteTo(d8, hn::BitCast(di, b1)),
+             o2 = hn::DemoteTo(d8, hn::BitCast(di, b2));
+    if constexpr (kCh == 3) {
+      hn::StoreInterleaved3(o0, o1, o2, d8, o);
+    } else {  // the alpha of the destination goes back as it was
+      V8 a0, a1, a2, alpha;
+      hn::LoadInterleaved4(d8, o, a0, a1, a2, alpha);
+      hn::StoreInterleaved4(o0, o1, o2, alpha, d8, o);
+    }
+  };
+  int x = 0;
+  for (; x + N <= width; x += N) one(x);
+  if (x < width) one(width - N);
+}
+
 #endif
 LUMI_SIMD_END
 
@@ -675,39 +772,23 @@ LumStatus medianCross(const T* src, int srcStep, T* dst, int dstStep, LumiSize r
 }
 
 // ---- colour median -----------------------------------------------------------------------------
-// The pixel of the square whose summed L1 distance (over the three colour channels) to the
-// others is least; the first in row order wins a tie. Integer sums are exact; 32f sums the
-// float differences in double precision.
-template <class T, class L>
-void colorRows(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, int r, int y0,
-               int y1) {
-  using Acc = std::conditional_t<std::is_floating_point_v<T>, double, long long>;
-  constexpr int kCh = L::kCh;
-  const int side = 2 * r + 1, n = side * side;
-  const T* px[25];
-  for (int y = y0; y < y1; ++y)
-    for (int x = 0; x < roi.width; ++x) {
-      int k = 0;
-      for (int dy = -r; dy <= r; ++dy)
-        for (int dx = -r; dx <= r; ++dx)
-          px[k++] = rowAt(src, srcStep, y + dy) + elemsOf(x + dx, kCh);
-      int best = 0;
-      Acc bestSum = 0;
-      for (int i = 0; i < n; ++i) {
-        Acc sum = 0;
-        for (int j = 0; j < n; ++j)
-          for (int c = 0; c < 3; ++c) {
-            const Acc d = static_cast<Acc>(px[i][c]) - static_cast<Acc>(px[j][c]);
-            sum += d < 0 ? -d : d;
-          }
-        if (i == 0 || sum < bestSum) {
-          best = i;
-          bestSum = sum;
-        }
-      }
-      T* out = rowAt(dst, dstStep, y) + elemsOf(x, kCh);
-      for (int c = 0; c < 3; ++c) out[c] = px[best][c];
-    }
+template <class T>
+using ColorRowFn = void (*)(const T*, int, T*, int, int);
+
+template <class T, int kCh>
+void colorRowScalar(const T* centre, int step, T* out, int width, int r) {
+  colorRowFrom<T, kCh>(centre, step, out, 0, width, r);
+}
+
+// Vector kernel for 8u; 16s and 32f keep the plain one.
+template <class T, int kCh>
+ColorRowFn<T> pickColorRow() {
+  if constexpr (std::is_same_v<T, Lum8u>) {
+    LUMI_SIMD_TABLE(ColorRowFn<T>, table, colorRow8u<kCh>);
+    return pick(table, &colorRowScalar<T, kCh>);
+  } else {
+    return &colorRowScalar<T, kCh>;
+  }
 }
 
 template <class T, class L>
@@ -716,8 +797,10 @@ LumStatus medianColor(const T* src, int srcStep, T* dst, int dstStep, LumiSize r
   if (mask != lumMskSize3x3 && mask != lumMskSize5x5) return lumStatusMaskSizeErr;
   const int r = mask == lumMskSize3x3 ? 1 : 2;
   const long long side = 2 * r + 1;
+  const auto kernel = pickColorRow<T, L::kCh>();
   forRows(roi.height, forkByWork(roi, side * side * side * side, kForkWork), [&](int y0, int y1) {
-    colorRows<T, L>(src, srcStep, dst, dstStep, roi, r, y0, y1);
+    for (int y = y0; y < y1; ++y)
+      kernel(rowAt(src, srcStep, y), srcStep, rowAt(dst, dstStep, y), roi.width, r);
   });
   return lumStatusOk;
 }
