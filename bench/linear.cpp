@@ -4,7 +4,6 @@
 #include <opencv2/imgproc.hpp>
 
 #include <memory>
-#include <vector>
 
 #include "bench.h"
 #include "lumi/filter_linear.h"
@@ -26,9 +25,8 @@ std::shared_ptr<LinearImages> linearImages(int cvType) {
   im->src = im->big->src(cv::Rect(kMargin, kMargin, bench::kWidth, bench::kHeight));
   im->dst.create(bench::kHeight, bench::kWidth, cvType);
   // the column pass reads rows above and below: a ROI of a taller intermediate image
-  static std::vector<cv::Mat> keep;
-  keep.emplace_back(bench::kHeight + 2 * kMargin, bench::kWidth, cvType, cv::Scalar(0));
-  im->mid = keep.back()(cv::Rect(0, kMargin, bench::kWidth, bench::kHeight));
+  const cv::Mat tall(bench::kHeight + 2 * kMargin, bench::kWidth, cvType, cv::Scalar(0));
+  im->mid = tall(cv::Rect(0, kMargin, bench::kWidth, bench::kHeight));
   return im;
 }
 

@@ -179,20 +179,20 @@ void linearTwoRows(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, 
     V a0 = hn::Zero(da), a1 = a0, a2 = a0, a3 = a0, b0 = a0, b1 = a0, b2 = a0, b3 = a0;
     for (int r = 0; r <= kh; ++r) {  // source row r: kernel row r of the upper, r - 1 of the lower
       const T* p = rowAt(win, srcStep, r) + e;
-      const K* tapA = kernel + (taps - 1 - static_cast<std::ptrdiff_t>(r) * kw);
-      const K* tapB = tapA + kw;
+      const std::ptrdiff_t tapA = taps - 1 - static_cast<std::ptrdiff_t>(r) * kw;  // at jj = 0
+      const std::ptrdiff_t tapB = tapA + kw;
       for (int jj = 0; jj < kw; ++jj, p += kCh) {
         const V x0 = loadAs(da, p), x1 = loadAs(da, p + N), x2 = loadAs(da, p + 2 * N),
                 x3 = loadAs(da, p + 3 * N);
         if (r < kh) {
-          const V t = hn::Set(da, static_cast<A>(tapA[-jj]));
+          const V t = hn::Set(da, static_cast<A>(kernel[tapA - jj]));
           a0 = mulAdd<decltype(da)>(a0, t, x0);
           a1 = mulAdd<decltype(da)>(a1, t, x1);
           a2 = mulAdd<decltype(da)>(a2, t, x2);
           a3 = mulAdd<decltype(da)>(a3, t, x3);
         }
         if (r > 0) {
-          const V t = hn::Set(da, static_cast<A>(tapB[-jj]));
+          const V t = hn::Set(da, static_cast<A>(kernel[tapB - jj]));
           b0 = mulAdd<decltype(da)>(b0, t, x0);
           b1 = mulAdd<decltype(da)>(b1, t, x1);
           b2 = mulAdd<decltype(da)>(b2, t, x2);
