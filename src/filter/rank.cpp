@@ -499,19 +499,21 @@ void medianBitsRow(const T* HWY_RESTRICT top, int step, T* HWY_RESTRICT out, int
   if (e < elems) one_vector(elems - N);
 }
 
-// Colour median of 8u pixels, one destination pixel per 16-bit lane: the channels of the square
-// are widened, each pair's distance is added to both its pixels' sums (at most 24 x 3 x 255,
-// so 16 bits hold them), and the first least sum wins as in the plain kernel.
-template <int kCh>
-void colorRow8u(const Lum8u* HWY_RESTRICT centre, int step, Lum8u* HWY_RESTRICT out, int width,
-                int r) {
-  const hn::ScalableTag<uint16_t> d;
-  const hn::Rebind<uint8_t, decltype(d)> d8;
+// Colour median of integer pixels, one destination pixel per lane of twice the element's width:
+// the channels of the square are widened, each pair's distance is added to both its pixels'
+// sums (at most 24 x 3 x 255 for 8u, 24 x 3 x 65535 for 16s, so the wide lanes hold them),
+// and the first least sum wins as in the plain kernel.
+template <class T, int kCh>
+void colorRowInt(const T* HWY_RESTRICT centre, int step, T* HWY_RESTRICT out, int width, int r) {
+  using W = std::conditional_t<sizeof(T) == 1, uint16_t, int32_t>;
+  const hn::ScalableTag<W> d;
+  const hn::Rebind<T, decltype(d)> dn;
+  const hn::RebindToSigned<decltype(d)> di;
   using V = hn::Vec<decltype(d)>;
-  using V8 = hn::Vec<decltype(d8)>;
+  using VN = hn::Vec<decltype(dn)>;
   const int N = static_cast<int>(hn::Lanes(d));
   if (width < N) {
-    rank::colorRowFrom<Lum8u, kCh>(centre, step, out, 0, width, r);
+    rank::colorRowFrom<T, kCh>(centre, step, out, 0, width, r);
     return;
   }
   const int side = 2 * r + 1, n = side * side;
@@ -520,12 +522,12 @@ void colorRow8u(const Lum8u* HWY_RESTRICT centre, int step, Lum8u* HWY_RESTRICT 
     int k = 0;
     for (int dy = -r; dy <= r; ++dy)
       for (int dx = -r; dx <= r; ++dx, ++k) {
-        const Lum8u* p = rowAt(centre, step, dy) + elemsOf(x + dx, kCh);
-        V8 c0, c1, c2, c3;
+        const T* p = rowAt(centre, step, dy) + elemsOf(x + dx, kCh);
+        VN c0, c1, c2, c3;
         if constexpr (kCh == 3) {
-          hn::LoadInterleaved3(d8, p, c0, c1, c2);
+          hn::LoadInterleaved3(dn, p, c0, c1, c2);
         } else {
-          hn::LoadInterleaved4(d8, p, c0, c1, c2, c3);
+          hn::LoadInterleaved4(dn, p, c0, c1, c2, c3);
         }
         ch[0][k] = hn::PromoteTo(d, c0);
         ch[1][k] = hn::PromoteTo(d, c1);
@@ -548,16 +550,16 @@ void colorRow8u(const Lum8u* HWY_RESTRICT centre, int step, Lum8u* HWY_RESTRICT 
       b1 = hn::IfThenElse(less, ch[1][i], b1);
       b2 = hn::IfThenElse(less, ch[2][i], b2);
     }
-    Lum8u* o = out + elemsOf(x, kCh);
-    const hn::RebindToSigned<decltype(d)> di;  // values are at most 255: no saturation
-    const V8 o0 = hn::DemoteTo(d8, hn::BitCast(di, b0)), o1 = hn::DemoteTo(d8, hn::BitCast(di, b1)),
-             o2 = hn::DemoteTo(d8, hn::BitCast(di, b2));
+    T* o = out + elemsOf(x, kCh);
+    // Values are the source's own, so narrowing never saturates.
+    const VN o0 = hn::DemoteTo(dn, hn::BitCast(di, b0)), o1 = hn::DemoteTo(dn, hn::BitCast(di, b1)),
+             o2 = hn::DemoteTo(dn, hn::BitCast(di, b2));
     if constexpr (kCh == 3) {
-      hn::StoreInterleaved3(o0, o1, o2, d8, o);
+      hn::StoreInterleaved3(o0, o1, o2, dn, o);
     } else {  // the alpha of the destination goes back as it was
-      V8 a0, a1, a2, alpha;
-      hn::LoadInterleaved4(d8, o, a0, a1, a2, alpha);
-      hn::StoreInterleaved4(o0, o1, o2, alpha, d8, o);
+      VN a0, a1, a2, alpha;
+      hn::LoadInterleaved4(dn, o, a0, a1, a2, alpha);
+      hn::StoreInterleaved4(o0, o1, o2, alpha, dn, o);
     }
   };
   int x = 0;
@@ -780,11 +782,12 @@ void colorRowScalar(const T* centre, int step, T* out, int width, int r) {
   colorRowFrom<T, kCh>(centre, step, out, 0, width, r);
 }
 
-// Vector kernel for 8u; 16s and 32f keep the plain one.
+// Vector kernels for 8u and 16s; 32f keeps the plain one, whose double sums a vector kernel
+// would have to add in the same order to pick the same pixel.
 template <class T, int kCh>
 ColorRowFn<T> pickColorRow() {
-  if constexpr (std::is_same_v<T, Lum8u>) {
-    LUMI_SIMD_TABLE(ColorRowFn<T>, table, colorRow8u<kCh>);
+  if constexpr (!std::is_floating_point_v<T>) {
+    LUMI_SIMD_TABLE(ColorRowFn<T>, table, colorRowInt<T, kCh>);
     return pick(table, &colorRowScalar<T, kCh>);
   } else {
     return &colorRowScalar<T, kCh>;
