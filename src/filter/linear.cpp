@@ -40,20 +40,17 @@ HWY_INLINE hn::Vec<DA> loadAs(DA da, const T* HWY_RESTRICT p) {
   }
 }
 
-// Integer sums scaled as the divisor says and clamped to T's range, still in 32-bit lanes (the
-// caller holds round-to-nearest). Integers are clamped before they narrow: some targets'
-// 32-to-8-bit narrowing passes through a signed 16-bit step that does not saturate large sums.
+// Integer sums scaled as the divisor says, in 32-bit lanes (the caller holds round-to-nearest).
+// The shift rounds halves up without an addition that could overflow: with q = S >> (k - 1),
+// (S + 2^(k-1)) >> k = ceil(q / 2) = q - (q >> 1). Products of a multiply are clamped to T's
+// range while still floats; the other results are left for a saturating narrowing.
 template <class T, class DI>
-HWY_INLINE hn::Vec<DI> scaleClamp(DI di, hn::Vec<DI> sum, const linear::Scale& sc) {
+HWY_INLINE hn::Vec<DI> scaleInt(DI di, hn::Vec<DI> sum, const linear::Scale& sc) {
   const hn::Rebind<float, DI> df;
-  const auto lo = hn::Set(di, static_cast<int32_t>(linear::lowOf<T>()));
-  const auto hi = hn::Set(di, static_cast<int32_t>(linear::highOf<T>()));
   switch (sc.mode) {
     case linear::Mode::kShift: {
-      // (S + 2^(k-1)) >> k without the addition that could overflow: the bit below the
-      // shifted-out part rounds. An 8u sum below 1 gives at most 0 and saturates to 0.
-      const auto half = hn::And(hn::ShiftRightSame(sum, sc.k - 1), hn::Set(di, 1));
-      return hn::Min(hn::Max(hn::Add(hn::ShiftRightSame(sum, sc.k), half), lo), hi);
+      const auto q = hn::ShiftRightSame(sum, sc.k - 1);
+      return hn::Sub(q, hn::ShiftRightSame(q, 1));
     }
     case linear::Mode::kMultiply: {
       auto v = hn::Mul(hn::ConvertTo(df, sum), hn::Set(df, sc.r));
@@ -61,8 +58,28 @@ HWY_INLINE hn::Vec<DI> scaleClamp(DI di, hn::Vec<DI> sum, const linear::Scale& s
       return hn::NearestInt(v);
     }
     default:
-      return hn::Min(hn::Max(sum, lo), hi);
+      return sum;
   }
+}
+
+// scaleInt, then clamped to T's range. Integers are clamped before a narrowing that goes
+// straight from 32 to 8 bits: some targets pass through a signed 16-bit step that does not
+// saturate large sums correctly. (An 8u sum below 1 in shift mode gives at most 0, so 0.)
+template <class T, class DI>
+HWY_INLINE hn::Vec<DI> scaleClamp(DI di, hn::Vec<DI> sum, const linear::Scale& sc) {
+  const auto lo = hn::Set(di, static_cast<int32_t>(linear::lowOf<T>()));
+  const auto hi = hn::Set(di, static_cast<int32_t>(linear::highOf<T>()));
+  return hn::Min(hn::Max(scaleInt<T>(di, sum, sc), lo), hi);
+}
+
+// Two vectors of scaled 32-bit results to one of 16-bit lanes, saturated: lanes in the order
+// lo, hi within each 128-bit block (the x86 pack).
+template <class T, class D16>
+HWY_INLINE hn::Vec<D16> packScaled(D16 d16, hn::Vec<hn::Repartition<int32_t, D16>> lo,
+                                   hn::Vec<hn::Repartition<int32_t, D16>> hi,
+                                   const linear::Scale& sc) {
+  const hn::Repartition<int32_t, D16> d32;
+  return hn::ReorderDemote2To(d16, scaleInt<T>(d32, lo, sc), scaleInt<T>(d32, hi, sc));
 }
 
 // Sums to pixels: the vector form of linear::finish (the caller holds round-to-nearest).
@@ -247,10 +264,13 @@ void linearRowPairs(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst,
     const uint32_t b = both ? static_cast<uint16_t>(tap[-1]) : 0u;
     return static_cast<int32_t>(a | (b << 16));
   };
+  // Packed, each 128-bit block holds four even then four odd pixels: one byte shuffle per
+  // block interleaves them.
+  const hn::Repartition<uint8_t, decltype(d16)> du8;
+  HWY_ALIGN static constexpr uint8_t kEvenOdd[16] = {0, 1, 8, 9, 2, 3, 10, 11, 4, 5, 12, 13, 6, 7, 14, 15};
+  const auto evenOdd = hn::LoadDup128(du8, kEvenOdd);
   auto store = [&](V32 even, V32 odd, T* q) {
-    even = scaleClamp<T>(d32, even, sc);
-    odd = scaleClamp<T>(d32, odd, sc);
-    const V16 v = hn::BitCast(d16, hn::Or(hn::And(even, hn::Set(d32, 0xFFFF)), hn::ShiftLeft<16>(odd)));
+    const V16 v = hn::BitCast(d16, hn::TableLookupBytes(hn::BitCast(du8, packScaled<T>(d16, even, odd, sc)), evenOdd));
     if constexpr (std::is_same_v<T, Lum8u>) hn::StoreU(hn::DemoteTo(hn::Rebind<uint8_t, decltype(d16)>(), v), hn::Rebind<uint8_t, decltype(d16)>(), q);
     else hn::StoreU(v, d16, q);
   };
@@ -346,7 +366,7 @@ void linearRowZip(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, i
       }
     }
     auto out = [&](V32 lo, V32 hi, T* q) {
-      const V16 v = hn::ReorderDemote2To(d16, scaleClamp<T>(d32, lo, sc), scaleClamp<T>(d32, hi, sc));
+      const V16 v = packScaled<T>(d16, lo, hi, sc);
       if constexpr (std::is_same_v<T, Lum8u>) storeColour(dt, hn::DemoteTo(dt, v), q, kAlpha, colour);
       else storeColour(dt, v, q, kAlpha, colour);
     };
