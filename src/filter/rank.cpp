@@ -1,16 +1,20 @@
 // Rank filters: median over fixed shapes and general masks, the colour (vector) median, and the
 // minimum and maximum over rectangular masks.
 //
-// Medians are exact for every type: each kernel selects the middle value, and the vector
-// networks give the value the plain sort-and-pick twin gives, bit for bit. The general median's
-// plain kernels slide a 256-bin histogram along each row (8u) or sort each window (16s); its
-// vector kernel finds each lane's middle value one bit at a time by counting the window's
-// values below a candidate, and so agrees with them exactly. The minimum and
-// maximum are separable: the row pass doubles the span it covers (1, 2, 4, ... pixels, then
-// one overlapping step to the mask width), the column pass takes prefix and suffix extrema over
-// blocks of mask-height rows, so a pixel costs a few comparisons whatever the mask. Both passes
-// use the same grouping on every path, so even which of +0 and -0 a tie keeps is the same (NaN
-// sources give no defined result).
+// Medians are exact for every type: each kernel selects the middle value, so the vector
+// networks give the value the plain sort-and-pick twin gives, bit for bit (the 5x5 square sorts
+// columns once, merges neighbouring pairs once and takes the 13th value of two pairs and a
+// column; its networks are odd-even merges pruned to what that value needs). The general
+// median's plain kernels slide a 256-bin histogram along each row (8u) or sort each window
+// (16s); its vector kernel finds each lane's middle value one bit at a time by counting the
+// window's values below a candidate. The colour median's integer sums are exact, so its vector
+// kernels (8u, 16s) pick the pixel the plain kernel picks.
+//
+// The minimum and maximum are separable: the row pass doubles the span it covers (1, 2, 4, ...
+// pixels, then one overlapping step to the mask width), the column pass takes prefix and suffix
+// extrema over blocks of mask-height rows, so a pixel costs a few comparisons whatever the
+// mask. Both passes use the same grouping on every path, so even which of +0 and -0 a tie keeps
+// is the same (NaN sources give no defined result).
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/filter/rank.cpp"
 #include "hwy/foreach_target.h"
