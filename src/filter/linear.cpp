@@ -103,8 +103,9 @@ HWY_INLINE hn::Vec<DA> mulAdd(hn::Vec<DA> acc, hn::Vec<DA> tap, hn::Vec<DA> x) {
   return hn::Add(acc, hn::Mul(tap, x));  // rounded product, then the sum: as the plain kernel
 }
 
-// One destination row: U vectors of elements at a time share each tap, then single vectors,
-// then the plain kernel for the last elements.
+// One destination row from element e on: U vectors of elements at a time share each tap, then
+// single vectors, then one pass that overlaps the previous; the plain kernel only finishes rows
+// shorter than a vector.
 template <class T, class K, class L>
 HWY_INLINE void linearRowFrom(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst,
                               std::ptrdiff_t e, int width, const K* HWY_RESTRICT kernel, int kw,
