@@ -9,9 +9,9 @@
  * (lumStatusStepErr), then the mask: for lumiFilterMedian a width or height below 1 or even, for
  * lumiFilterMin/Max below 1 (lumStatusMaskSizeErr), and the anchor outside the mask
  * (lumStatusAnchorErr); the fixed shapes return lumStatusMaskSizeErr for a code not listed for
- * them. lumiFilterMin/Max return lumStatusMemAllocErr when their scratch rows cannot be
- * allocated; lumiFilterMedianCross and lumiFilterMedianColor return lumStatusOk once their
- * checks pass. All of them are implemented in src/filter/rank.cpp. */
+ * them. lumiFilterMedian and lumiFilterMin/Max return lumStatusMemAllocErr when their scratch
+ * cannot be allocated, before writing anything; lumiFilterMedianCross and lumiFilterMedianColor
+ * return lumStatusOk once their checks pass. All are implemented in src/filter/rank.cpp. */
 #ifndef LUMI_FILTER_RANK_H
 #define LUMI_FILTER_RANK_H
 #include "lumi/types.h"

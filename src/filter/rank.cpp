@@ -598,12 +598,10 @@ ShapeRowFn<T> pickShapeRow() {
   return pick(table, &shapeRowScalar<T, kCh, kAlpha, kShape>);
 }
 
-// Scratch elements a fixed-shape row kernel needs for a row of `elems` elements: the 5x5
-// square keeps five rows of sorted columns and ten of merged pairs, for one strip and four
-// pixels more.
-inline std::ptrdiff_t shapeScratch(int shape, std::ptrdiff_t elems, int kCh) {
-  (void)elems;
-  return shape == kSquare5 ? 15 * (kStrip + 4 * kCh) : 0;  // one strip of the vector kernel
+// Scratch elements a fixed-shape row kernel needs: the vector 5x5 square keeps five rows of
+// sorted columns and ten of merged pairs, for one strip and four pixels more.
+inline std::ptrdiff_t shapeScratch(int shape, int kCh) {
+  return shape == kSquare5 ? 15 * (kStrip + 4 * kCh) : 0;
 }
 
 template <class T>
@@ -644,7 +642,7 @@ LumStatus runShape(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi)
   constexpr bool kAlpha = L::kUse < L::kCh;
   const auto kernel = pickShapeRow<T, L::kCh, kAlpha, kShape>();
   const std::ptrdiff_t elems = elemsOf(roi.width, L::kCh);
-  const std::ptrdiff_t scratch = shapeScratch(kShape, elems, L::kCh);
+  const std::ptrdiff_t scratch = shapeScratch(kShape, L::kCh);
   const bool parallel = forkByWork(roi, tapsOf(kShape), kForkWork);
   if (scratch == 0) {
     forRows(roi.height, parallel, [&](int y0, int y1) {
