@@ -307,46 +307,38 @@ void sepRowF(const float* const* rows, float* HWY_RESTRICT dst, int width, const
   fixed::fixedFrom<float, float, L>(rows, dst, i, n, fk);
 }
 
-// 32f 5x5 kernels symmetric about both axes: folded rows, three column lines, five additions.
+// 32f 5x5 kernels symmetric about both axes, straight from the five source rows (no line, so
+// no stores that could stall the loads): rows 0 and 4, 1 and 3 folded, then columns -2 and 2,
+// -1 and 1, each pair times its weight.
 template <class L>
-void symRowF(const float* const* rows, float* HWY_RESTRICT dst, int width, const FixedKernel& fk,
-             float* HWY_RESTRICT line) {
+void symRowF(const float* const* rows, float* HWY_RESTRICT dst, int width, const FixedKernel& fk) {
   constexpr int kCh = L::kCh;
   constexpr bool kAlpha = L::kUse != L::kCh;
   const hn::ScalableTag<float> d;
   using V = hn::Vec<decltype(d)>;
-  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
-  const std::ptrdiff_t lead = elemsOf(2, kCh), ext = elemsOf(width + 4, kCh), n = elemsOf(width, kCh);
-  const std::ptrdiff_t ls = (ext + N) & ~(N - 1);
-  float* HWY_RESTRICT c0 = line;
-  float* HWY_RESTRICT c1 = line + ls;
-  float* HWY_RESTRICT c2 = line + 2 * ls;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d)), n = elemsOf(width, kCh);
   float fw[25] = {};  // the float weights by position
-  for (int t = 0; t < fk.nTaps; ++t) fw[(fk.taps[t].r) * 5 + fk.taps[t].dx + 2] = fk.taps[t].fw;
+  for (int t = 0; t < fk.nTaps; ++t) fw[fk.taps[t].r * 5 + fk.taps[t].dx + 2] = fk.taps[t].fw;
   const V w00 = hn::Set(d, fw[0]), w01 = hn::Set(d, fw[1]), w02 = hn::Set(d, fw[2]);
   const V w10 = hn::Set(d, fw[5]), w11 = hn::Set(d, fw[6]), w12 = hn::Set(d, fw[7]);
   const V w20 = hn::Set(d, fw[10]), w21 = hn::Set(d, fw[11]), w22 = hn::Set(d, fw[12]);
-  float* outs[3] = {c0, c1, c2};
-  std::ptrdiff_t e = 0;
-  for (; e + N <= ext; e += N) {
-    const auto a = hn::Add(hn::LoadU(d, rows[0] - lead + e), hn::LoadU(d, rows[4] - lead + e));
-    const auto b = hn::Add(hn::LoadU(d, rows[1] - lead + e), hn::LoadU(d, rows[3] - lead + e));
-    const auto m = hn::LoadU(d, rows[2] - lead + e);
-    hn::StoreU(hn::Add(hn::Add(hn::Mul(w00, a), hn::Mul(w10, b)), hn::Mul(w20, m)), d, c0 + e);
-    hn::StoreU(hn::Add(hn::Add(hn::Mul(w01, a), hn::Mul(w11, b)), hn::Mul(w21, m)), d, c1 + e);
-    hn::StoreU(hn::Add(hn::Add(hn::Mul(w02, a), hn::Mul(w12, b)), hn::Mul(w22, m)), d, c2 + e);
-  }
-  for (; e < ext; ++e) {
-    const float a = rows[0][e - lead] + rows[4][e - lead], b = rows[1][e - lead] + rows[3][e - lead];
-    const float m = rows[2][e - lead];
-    for (int j = 0; j < 3; ++j) outs[j][e] = fw[j] * a + fw[5 + j] * b + fw[10 + j] * m;
-  }
+  const float *r0 = rows[0], *r1 = rows[1], *r2 = rows[2], *r3 = rows[3], *r4 = rows[4];
   const auto colour = colourLanes(d);
   std::ptrdiff_t i = 0;
   for (; i + N <= n; i += N) {
-    auto acc = hn::Add(hn::Add(hn::LoadU(d, c0 + i), hn::LoadU(d, c0 + i + 4 * kCh)),
-                       hn::Add(hn::LoadU(d, c1 + i + kCh), hn::LoadU(d, c1 + i + 3 * kCh)));
-    acc = hn::Add(acc, hn::LoadU(d, c2 + i + 2 * kCh));
+    auto pair = [&](const float* p, const float* q, std::ptrdiff_t o) {
+      return hn::Add(hn::LoadU(d, p + i + o), hn::LoadU(d, q + i + o));
+    };
+    const std::ptrdiff_t o1 = kCh, o2 = 2 * kCh;
+    const auto a2 = hn::Add(pair(r0, r4, -o2), pair(r0, r4, o2)), a1 = hn::Add(pair(r0, r4, -o1), pair(r0, r4, o1));
+    const auto b2 = hn::Add(pair(r1, r3, -o2), pair(r1, r3, o2)), b1 = hn::Add(pair(r1, r3, -o1), pair(r1, r3, o1));
+    const auto m2 = pair(r2, r2 + 2 * o2, -o2), m1 = pair(r2, r2 + 2 * o1, -o1);
+    auto acc = hn::Add(hn::Mul(w00, a2), hn::Mul(w01, a1));
+    acc = hn::Add(acc, hn::Mul(w02, pair(r0, r4, 0)));
+    acc = hn::Add(acc, hn::Add(hn::Mul(w10, b2), hn::Mul(w11, b1)));
+    acc = hn::Add(acc, hn::Mul(w12, pair(r1, r3, 0)));
+    acc = hn::Add(acc, hn::Add(hn::Mul(w20, m2), hn::Mul(w21, m1)));
+    acc = hn::Add(acc, hn::Mul(w22, hn::LoadU(d, r2 + i)));
     if (fk.fpost == fixed::FPost::Scale) acc = hn::Mul(acc, hn::Set(d, fk.fval));
     if (fk.fpost == fixed::FPost::Divide) acc = hn::Div(acc, hn::Set(d, fk.fval));
     storeColour(d, acc, dst + i, kAlpha, colour);
@@ -388,7 +380,7 @@ bool lineRow(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixed
   };
   auto sym = [&](auto tw) {
     if constexpr (std::is_floating_point_v<Ts>)
-      symRowF<L>(rows, dst, width, fk, l);
+      symRowF<L>(rows, dst, width, fk);
     else
       symRow5<Ts, Td, L>(rows, dst, width, fk, l, tw);
     return true;
