@@ -4,10 +4,10 @@
 // integers, one rounding and one saturation at the end, so the integer results are exact.
 //
 // Vector kernels: integer results equal the plain kernels' bit for bit. Float rows of separable
-// and symmetric 5x5 kernels go through column lines and so associate the sums differently from
-// the plain kernel (which adds w x src tap by tap, top row first): the two agree within a few
-// units in the last place of the sum of |w x src|, and the tests hold both to a double-precision
-// reference within 1e-6 of that sum (divided by the divisor).
+// kernels (through a column line) and of symmetric 5x5 kernels (rows and columns folded)
+// associate the sums differently from the plain kernel, which adds w x src tap by tap, top row
+// first: the two agree within a few units in the last place of the sum of |w x src|, and the
+// tests hold both to a double-precision reference within 1e-6 of that sum (over the divisor).
 #include <cstdint>
 
 #undef HWY_TARGET_INCLUDE
