@@ -483,6 +483,17 @@ void medianBitsRow(const T* HWY_RESTRICT top, int step, T* HWY_RESTRICT out, int
   const V rank = hn::Set(d, static_cast<T>(n / 2 + 1));
   const V one = hn::Set(d, T{1});
   const auto colour = colourLanes(d);
+  // count + (v < candidate): with mask registers (AVX-512) 8u takes the saturated difference
+  // clipped to 1, which stays out of them; otherwise the comparison in the values' own order.
+  auto below = [&](V count, V v, V t, V ts) {
+    if constexpr (sizeof(T) == 1 && HWY_TARGET == HWY_AVX3) {
+      (void)ts;
+      return hn::Add(count, hn::Min(hn::SaturatedSub(t, v), one));
+    } else {
+      (void)t;
+      return hn::Sub(count, hn::VecFromMask(d, hn::Lt(v, ts)));
+    }
+  };
   auto one_vector = [&](std::ptrdiff_t e) {
     V r = hn::Zero(d);  // in the flipped order
     for (int b = kBits - 1; b >= 0; --b) {
@@ -492,7 +503,7 @@ void medianBitsRow(const T* HWY_RESTRICT top, int step, T* HWY_RESTRICT out, int
       for (int i = 0; i < ms.height; ++i) {
         const T* row = rowAt(top, step, i) + e;
         for (int j = 0; j < ms.width; ++j)
-          count = hn::Sub(count, hn::VecFromMask(d, hn::Lt(hn::LoadU(d, row + j * kCh), ts)));
+          count = below(count, hn::LoadU(d, row + j * kCh), t, ts);
       }
       r = hn::IfThenElse(hn::Lt(count, rank), t, r);
     }
