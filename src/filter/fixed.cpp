@@ -149,6 +149,44 @@ void sepRow16(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixe
   fixed::fixedFrom<Ts, Td, L>(rows, dst, i, n, fk);
 }
 
+// Separable kernels over 16s sources: the same two passes in 32-bit lanes.
+template <class Ts, class Td, class L, class W>
+void sepRow32(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const FixedKernel& fk,
+              int32_t* HWY_RESTRICT line, W tw) {
+  constexpr int kCh = L::kCh;
+  constexpr bool kAlpha = L::kUse != L::kCh;
+  const hn::ScalableTag<int32_t> d;
+  const hn::Rebind<Ts, decltype(d)> ds;
+  const hn::Rebind<Td, decltype(d)> dd;
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
+  const int k = tw.k(), c = k / 2;
+  const std::ptrdiff_t lead = elemsOf(c, kCh), ext = elemsOf(width + k - 1, kCh), n = elemsOf(width, kCh);
+  std::ptrdiff_t e = 0;
+  for (; e + N <= ext; e += N) {
+    auto acc = hn::Zero(d);
+#pragma GCC unroll 5
+    for (int r = 0; r < k; ++r)
+      if (tw.col(r)) acc = addTimes(d, acc, hn::PromoteTo(d, hn::LoadU(ds, rows[r] - lead + e)), tw.col(r));
+    hn::StoreU(acc, d, line + e);
+  }
+  for (; e < ext; ++e) {
+    int32_t a = 0;
+    for (int r = 0; r < k; ++r) a += tw.col(r) * static_cast<int32_t>(rows[r][e - lead]);
+    line[e] = a;
+  }
+  const auto colour = colourLanes(dd);
+  std::ptrdiff_t i = 0;
+  for (; i + N <= n; i += N) {
+    auto acc = hn::Zero(d);
+#pragma GCC unroll 5
+    for (int j = 0; j < k; ++j)
+      if (tw.row(j)) acc = addTimes(d, acc, hn::LoadU(d, line + i + elemsOf(j, kCh)), tw.row(j));
+    if (tw.centre()) acc = addTimes(d, acc, hn::PromoteTo(d, hn::LoadU(ds, rows[c] + i)), tw.centre());
+    storeColour(dd, toDst(dd, postInt<Ts, Td>(d, acc, fk)), dst + i, kAlpha, colour);
+  }
+  fixed::fixedFrom<Ts, Td, L>(rows, dst, i, n, fk);
+}
+
 // Kernels symmetric about both axes (the 5x5 Gauss and Laplace) over 8-bit sources: the column
 // pass folds rows 0 and 4, 1 and 3, and keeps one 16-bit line per distinct column of weights
 // (columns 0 = 4, 1 = 3, 2); the row pass adds five line elements in 32-bit lanes. The Gauss
@@ -374,16 +412,21 @@ bool lineRow(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixed
   auto sep = [&](auto tw) {
     if constexpr (std::is_floating_point_v<Ts>)
       sepRowF<L>(rows, dst, width, fk, l, tw);
-    else
+    else if constexpr (sizeof(Ts) == 1)
       sepRow16<Ts, Td, L>(rows, dst, width, fk, l, tw);
+    else
+      sepRow32<Ts, Td, L>(rows, dst, width, fk, l, tw);
     return true;
   };
   auto sym = [&](auto tw) {
-    if constexpr (std::is_floating_point_v<Ts>)
+    if constexpr (std::is_floating_point_v<Ts>) {
       symRowF<L>(rows, dst, width, fk);
-    else
+      return true;
+    } else if constexpr (sizeof(Ts) == 1) {
       symRow5<Ts, Td, L>(rows, dst, width, fk, l, tw);
-    return true;
+      return true;
+    }
+    return false;  // 16s: tap by tap
   };
   switch (fk.hot) {
     case fixed::Hot::Gauss3: return sep(SepTaps3<3, 1, 2, 1, 1, 2, 1, 0>());
@@ -409,7 +452,8 @@ void fixedRow(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixe
     if (!lineRow<Ts, Td, L>(rows, dst, width, fk, static_cast<int16_t*>(line)))
       directRow32<Ts, Td, L>(rows, dst, width, fk);
   } else {
-    directRow32<Ts, Td, L>(rows, dst, width, fk);
+    if (!lineRow<Ts, Td, L>(rows, dst, width, fk, static_cast<int32_t*>(line)))
+      directRow32<Ts, Td, L>(rows, dst, width, fk);
   }
 }
 
@@ -626,9 +670,9 @@ LumStatus fixedImpl(Kind kind, const Ts* src, int srcStep, Td* dst, int dstStep,
   const FixedKernel& fk = kernelOf(kind, mask == lumMskSize5x5);
   const FixedRowFn<Ts, Td> rowFn = pickFixedRow<Ts, Td, L>();
   const int c = fk.k / 2;
-  // lines of column sums per thread for the vector kernels (16-bit, float for 32f): one for the
-  // separable kernels, three for the symmetric 5x5 ones, each a vector longer
-  const std::size_t line = 3 * static_cast<std::size_t>(bytesOf(roi.width + fk.k + 16, L::kCh, sizeof(Ts) == 4 ? 4 : 2)) + 256;
+  // lines of column sums per thread for the vector kernels (16-bit for 8-bit sources, else 32-bit
+  // integers or floats): one for the separable kernels, three for the symmetric 5x5 ones
+  const std::size_t line = 3 * static_cast<std::size_t>(bytesOf(roi.width + fk.k + 16, L::kCh, sizeof(Ts) == 1 ? 2 : 4)) + 256;
   return forRowsWithScratch(
       roi.height, forkByWork(roi, fk.k * fk.k, kForkWork), line, [&](int y0, int y1, Lum8u* scratch) {
         auto band = [&] {
