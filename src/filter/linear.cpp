@@ -386,6 +386,68 @@ void linearRowZip(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, i
   linear::linearFrom<T, int32_t, L>(win, srcStep, dst, e, n, kernel, kw, kh, sc);
 }
 
+// 8u rows under integer kernels whose taps sum in magnitude to at most 128, in shift or no-scale
+// mode: every partial sum lies within 255 x 128 = 32640, so 16-bit lanes hold the exact sums and
+// products (each tap at most 128 in magnitude) of the one-lane-per-element route.
+template <class L>
+void linearRowNarrow(const Lum8u* HWY_RESTRICT win, int srcStep, Lum8u* HWY_RESTRICT dst,
+                     int width, const int32_t* HWY_RESTRICT kernel, int kw, int kh,
+                     const linear::Scale& sc) {
+  constexpr int kCh = L::kCh;
+  constexpr bool kAlpha = L::kUse != L::kCh;
+  const hn::ScalableTag<int16_t> d16;
+  const hn::Rebind<uint8_t, decltype(d16)> d8;
+  using V = hn::Vec<decltype(d16)>;
+  const std::ptrdiff_t M = static_cast<std::ptrdiff_t>(hn::Lanes(d16));
+  const std::ptrdiff_t n = elemsOf(width, kCh);
+  const int32_t* last = kernel + (static_cast<std::ptrdiff_t>(kw) * kh - 1);
+  const auto colour = colourLanes(d8);
+  const int k1 = sc.mode == linear::Mode::kShift ? (sc.k - 1 < 15 ? sc.k - 1 : 15) : 0;
+  auto load = [&](const Lum8u* p) { return hn::BitCast(d16, hn::PromoteTo(hn::RebindToUnsigned<decltype(d16)>(), hn::LoadU(d8, p))); };
+  auto store = [&](V sum, Lum8u* q) {
+    if (sc.mode == linear::Mode::kShift) {  // halves up: q - (q >> 1) with q = S >> (k - 1)
+      sum = hn::ShiftRightSame(sum, k1);  // |S| < 2^15: larger shifts give the same 0 or -1
+      sum = hn::Sub(sum, hn::ShiftRightSame(sum, 1));
+    }
+    storeColour(d8, hn::DemoteTo(d8, sum), q, kAlpha, colour);
+  };
+  std::ptrdiff_t e = 0;
+  for (; e + 4 * M <= n; e += 4 * M) {
+    V a0 = hn::Zero(d16), a1 = a0, a2 = a0, a3 = a0;
+    const int32_t* tap = last;
+    for (int ii = 0; ii < kh; ++ii) {
+      const Lum8u* p = rowAt(win, srcStep, ii) + e;
+      for (int jj = 0; jj < kw; ++jj, --tap, p += kCh) {
+        const V t = hn::Set(d16, static_cast<int16_t>(*tap));
+        a0 = hn::Add(a0, hn::Mul(t, load(p)));
+        a1 = hn::Add(a1, hn::Mul(t, load(p + M)));
+        a2 = hn::Add(a2, hn::Mul(t, load(p + 2 * M)));
+        a3 = hn::Add(a3, hn::Mul(t, load(p + 3 * M)));
+      }
+    }
+    store(a0, dst + e);
+    store(a1, dst + e + M);
+    store(a2, dst + e + 2 * M);
+    store(a3, dst + e + 3 * M);
+  }
+  auto pass = [&](std::ptrdiff_t at) {
+    V acc = hn::Zero(d16);
+    const int32_t* tap = last;
+    for (int ii = 0; ii < kh; ++ii) {
+      const Lum8u* p = rowAt(win, srcStep, ii) + at;
+      for (int jj = 0; jj < kw; ++jj, --tap, p += kCh)
+        acc = hn::Add(acc, hn::Mul(hn::Set(d16, static_cast<int16_t>(*tap)), load(p)));
+    }
+    store(acc, dst + at);
+  };
+  for (; e + M <= n; e += M) pass(e);
+  if (e < n && n >= M) {  // one more pass ending at the row's end, over elements already written
+    pass(n - M);
+    e = n;
+  }
+  linear::linearFrom<Lum8u, int32_t, L>(win, srcStep, dst, e, n, kernel, kw, kh, sc);
+}
+
 #endif
 LUMI_SIMD_END
 
@@ -430,6 +492,19 @@ LinearRowFn<T, int32_t> pickLinearRowZip() {
   return pick(table, static_cast<Fn>(&linearRowScalar<T, int32_t, L>));
 }
 
+template <class L>
+LinearRowFn<Lum8u, int32_t> pickLinearRowNarrow() {
+  using Fn = LinearRowFn<Lum8u, int32_t>;
+  LUMI_SIMD_TABLE(Fn, table, linearRowNarrow<L>);
+  return pick(table, static_cast<Fn>(&linearRowScalar<Lum8u, int32_t, L>));
+}
+
+inline long long sumOfMagnitudes(const int32_t* k, long long count) {
+  long long s = 0;
+  for (long long i = 0; i < count; ++i) s += k[i] < 0 ? -static_cast<long long>(k[i]) : k[i];
+  return s;
+}
+
 inline bool tapsFit16(const int32_t* k, long long count) {
   for (long long i = 0; i < count; ++i)
     if (k[i] < -32768 || k[i] > 32767) return false;
@@ -452,6 +527,13 @@ LumStatus run(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, cons
       if (L::kCh == 1 && ks.width >= 2) rowFn = pickLinearRowPairs<T>();
       else rowFn = pickLinearRowZip<T, L>();
       twoRows = nullptr;
+    }
+    if constexpr (std::is_same_v<T, Lum8u>) {
+      if (sc.mode != Mode::kMultiply &&
+          sumOfMagnitudes(kernel, static_cast<long long>(ks.width) * ks.height) <= 128) {
+        rowFn = pickLinearRowNarrow<L>();
+        twoRows = nullptr;
+      }
     }
   }
   const std::ptrdiff_t up = static_cast<std::ptrdiff_t>(ks.height) - 1 - anchor.y;
