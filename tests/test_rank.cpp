@@ -256,6 +256,11 @@ TEST(Rank, NamedCases) {
   EXPECT_EQ(lumiFilterMax_8u_C1R(lowHigh + 4, 3, &out, 1, {1, 1}, {3, 2}, {1, 1}), lumStatusOk);
   EXPECT_EQ(out, 255);
   EXPECT_EQ(lumiFilterMedianColor_8u_C3R(lowHigh, 9, &out, 3, {1, 1}, 35), lumStatusMaskSizeErr);
+  // Scratch too large to allocate: reported before anything is read or written.
+  out = 7;
+  EXPECT_EQ(lumiFilterMin_8u_C1R(lowHigh, 3, &out, 1, {1, 1}, {1, 1 << 29}, {0, 0}), lumStatusMemAllocErr);
+  EXPECT_EQ(lumiFilterMedian_8u_C1R(lowHigh, 3, &out, 1, {1, 1}, {46341, 46341}, {0, 0}), lumStatusMemAllocErr);
+  EXPECT_EQ(out, 7);
 }
 
 // Each row breaks one check and every later one; the earlier checks pass. Nothing is written.
