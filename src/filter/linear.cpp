@@ -8,7 +8,11 @@
 //     2^32), every tap in the definition's order;
 //   - integer kernels whose taps all fit in 16 bits multiply-add two taps at once in 16-bit
 //     pairs: linearRowPairs for one-channel rows of kernels at least two taps wide (neighbouring
-//     taps of a kernel row), linearRowZip for the others (any two consecutive taps).
+//     taps of a kernel row), linearRowZip for the others (any two consecutive taps);
+//   - 8u under kernels whose taps sum in magnitude to at most 128 (shift or no scale):
+//     linearRowNarrow, whose 16-bit lanes hold every partial sum exactly;
+//   - kernels of several rows on the one-lane route: linearTwoRows, two destination rows per
+//     pass sharing each source vector.
 // Each lane computes its element with the same operations in the same order as the plain kernel
 // (a product rounded and then added, no fused multiply-add; integer sums modulo 2^32, where the
 // order does not matter), so integer and float results alike equal the plain kernels' bit for
