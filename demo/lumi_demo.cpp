@@ -163,6 +163,56 @@ int main(int argc, char** argv) {
                                  levels, 4);
   }, &contrast, "piecewise-linear S curve");
 
+  // Neighbourhood filters read the pixels around the ROI: they work on a grey copy of the noisy
+  // picture with a replicated border, starting at its inner corner.
+  const int gb = 8;
+  Image greyB(grey.width + 2 * gb, grey.height + 2 * gb, 1), maskB(grey.width + 2 * gb, grey.height + 2 * gb, 1);
+  lumiCopyReplicateBorder_8u_C1R(noisyGrey.data, noisyGrey.step, roi, greyB.data, greyB.step, greyB.roi(), gb, gb);
+  lumiCopyReplicateBorder_8u_C1R(mask.data, mask.step, roi, maskB.data, maskB.step, maskB.roi(), gb, gb);
+  const Lum8u* inner = greyB.data + gb * greyB.step + gb;
+
+  Image blurred(grey.width, grey.height, 1);
+  step("box-blur", [&] {
+    return lumiFilterBox_8u_C1R(inner, greyB.step, blurred.data, blurred.step, roi, LumiSize{7, 7},
+                                LumiPoint{3, 3});
+  }, &blurred, "7x7 box filter of the noisy picture");
+
+  Image median(grey.width, grey.height, 1);
+  step("median", [&] {
+    return lumiFilterMedian_8u_C1R(inner, greyB.step, median.data, median.step, roi, LumiSize{5, 5},
+                                   LumiPoint{2, 2});
+  }, &median, "5x5 median of the noisy picture");
+
+  // Edge map: |horizontal| + |vertical| Sobel responses of the blurred picture, halved.
+  Image edges(grey.width, grey.height, 1), blurredB(grey.width + 2 * gb, grey.height + 2 * gb, 1);
+  int gstep = 0, vstep = 0;
+  Lum16s* gh = lumiMalloc_16s_C1(grey.width, grey.height, &gstep);
+  Lum16s* gv = lumiMalloc_16s_C1(grey.width, grey.height, &vstep);
+  step("edges", [&] {
+    LumStatus st = lumiCopyReplicateBorder_8u_C1R(blurred.data, blurred.step, roi, blurredB.data,
+                                                  blurredB.step, blurredB.roi(), gb, gb);
+    const Lum8u* in = blurredB.data + gb * blurredB.step + gb;
+    if (!st) st = lumiFilterSobelHoriz_8u16s_C1R(in, blurredB.step, gh, gstep, roi, lumMskSize3x3);
+    if (!st) st = lumiFilterSobelVert_8u16s_C1R(in, blurredB.step, gv, vstep, roi, lumMskSize3x3);
+    if (!st) st = lumiAbs_16s_C1IR(gh, gstep, roi);
+    if (!st) st = lumiAbs_16s_C1IR(gv, vstep, roi);
+    if (!st) st = lumiAdd_16s_C1IRSfs(gv, vstep, gh, gstep, roi, 1);
+    if (!st) st = lumiConvert_16s8u_C1R(gh, gstep, edges.data, edges.step, roi);
+    return st;
+  }, &edges, "Sobel magnitude |gx| + |gy| of the blurred picture");
+  lumiFree(gh);
+  lumiFree(gv);
+
+  // Morphological opening of the threshold mask: erosion then dilation, in place.
+  Image opened(grey.width, grey.height, 1);
+  step("opened-mask", [&] {
+    Lum8u* in = maskB.data + gb * maskB.step + gb;
+    LumStatus st = lumiErode3x3_8u_C1IR(in, maskB.step, roi);
+    if (!st) st = lumiDilate3x3_8u_C1IR(in, maskB.step, roi);
+    if (!st) st = lumiCopy_8u_C1R(in, maskB.step, opened.data, opened.step, roi);
+    return st;
+  }, &opened, "3x3 opening of the threshold mask (erode, dilate)");
+
   // Histogram of the noisy picture, drawn as 64 bars.
   const int bins = 64, barW = 4, chartH = 128;
   Image chart(bins * barW, chartH, 1);

@@ -15,5 +15,11 @@
 #include "lumi/lut.h"
 #include "lumi/stats.h"
 #include "lumi/generate.h"
+#include "lumi/filter.h"
+#include "lumi/filter_fixed.h"
+#include "lumi/filter_linear.h"
+#include "lumi/filter_rank.h"
+#include "lumi/morphology.h"
+#include "lumi/filter_wiener.h"
 
 #endif
