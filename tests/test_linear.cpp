@@ -19,13 +19,14 @@ enum Shape { k2D, kRow, kCol };
 // Every export reached as the 2-D form: shape picks the function, ks and anchor its sizes.
 template <class T, class K>
 struct Api;
-#define BY_LAYOUT(pre) {pre##C1R, pre##C3R, pre##C4R, pre##AC4R}
-#define LINEAR_API(t, K, f2, fr, fc)                                                             \
-  template <>                                                                                    \
-  struct Api<Lum##t, K> {                                                                        \
-    static constexpr decltype(&f2##C1R) twoD[4] = BY_LAYOUT(f2);                                 \
-    static constexpr decltype(&fr##C1R) row[4] = BY_LAYOUT(fr);                                  \
-    static constexpr decltype(&fc##C1R) col[4] = BY_LAYOUT(fc);                                  \
+#define BY_LAYOUT(pre) \
+  { pre##C1R, pre##C3R, pre##C4R, pre##AC4R }
+#define LINEAR_API(t, K, f2, fr, fc)                             \
+  template <>                                                    \
+  struct Api<Lum##t, K> {                                        \
+    static constexpr decltype(&f2##C1R) twoD[4] = BY_LAYOUT(f2); \
+    static constexpr decltype(&fr##C1R) row[4] = BY_LAYOUT(fr);  \
+    static constexpr decltype(&fc##C1R) col[4] = BY_LAYOUT(fc);  \
   };
 LINEAR_API(8u, Lum32s, lumiFilter_8u_, lumiFilterRow_8u_, lumiFilterColumn_8u_)
 LINEAR_API(16s, Lum32s, lumiFilter_16s_, lumiFilterRow_16s_, lumiFilterColumn_16s_)
@@ -52,19 +53,25 @@ LumStatus call(Shape s, int li, const T* src, int ss, T* dst, int ds, LumiSize r
 template <class T>
 T expectInt(int64_t s, int divisor) {
   double r;
-  if (divisor == 1) r = static_cast<double>(s);
+  if (divisor == 1)
+    r = static_cast<double>(s);
   else if (divisor > 1 && (divisor & (divisor - 1)) == 0) {
     const int k = __builtin_ctz(divisor);
-    r = (std::is_same_v<T, Lum8u> && s < 1) ? 0.0 : static_cast<double>((s + (1LL << (k - 1))) >> k);
+    r = (std::is_same_v<T, Lum8u> && s < 1) ? 0.0
+                                            : static_cast<double>((s + (1LL << (k - 1))) >> k);
   } else {
     r = std::nearbyint(static_cast<float>(s) * (1.0f / static_cast<float>(divisor)));
   }
-  return static_cast<T>(std::fmin(std::fmax(r, std::numeric_limits<T>::lowest()), std::numeric_limits<T>::max()));
+  return static_cast<T>(
+      std::fmin(std::fmax(r, std::numeric_limits<T>::lowest()), std::numeric_limits<T>::max()));
 }
 template <class T>
 T expectFloat(float s) {
-  if constexpr (std::is_same_v<T, Lum32f>) return s;
-  else return static_cast<T>(std::fmin(std::fmax(std::nearbyint(s), std::numeric_limits<T>::lowest()), std::numeric_limits<T>::max()));
+  if constexpr (std::is_same_v<T, Lum32f>)
+    return s;
+  else
+    return static_cast<T>(std::fmin(std::fmax(std::nearbyint(s), std::numeric_limits<T>::lowest()),
+                                    std::numeric_limits<T>::max()));
 }
 
 struct Case {
@@ -81,21 +88,28 @@ template <class T, class K>
 void check(const Case& c, int li, uint32_t seed) {
   const Layout L = kLayouts[li];
   Rng rng = makeRng(seed);
-  const int x0 = std::max(0, c.ks.width - 1 - c.anchor.x), y0 = std::max(0, c.ks.height - 1 - c.anchor.y);
-  GuardedImage<T> src(c.w + x0 + std::max(c.ks.width - 1, c.anchor.x), c.h + y0 + std::max(c.ks.height - 1, c.anchor.y), L.ch, -1, -1, seed);
+  const int x0 = std::max(0, c.ks.width - 1 - c.anchor.x),
+            y0 = std::max(0, c.ks.height - 1 - c.anchor.y);
+  GuardedImage<T> src(c.w + x0 + std::max(c.ks.width - 1, c.anchor.x),
+                      c.h + y0 + std::max(c.ks.height - 1, c.anchor.y), L.ch, -1, -1, seed);
   GuardedImage<T> dst(c.w, c.h, L.ch, -1, -1, seed + 1);
   src.fillRandom(rng);
   dst.fillRandom(rng);
   const std::vector<T> before = dst.pixels();
   std::vector<K> kernel(static_cast<size_t>(c.ks.width) * c.ks.height);
   for (K& k : kernel)
-    k = std::is_same_v<K, Lum32s> ? static_cast<K>(randInt(rng, -300, 300)) : static_cast<K>(randInt(rng, -2000, 2000) / 1024.0);
-  if (std::is_same_v<K, Lum32s> && seed % 3 == 0) kernel[seed % kernel.size()] = 70001;  // not 16-bit: sums wrap
-  if (std::is_same_v<K, Lum32s> && seed % 3 == 1) {  // magnitudes summing to at most 128: 16-bit sums
+    k = std::is_same_v<K, Lum32s> ? static_cast<K>(randInt(rng, -300, 300))
+                                  : static_cast<K>(randInt(rng, -2000, 2000) / 1024.0);
+  if (std::is_same_v<K, Lum32s> && seed % 3 == 0)
+    kernel[seed % kernel.size()] = 70001;  // not 16-bit: sums wrap
+  if (std::is_same_v<K, Lum32s> &&
+      seed % 3 == 1) {  // magnitudes summing to at most 128: 16-bit sums
     const int bound = std::max<int>(1, 128 / static_cast<int>(kernel.size()));
     for (K& k : kernel) k = static_cast<K>(randInt(rng, -bound, bound));
   }
-  ASSERT_EQ((call<T, K>(c.shape, li, &src.at(x0, y0), src.step(), dst.ptr(), dst.step(), dst.roi(), kernel.data(), c.ks, c.anchor, c.divisor)), lumStatusOk);
+  ASSERT_EQ((call<T, K>(c.shape, li, &src.at(x0, y0), src.step(), dst.ptr(), dst.step(), dst.roi(),
+                        kernel.data(), c.ks, c.anchor, c.divisor)),
+            lumStatusOk);
   ASSERT_TRUE(dst.guardsIntact());
   for (int y = 0; y < c.h; ++y)
     for (int x = 0; x < c.w; ++x)
@@ -114,7 +128,9 @@ void check(const Case& c, int li, uint32_t seed) {
           const int32_t wrapped = static_cast<int32_t>(static_cast<uint32_t>(si));  // 32-bit sums
           want = std::is_same_v<K, Lum32s> ? expectInt<T>(wrapped, c.divisor) : expectFloat<T>(sf);
         }
-        ASSERT_EQ(dst.at(x, y, ch), want) << L.name << " div " << c.divisor << " ks " << c.ks.width << "x" << c.ks.height << " roi " << c.w << " shape " << c.shape << " " << x << "," << y << "," << ch;
+        ASSERT_EQ(dst.at(x, y, ch), want)
+            << L.name << " div " << c.divisor << " ks " << c.ks.width << "x" << c.ks.height
+            << " roi " << c.w << " shape " << c.shape << " " << x << "," << y << "," << ch;
       }
 }
 
@@ -125,7 +141,9 @@ void checkAll(uint32_t salt) {
   for (int li = 0; li < 4; ++li)
     for (int n = 0; n < 24; ++n) {
       const Shape s = static_cast<Shape>(n % 3);
-      Case c{s, 0, 0, {s == kCol ? 1 : randInt(r, 1, 9), s == kRow ? 1 : randInt(r, 1, 7)}, {0, 0}, divisors[n % 8]};
+      Case c{s,      0,
+             0,      {s == kCol ? 1 : randInt(r, 1, 9), s == kRow ? 1 : randInt(r, 1, 7)},
+             {0, 0}, divisors[n % 8]};
       const LumiSize roi = randomSize(r, n < 12 ? 15 : 70, 9);  // under and over the fast path's 16
       c.w = roi.width, c.h = roi.height;
       c.anchor = {randInt(r, -1, c.ks.width), randInt(r, -1, c.ks.height)};  // sometimes outside
@@ -136,7 +154,8 @@ void checkAll(uint32_t salt) {
   const int saved = threads_omp_of_n_lum;
   for (int threads : {1, 2}) {  // 123 x 91 pixels x 49 taps: forked
     threads_omp_of_n_lum = threads;
-    for (int li = 0; li < 4; ++li) check<T, K>({k2D, 123, 91, {7, 7}, {3, 3}, 3}, li, salt + threads);
+    for (int li = 0; li < 4; ++li)
+      check<T, K>({k2D, 123, 91, {7, 7}, {3, 3}, 3}, li, salt + threads);
   }
   threads_omp_of_n_lum = saved;
 }
@@ -153,14 +172,18 @@ TEST(Linear, FloatKernelsMatchDefinition) {
 
 // A one-tap kernel {S} on pixels of 1 gives the sum S: the divisor's rounding, 8u and 16s.
 TEST(Linear, DivisorRounding) {
-  struct Row { int s, divisor, want8u, want16s; } rows[] = {
-      {3, 2, 2, 2}, {1, 2, 1, 1}, {15, 6, 2, 2}, {10, 4, 3, 3}, {-3, 2, 0, -1}, {-1, 2, 0, 0},
-      {-2, 4, 0, 0}, {-6, 4, 0, -1}, {7, -1, 0, -7}, {300, 1, 255, 300}, {-70000, 1, 0, -32768}, {9, -2, 0, -4}};
+  struct Row {
+    int s, divisor, want8u, want16s;
+  } rows[] = {{3, 2, 2, 2},   {1, 2, 1, 1},       {15, 6, 2, 2},          {10, 4, 3, 3},
+              {-3, 2, 0, -1}, {-1, 2, 0, 0},      {-2, 4, 0, 0},          {-6, 4, 0, -1},
+              {7, -1, 0, -7}, {300, 1, 255, 300}, {-70000, 1, 0, -32768}, {9, -2, 0, -4}};
   for (const Row& r : rows) {
     Lum8u s8 = 1, d8 = 77;
     Lum16s s16 = 1, d16 = 77;
-    EXPECT_EQ(lumiFilter_8u_C1R(&s8, 1, &d8, 1, {1, 1}, &r.s, {1, 1}, {0, 0}, r.divisor), lumStatusOk);
-    EXPECT_EQ(lumiFilter_16s_C1R(&s16, 2, &d16, 2, {1, 1}, &r.s, {1, 1}, {0, 0}, r.divisor), lumStatusOk);
+    EXPECT_EQ(lumiFilter_8u_C1R(&s8, 1, &d8, 1, {1, 1}, &r.s, {1, 1}, {0, 0}, r.divisor),
+              lumStatusOk);
+    EXPECT_EQ(lumiFilter_16s_C1R(&s16, 2, &d16, 2, {1, 1}, &r.s, {1, 1}, {0, 0}, r.divisor),
+              lumStatusOk);
     EXPECT_EQ(d8, r.want8u) << r.s << "/" << r.divisor;
     EXPECT_EQ(d16, r.want16s) << r.s << "/" << r.divisor;
   }
@@ -187,7 +210,8 @@ void checkOrder() {
       const std::vector<T> before = dst.pixels();
       const int pix = kLayouts[li].ch * sizeof(T);
       const int need = s == kCol ? 8 * pix : 10 * pix;  // 8 + 3 - 1 pixels unless vertical
-      auto run = [&](const T* p, T* d, const K* kk, LumiSize roi, LumiSize ks, int div, int ss, int ds) {
+      auto run = [&](const T* p, T* d, const K* kk, LumiSize roi, LumiSize ks, int div, int ss,
+                     int ds) {
         return call<T, K>(s, li, p, ss, d, ds, roi, kk, ks, {1, 1}, div);
       };
       const T* p = &src.at(4, 2);
@@ -231,15 +255,21 @@ TEST(Linear, OpenCvAgrees) {
     const LumiPoint a{randInt(r, 0, ks.width - 1), randInt(r, 0, ks.height - 1)};
     cv::Mat k(ks.height, ks.width, CV_32F);
     cv::randu(k, -1.0f, 1.0f);
-    ASSERT_EQ((call<Lum32f, Lum32f>)(s, 1, roi.ptr<Lum32f>(), static_cast<int>(roi.step), ours.ptr<Lum32f>(), static_cast<int>(ours.step),
-                                   {roi.cols, roi.rows}, k.ptr<Lum32f>(), ks, a, 1), lumStatusOk);
+    ASSERT_EQ((call<Lum32f, Lum32f>)(s, 1, roi.ptr<Lum32f>(), static_cast<int>(roi.step),
+                                     ours.ptr<Lum32f>(), static_cast<int>(ours.step),
+                                     {roi.cols, roi.rows}, k.ptr<Lum32f>(), ks, a, 1),
+              lumStatusOk);
     cv::Mat f;
     cv::flip(k, f, -1);
     const cv::Point cvAnchor(ks.width - 1 - a.x, ks.height - 1 - a.y);
-    if (s == k2D) cv::filter2D(roi, theirs, CV_32F, f, cvAnchor);
-    else cv::sepFilter2D(roi, theirs, CV_32F, s == kRow ? f.reshape(1, 1) : cv::Mat::ones(1, 1, CV_32F),
-                         s == kCol ? f.reshape(1, 1) : cv::Mat::ones(1, 1, CV_32F), cvAnchor);
-    EXPECT_LE(cv::norm(ours, theirs, cv::NORM_INF), 1e-5 * 100 * ks.width * ks.height) << "shape " << s;
+    if (s == k2D)
+      cv::filter2D(roi, theirs, CV_32F, f, cvAnchor);
+    else
+      cv::sepFilter2D(roi, theirs, CV_32F,
+                      s == kRow ? f.reshape(1, 1) : cv::Mat::ones(1, 1, CV_32F),
+                      s == kCol ? f.reshape(1, 1) : cv::Mat::ones(1, 1, CV_32F), cvAnchor);
+    EXPECT_LE(cv::norm(ours, theirs, cv::NORM_INF), 1e-5 * 100 * ks.width * ks.height)
+        << "shape " << s;
   }
 }
 #endif

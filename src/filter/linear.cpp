@@ -39,8 +39,10 @@ HWY_INLINE hn::Vec<DA> loadAs(DA da, const T* HWY_RESTRICT p) {
     const hn::RebindToSigned<DA> di;
     const hn::Rebind<T, DA> dt;
     const auto v = hn::PromoteTo(di, hn::LoadU(dt, p));
-    if constexpr (std::is_same_v<A, float>) return hn::ConvertTo(da, v);
-    else return v;
+    if constexpr (std::is_same_v<A, float>)
+      return hn::ConvertTo(da, v);
+    else
+      return v;
   }
 }
 
@@ -95,7 +97,8 @@ HWY_INLINE hn::Vec<hn::Rebind<T, DA>> finishVec(DA da, hn::Vec<DA> sum, const li
     return sum;
   } else if constexpr (std::is_same_v<A, float>) {
     const hn::Rebind<float, DA> df;
-    auto v = hn::Min(hn::Max(sum, hn::Set(df, linear::lowOf<T>())), hn::Set(df, linear::highOf<T>()));
+    auto v =
+        hn::Min(hn::Max(sum, hn::Set(df, linear::lowOf<T>())), hn::Set(df, linear::highOf<T>()));
     return hn::DemoteTo(dt, hn::NearestInt(v));
   } else {
     return hn::DemoteTo(dt, scaleClamp<T>(da, sum, sc));
@@ -201,8 +204,10 @@ void linearTwoRows(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, 
     V a0 = hn::Zero(da), a1 = a0, a2 = a0, a3 = a0, b0 = a0, b1 = a0, b2 = a0, b3 = a0;
     // The two source rows the previous pass did not read come from memory: asked for a
     // kilobyte ahead (the others are still in cache). A prefetch past the rows never faults.
-    const std::uintptr_t next0 = reinterpret_cast<std::uintptr_t>(rowAt(win, srcStep, kh - 1) + e) + 1024;
-    const std::uintptr_t next1 = reinterpret_cast<std::uintptr_t>(rowAt(win, srcStep, kh) + e) + 1024;
+    const std::uintptr_t next0 =
+        reinterpret_cast<std::uintptr_t>(rowAt(win, srcStep, kh - 1) + e) + 1024;
+    const std::uintptr_t next1 =
+        reinterpret_cast<std::uintptr_t>(rowAt(win, srcStep, kh) + e) + 1024;
     for (std::uintptr_t b = 0; b < U * N * sizeof(T); b += 64) {
       __builtin_prefetch(reinterpret_cast<const void*>(next0 + b));
       __builtin_prefetch(reinterpret_cast<const void*>(next1 + b));
@@ -252,7 +257,8 @@ void linearTwoRows(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, 
 // with a zero tap, whose pixel is the one just past the window: the vector passes stop one
 // pixel early so that it is still a pixel of the row the caller supplies.
 template <class T>
-HWY_INLINE hn::Vec<hn::Repartition<int16_t, hn::ScalableTag<int32_t>>> load16(const T* HWY_RESTRICT p) {
+HWY_INLINE hn::Vec<hn::Repartition<int16_t, hn::ScalableTag<int32_t>>> load16(
+    const T* HWY_RESTRICT p) {
   const hn::Repartition<int16_t, hn::ScalableTag<int32_t>> d16;
   if constexpr (std::is_same_v<T, Lum8u>) {
     const hn::Rebind<uint8_t, decltype(d16)> d8;
@@ -280,12 +286,17 @@ void linearRowPairs(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst,
   // Packed, each 128-bit block holds four even then four odd pixels: one byte shuffle per
   // block interleaves them.
   const hn::Repartition<uint8_t, decltype(d16)> du8;
-  HWY_ALIGN static constexpr uint8_t kEvenOdd[16] = {0, 1, 8, 9, 2, 3, 10, 11, 4, 5, 12, 13, 6, 7, 14, 15};
+  HWY_ALIGN static constexpr uint8_t kEvenOdd[16] = {0, 1, 8,  9,  2, 3, 10, 11,
+                                                     4, 5, 12, 13, 6, 7, 14, 15};
   const auto evenOdd = hn::LoadDup128(du8, kEvenOdd);
   auto store = [&](V32 even, V32 odd, T* q) {
-    const V16 v = hn::BitCast(d16, hn::TableLookupBytes(hn::BitCast(du8, packScaled<T>(d16, even, odd, sc)), evenOdd));
-    if constexpr (std::is_same_v<T, Lum8u>) hn::StoreU(hn::DemoteTo(hn::Rebind<uint8_t, decltype(d16)>(), v), hn::Rebind<uint8_t, decltype(d16)>(), q);
-    else hn::StoreU(v, d16, q);
+    const V16 v = hn::BitCast(
+        d16, hn::TableLookupBytes(hn::BitCast(du8, packScaled<T>(d16, even, odd, sc)), evenOdd));
+    if constexpr (std::is_same_v<T, Lum8u>)
+      hn::StoreU(hn::DemoteTo(hn::Rebind<uint8_t, decltype(d16)>(), v),
+                 hn::Rebind<uint8_t, decltype(d16)>(), q);
+    else
+      hn::StoreU(v, d16, q);
   };
   std::ptrdiff_t e = 0;
   for (; e + 2 * M <= stop; e += 2 * M) {  // two passes of M pixels: four named sums
@@ -367,7 +378,9 @@ void linearRowZip(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, i
       const bool both = t + 1 < taps;
       const T* pa = next();
       const T* pb = both ? next() : pa;
-      const uint32_t pair = static_cast<uint16_t>(tap[0]) | (both ? static_cast<uint32_t>(static_cast<uint16_t>(tap[-1])) << 16 : 0u);
+      const uint32_t pair =
+          static_cast<uint16_t>(tap[0]) |
+          (both ? static_cast<uint32_t>(static_cast<uint16_t>(tap[-1])) << 16 : 0u);
       const V16 k = hn::BitCast(d16, hn::Set(d32, static_cast<int32_t>(pair)));
       const V16 a0 = load16(pa), b0 = load16(pb);
       lo0 = hn::ReorderWidenMulAccumulate(d32, hn::InterleaveLower(d16, a0, b0), k, lo0, s);
@@ -380,8 +393,10 @@ void linearRowZip(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, i
     }
     auto out = [&](V32 lo, V32 hi, T* q) {
       const V16 v = packScaled<T>(d16, lo, hi, sc);
-      if constexpr (std::is_same_v<T, Lum8u>) storeColour(dt, hn::DemoteTo(dt, v), q, kAlpha, colour);
-      else storeColour(dt, v, q, kAlpha, colour);
+      if constexpr (std::is_same_v<T, Lum8u>)
+        storeColour(dt, hn::DemoteTo(dt, v), q, kAlpha, colour);
+      else
+        storeColour(dt, v, q, kAlpha, colour);
     };
     out(lo0, hi0, dst + at);
     if (U == 2) out(lo1, hi1, dst + at + M);
@@ -402,9 +417,8 @@ void linearRowZip(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, i
 // mode: every partial sum lies within 255 x 128 = 32640, so 16-bit lanes hold the exact sums and
 // products (each tap at most 128 in magnitude) of the one-lane-per-element route.
 template <class L>
-void linearRowNarrow(const Lum8u* HWY_RESTRICT win, int srcStep, Lum8u* HWY_RESTRICT dst,
-                     int width, const int32_t* HWY_RESTRICT kernel, int kw, int kh,
-                     const linear::Scale& sc) {
+void linearRowNarrow(const Lum8u* HWY_RESTRICT win, int srcStep, Lum8u* HWY_RESTRICT dst, int width,
+                     const int32_t* HWY_RESTRICT kernel, int kw, int kh, const linear::Scale& sc) {
   constexpr int kCh = L::kCh;
   constexpr bool kAlpha = L::kUse != L::kCh;
   const hn::ScalableTag<int16_t> d16;
@@ -415,10 +429,12 @@ void linearRowNarrow(const Lum8u* HWY_RESTRICT win, int srcStep, Lum8u* HWY_REST
   const int32_t* last = kernel + (static_cast<std::ptrdiff_t>(kw) * kh - 1);
   const auto colour = colourLanes(d8);
   const int k1 = sc.mode == linear::Mode::kShift ? (sc.k - 1 < 15 ? sc.k - 1 : 15) : 0;
-  auto load = [&](const Lum8u* p) { return hn::BitCast(d16, hn::PromoteTo(hn::RebindToUnsigned<decltype(d16)>(), hn::LoadU(d8, p))); };
+  auto load = [&](const Lum8u* p) {
+    return hn::BitCast(d16, hn::PromoteTo(hn::RebindToUnsigned<decltype(d16)>(), hn::LoadU(d8, p)));
+  };
   auto store = [&](V sum, Lum8u* q) {
     if (sc.mode == linear::Mode::kShift) {  // halves up: q - (q >> 1) with q = S >> (k - 1)
-      sum = hn::ShiftRightSame(sum, k1);  // |S| < 2^15: larger shifts give the same 0 or -1
+      sum = hn::ShiftRightSame(sum, k1);    // |S| < 2^15: larger shifts give the same 0 or -1
       sum = hn::Sub(sum, hn::ShiftRightSame(sum, 1));
     }
     storeColour(d8, hn::DemoteTo(d8, sum), q, kAlpha, colour);
@@ -536,8 +552,10 @@ LumStatus run(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, cons
   TwoRowsFn<T, K> twoRows = ks.height > 1 ? pickLinearTwoRows<T, K, L>() : nullptr;
   if constexpr (std::is_same_v<K, int32_t>) {
     if (tapsFit16(kernel, static_cast<long long>(ks.width) * ks.height)) {
-      if (L::kCh == 1 && ks.width >= 2) rowFn = pickLinearRowPairs<T>();
-      else rowFn = pickLinearRowZip<T, L>();
+      if (L::kCh == 1 && ks.width >= 2)
+        rowFn = pickLinearRowPairs<T>();
+      else
+        rowFn = pickLinearRowZip<T, L>();
       twoRows = nullptr;
     }
     if constexpr (std::is_same_v<T, Lum8u>) {
@@ -582,8 +600,10 @@ LumStatus linearImpl(const T* src, int srcStep, T* dst, int dstStep, LumiSize ro
       dstStep < static_cast<long long>(roi.width) * pixel)
     return lumStatusStepErr;
   Scale sc;
-  if (divisor) sc = scaleOf(*divisor);
-  else sc.mode = Mode::kFloat;
+  if (divisor)
+    sc = scaleOf(*divisor);
+  else
+    sc.mode = Mode::kFloat;
   return run<T, K, L>(src, srcStep, dst, dstStep, roi, kernel, ks, anchor, sc);
 }
 
@@ -592,40 +612,40 @@ LumStatus linearImpl(const T* src, int srcStep, T* dst, int dstStep, LumiSize ro
 }  // namespace lumi
 
 // 2-D kernels, with a divisor (integer) or without (32f).
-#define LUMI_FILTER_LINEAR(NAME, T, L)                                                          \
+#define LUMI_FILTER_LINEAR(NAME, T, L)                                                           \
   LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize dstRoiSize, \
                           const Lum32s* pKernel, LumiSize kernelSize, LumiPoint anchor,          \
                           int divisor) {                                                         \
     return linearImpl<T, int32_t, L>(pSrc, srcStep, pDst, dstStep, dstRoiSize, pKernel,          \
                                      kernelSize, anchor, &divisor);                              \
   }
-#define LUMI_FILTER_LINEAR_F(NAME, T, L)                                                        \
-  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize dstRoiSize, \
-                          const Lum32f* pKernel, LumiSize kernelSize, LumiPoint anchor) {        \
-    return linearImpl<T, float, L>(pSrc, srcStep, pDst, dstStep, dstRoiSize, pKernel,            \
-                                   kernelSize, anchor, nullptr);                                 \
+#define LUMI_FILTER_LINEAR_F(NAME, T, L)                                                          \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize dstRoiSize,  \
+                          const Lum32f* pKernel, LumiSize kernelSize, LumiPoint anchor) {         \
+    return linearImpl<T, float, L>(pSrc, srcStep, pDst, dstStep, dstRoiSize, pKernel, kernelSize, \
+                                   anchor, nullptr);                                              \
   }
 // Row kernels: kernelSize x 1, anchored at (xAnchor, 0).
-#define LUMI_FILTER_ROW(NAME, T, L)                                                             \
+#define LUMI_FILTER_ROW(NAME, T, L)                                                              \
   LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize dstRoiSize, \
                           const Lum32s* pKernel, int kernelSize, int xAnchor, int divisor) {     \
     return linearImpl<T, int32_t, L>(pSrc, srcStep, pDst, dstStep, dstRoiSize, pKernel,          \
                                      LumiSize{kernelSize, 1}, LumiPoint{xAnchor, 0}, &divisor);  \
   }
-#define LUMI_FILTER_ROW_F(NAME, T, L)                                                           \
+#define LUMI_FILTER_ROW_F(NAME, T, L)                                                            \
   LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize dstRoiSize, \
                           const Lum32f* pKernel, int kernelSize, int xAnchor) {                  \
     return linearImpl<T, float, L>(pSrc, srcStep, pDst, dstStep, dstRoiSize, pKernel,            \
                                    LumiSize{kernelSize, 1}, LumiPoint{xAnchor, 0}, nullptr);     \
   }
 // Column kernels: 1 x kernelSize, anchored at (0, yAnchor); the source row holds the ROI only.
-#define LUMI_FILTER_COLUMN(NAME, T, L)                                                          \
+#define LUMI_FILTER_COLUMN(NAME, T, L)                                                           \
   LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize dstRoiSize, \
                           const Lum32s* pKernel, int kernelSize, int yAnchor, int divisor) {     \
     return linearImpl<T, int32_t, L>(pSrc, srcStep, pDst, dstStep, dstRoiSize, pKernel,          \
                                      LumiSize{1, kernelSize}, LumiPoint{0, yAnchor}, &divisor);  \
   }
-#define LUMI_FILTER_COLUMN_F(NAME, T, L)                                                        \
+#define LUMI_FILTER_COLUMN_F(NAME, T, L)                                                         \
   LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize dstRoiSize, \
                           const Lum32f* pKernel, int kernelSize, int yAnchor) {                  \
     return linearImpl<T, float, L>(pSrc, srcStep, pDst, dstStep, dstRoiSize, pKernel,            \

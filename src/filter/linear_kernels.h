@@ -22,8 +22,8 @@ enum class Mode { kNone, kShift, kMultiply, kFloat };
 
 struct Scale {
   Mode mode = Mode::kNone;
-  int k = 0;        // kShift: divisor 2^k
-  float r = 1.0f;   // kMultiply: 1 / divisor in single precision
+  int k = 0;       // kShift: divisor 2^k
+  float r = 1.0f;  // kMultiply: 1 / divisor in single precision
 };
 
 inline Scale scaleOf(int divisor) {
@@ -45,9 +45,13 @@ template <class K>
 using Acc = std::conditional_t<std::is_same_v<K, float>, float, int32_t>;
 
 template <class T>
-constexpr float lowOf() { return std::is_same_v<T, Lum8u> ? 0.0f : -32768.0f; }
+constexpr float lowOf() {
+  return std::is_same_v<T, Lum8u> ? 0.0f : -32768.0f;
+}
 template <class T>
-constexpr float highOf() { return std::is_same_v<T, Lum8u> ? 255.0f : 32767.0f; }
+constexpr float highOf() {
+  return std::is_same_v<T, Lum8u> ? 255.0f : 32767.0f;
+}
 
 // A float clamped to T's range, then rounded to nearest (the caller holds round-to-nearest, so
 // ties go to even).
@@ -61,8 +65,10 @@ T roundClamp(float v) {
 // One sum to one pixel.
 template <class T>
 T finish(float sum, const Scale&) {
-  if constexpr (std::is_same_v<T, Lum32f>) return sum;
-  else return roundClamp<T>(sum);
+  if constexpr (std::is_same_v<T, Lum32f>)
+    return sum;
+  else
+    return roundClamp<T>(sum);
 }
 template <class T>
 T finish(int32_t sum, const Scale& sc) {
@@ -95,7 +101,8 @@ Acc<K> windowSum(const T* win, int srcStep, std::ptrdiff_t e, const K* kernel, i
   A acc = A(0);
   for (int ii = 0; ii < kh; ++ii) {
     const T* p = rowAt(win, srcStep, ii) + e;
-    for (int jj = 0; jj < kw; ++jj, --tap) acc = accumulate(acc, *tap, static_cast<A>(p[elemsOf(jj, kCh)]));
+    for (int jj = 0; jj < kw; ++jj, --tap)
+      acc = accumulate(acc, *tap, static_cast<A>(p[elemsOf(jj, kCh)]));
   }
   return acc;
 }
