@@ -2,6 +2,8 @@
 // mirrored, the divisor's three modes, 32f kernels rounded ties to even and saturated) on random
 // data with the border pixels supplied, every type, layout and kernel shape, guarded buffers,
 // one and two threads; the checks' order; OpenCV on 32f as an independent oracle.
+#include <xmmintrin.h>
+
 #include <cmath>
 
 #include "lumi/filter_linear.h"
@@ -186,6 +188,29 @@ TEST(Linear, DivisorRounding) {
               lumStatusOk);
     EXPECT_EQ(d8, r.want8u) << r.s << "/" << r.divisor;
     EXPECT_EQ(d16, r.want16s) << r.s << "/" << r.divisor;
+  }
+}
+
+// The caller's rounding mode (here toward zero) neither changes the results nor is lost.
+TEST(Linear, RoundsToNearestWhateverTheCallersMode) {
+  const unsigned saved = _MM_GET_ROUNDING_MODE();
+  _MM_SET_ROUNDING_MODE(_MM_ROUND_TOWARD_ZERO);
+  std::vector<Lum8u> src(40, 3), dst(40, 0);
+  std::vector<Lum16s> src16(40, 17), dst16(40, 0);
+  const Lum32f half = 0.5f;
+  const Lum32s one = 1;
+  const LumStatus a =
+      lumiFilter32f_8u_C1R(src.data(), 40, dst.data(), 40, {40, 1}, &half, {1, 1}, {0, 0});
+  const LumStatus b =
+      lumiFilter_16s_C1R(src16.data(), 80, dst16.data(), 80, {40, 1}, &one, {1, 1}, {0, 0}, 6);
+  const unsigned mode = _MM_GET_ROUNDING_MODE();
+  _MM_SET_ROUNDING_MODE(saved);
+  EXPECT_EQ(a, lumStatusOk);
+  EXPECT_EQ(b, lumStatusOk);
+  EXPECT_EQ(mode, static_cast<unsigned>(_MM_ROUND_TOWARD_ZERO));
+  for (int i = 0; i < 40; ++i) {
+    ASSERT_EQ(dst[i], 2) << i;    // 1.5 to even
+    ASSERT_EQ(dst16[i], 3) << i;  // 17 / 6 = 2.83
   }
 }
 
