@@ -105,6 +105,39 @@ TEST(Twins, ElementwiseKernelsEqualTheirScalarTwinsBitForBit) {
   }
 }
 
+// Neighbourhood kernels read a supplied border: the ROI starts 8 pixels into a larger image.
+TEST(Twins, NeighbourhoodKernelsEqualTheirScalarTwinsBitForBit) {
+  Rng rng = lumitest::makeRng(13);
+  const int b = 8, W = 213, H = 23, step = W + 2 * b;
+  const LumiSize roi{W, H};
+  const auto src = randomPixels<Lum8u>(rng, static_cast<std::size_t>(step) * (H + 2 * b));
+  const Lum8u* in = src.data() + b * step + b;
+  auto run = [&](auto&& call) {
+    return [&, call] {
+      std::vector<Lum8u> d(static_cast<std::size_t>(W) * H, 7);
+      EXPECT_EQ(call(d.data()), lumStatusOk);
+      return bytesOf(d);
+    };
+  };
+  const std::vector<std::pair<const char*, std::function<std::vector<uint8_t>()>>> cases = {
+      {"FilterBox_8u_C1R 5x5", run([&](Lum8u* d) {
+         return lumiFilterBox_8u_C1R(in, step, d, W, roi, {5, 5}, {2, 2});
+       })},
+      {"FilterMedian_8u_C1R 5x5", run([&](Lum8u* d) {
+         return lumiFilterMedian_8u_C1R(in, step, d, W, roi, {5, 5}, {2, 2});
+       })},
+      {"FilterGauss_8u_C1R 5x5", run([&](Lum8u* d) {
+         return lumiFilterGauss_8u_C1R(in, step, d, W, roi, lumMskSize5x5);
+       })},
+      {"Erode3x3_8u_C1R", run([&](Lum8u* d) { return lumiErode3x3_8u_C1R(in, step, d, W, roi); })},
+  };
+  for (const auto& [name, call] : cases) {
+    SCOPED_TRACE(name);
+    const auto runs = atEveryLevel(call);
+    for (std::size_t l = 1; l < runs.size(); ++l) EXPECT_EQ(runs[l], runs[0]) << "level " << l;
+  }
+}
+
 TEST(Twins, FloatReductionsAgreeWithinSummationOrder) {
   Rng rng = lumitest::makeRng(12);
   const LumiSize roi{333, 7};
