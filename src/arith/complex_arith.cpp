@@ -339,7 +339,6 @@ LumStatus constInt(const CT* s, int sStep, const CT* value, CT* d, int dStep, Lu
     return lumi::arithf::constInt<CT, OP, lumi::L>(sd, sds, VP, sd, sds, r, sf); \
   }
 
-extern "C" {
 LUMI_FLOAT_IMAGE(lumiAdd_32fc_C1R, binary32fc, Lum32fc, 0, C1)
 LUMI_FLOAT_IMAGE_I(lumiAdd_32fc_C1IR, binary32fc, Lum32fc, 0, C1)
 LUMI_FLOAT_IMAGE(lumiAdd_32fc_C3R, binary32fc, Lum32fc, 0, C3)
@@ -484,6 +483,5 @@ LUMI_CINT_CONST(lumiDivC_32sc_C3RSfs, 3, Lum32sc, C3, const Lum32sc*, value)
 LUMI_CINT_CONST_I(lumiDivC_32sc_C3IRSfs, 3, Lum32sc, C3, const Lum32sc*, value)
 LUMI_CINT_CONST(lumiDivC_32sc_AC4RSfs, 3, Lum32sc, AC4, const Lum32sc*, value)
 LUMI_CINT_CONST_I(lumiDivC_32sc_AC4IRSfs, 3, Lum32sc, AC4, const Lum32sc*, value)
-}
 
 #endif  // HWY_ONCE

@@ -220,7 +220,6 @@ void endStreaming() { _mm_sfence(); }
 }  // namespace lumi
 
 // ---- exports (stamps: float_kernels.h) -----------------------------------------------------
-extern "C" {
 LUMI_FLOAT_IMAGE(lumiAdd_32f_C1R, binary32f, Lum32f, 0, C1)
 LUMI_FLOAT_IMAGE_I(lumiAdd_32f_C1IR, binary32f, Lum32f, 0, C1)
 LUMI_FLOAT_IMAGE(lumiAdd_32f_C3R, binary32f, Lum32f, 0, C3)
@@ -285,6 +284,5 @@ LUMI_FLOAT_CONST(lumiDivC_32f_C4R, const32f, Lum32f, 3, C4, const Lum32f*, value
 LUMI_FLOAT_CONST_I(lumiDivC_32f_C4IR, const32f, Lum32f, 3, C4, const Lum32f*, value)
 LUMI_FLOAT_CONST(lumiDivC_32f_AC4R, const32f, Lum32f, 3, AC4, const Lum32f*, value)
 LUMI_FLOAT_CONST_I(lumiDivC_32f_AC4IR, const32f, Lum32f, 3, AC4, const Lum32f*, value)
-}
 
 #endif  // HWY_ONCE

@@ -224,7 +224,6 @@ LumStatus mulScaleImpl(const T* s1, int s1Step, const T* s2, int s2Step, const T
                                                static_cast<const T*>(nullptr), 0, VP, sd, sds, r); \
   }
 
-extern "C" {
 LUMI_UNARY(lumiAbs_16s_C1R, 0, Lum16s, C1)
 LUMI_UNARY_I(lumiAbs_16s_C1IR, 0, Lum16s, C1)
 LUMI_UNARY(lumiAbs_16s_C3R, 0, Lum16s, C3)
@@ -288,6 +287,5 @@ LUMI_MULSCALE(lumiMulScale_16u_AC4R, Lum16u, AC4)
 LUMI_MULSCALE_I(lumiMulScale_16u_AC4IR, Lum16u, AC4)
 LUMI_MULCSCALE(lumiMulCScale_16u_AC4R, Lum16u, AC4, const Lum16u*, value)
 LUMI_MULCSCALE_I(lumiMulCScale_16u_AC4IR, Lum16u, AC4, const Lum16u*, value)
-}
 
 #endif  // HWY_ONCE

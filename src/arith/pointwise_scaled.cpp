@@ -303,7 +303,6 @@ LumStatus floatImpl(const float* s, int sStep, float* d, int dStep, LumiSize roi
     return lumi::arithf::floatImpl<lumi::arithf::F, lumi::L>(sd, sds, sd, sds, r); \
   }
 
-extern "C" {
 LUMI_SCALEDFN(lumiSqr_8u_C1RSfs, kSqr, Lum8u, C1)
 LUMI_SCALEDFN_I(lumiSqr_8u_C1IRSfs, kSqr, Lum8u, C1)
 LUMI_SCALEDFN(lumiSqr_8u_C3RSfs, kSqr, Lum8u, C3)
@@ -370,6 +369,5 @@ LUMI_FLOATFN(lumiExp_32f_C1R, kExp, C1)
 LUMI_FLOATFN_I(lumiExp_32f_C1IR, kExp, C1)
 LUMI_FLOATFN(lumiExp_32f_C3R, kExp, C3)
 LUMI_FLOATFN_I(lumiExp_32f_C3IR, kExp, C3)
-}
 
 #endif  // HWY_ONCE

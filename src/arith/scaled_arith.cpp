@@ -29,7 +29,6 @@ RowFn<T> pickScaledRow() {
 }  // namespace scaled
 }  // namespace lumi
 
-extern "C" {
 LUMI_SCALED_IMAGE(lumiMul_8u_C1RSfs, kMul, Lum8u, C1)
 LUMI_SCALED_IMAGE_I(lumiMul_8u_C1IRSfs, kMul, Lum8u, C1)
 LUMI_SCALED_IMAGE(lumiMul_8u_C3RSfs, kMul, Lum8u, C3)
@@ -222,5 +221,4 @@ LUMI_SCALED_CONST(lumiDivC_16s_AC4RSfs, kDiv, Lum16s, AC4, const Lum16s*, value)
 LUMI_SCALED_CONST_I(lumiDivC_16s_AC4IRSfs, kDiv, Lum16s, AC4, const Lum16s*, value)
 LUMI_SCALED_CONST(lumiDivC_16s_C4RSfs, kDiv, Lum16s, C4, const Lum16s*, value)
 LUMI_SCALED_CONST_I(lumiDivC_16s_C4IRSfs, kDiv, Lum16s, C4, const Lum16s*, value)
-}
 #endif

@@ -127,7 +127,6 @@ LumStatus extendBorder(const T* src, int srcStep, LumiSize srcRoi, T* dst, int d
         topBorderHeight, leftBorderWidth);                                                    \
   }
 
-extern "C" {
 LUMI_BORDER_CONST(lumiCopyConstBorder_8u_C1R, Lum8u, C1, Lum8u value, &value)
 LUMI_BORDER_CONST(lumiCopyConstBorder_8u_C3R, Lum8u, C3, const Lum8u value[3], value)
 LUMI_BORDER_CONST(lumiCopyConstBorder_8u_C4R, Lum8u, C4, const Lum8u value[4], value)
@@ -166,4 +165,3 @@ LUMI_BORDER(lumiCopyReplicateBorder_32s_AC4R, Lum32s, AC4, kReplicate)
 LUMI_BORDER_INPLACE(lumiCopyReplicateBorder_32s_AC4IR, Lum32s, AC4, kReplicate)
 LUMI_BORDER(lumiCopyWrapBorder_32s_C1R, Lum32s, C1, kWrap)
 LUMI_BORDER_INPLACE(lumiCopyWrapBorder_32s_C1IR, Lum32s, C1, kWrap)
-}  // extern "C"

@@ -296,7 +296,6 @@ RowFn pickRowKernel(Kernel k) {
                                            roundMode, lumi::Kernel::K);                    \
   }
 
-extern "C" {
 LUMI_CONVERT(lumiConvert_8u16u_C1R, Lum8u, Lum16u, C1, k8u16u)
 LUMI_CONVERT(lumiConvert_8u16u_C3R, Lum8u, Lum16u, C3, k8u16u)
 LUMI_CONVERT(lumiConvert_8u16u_AC4R, Lum8u, Lum16u, AC4, k8u16u)
@@ -365,5 +364,4 @@ LUMI_CONVERT_FLOAT(lumiConvert_32f16s_C1R, Lum16s, C1, k32f16s)
 LUMI_CONVERT_FLOAT(lumiConvert_32f16s_C3R, Lum16s, C3, k32f16s)
 LUMI_CONVERT_FLOAT(lumiConvert_32f16s_AC4R, Lum16s, AC4, k32f16s)
 LUMI_CONVERT_FLOAT(lumiConvert_32f16s_C4R, Lum16s, C4, k32f16s)
-}  // extern "C"
 #endif  // HWY_ONCE

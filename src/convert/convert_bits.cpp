@@ -107,7 +107,6 @@ LumStatus convert1u8u(const Lum8u* src, int srcStep, int srcBitOffset, Lum8u* ds
 }  // namespace
 }  // namespace lumi
 
-extern "C" {
 LUMI_API LumStatus lumiConvert_8u1u_C1R(const Lum8u* pSrc, int srcStep, Lum8u* pDst,
                                         int dstStep, int dstBitOffset, LumiSize roiSize,
                                         Lum8u threshold) {
@@ -117,4 +116,3 @@ LUMI_API LumStatus lumiConvert_1u8u_C1R(const Lum8u* pSrc, int srcStep, int srcB
                                         Lum8u* pDst, int dstStep, LumiSize roiSize) {
   return lumi::convert1u8u(pSrc, srcStep, srcBitOffset, pDst, dstStep, roiSize);
 }
-}  // extern "C"

@@ -180,7 +180,6 @@ void dm::copyKeepAlpha(const void* s, void* d, std::size_t n, int elemBytes) {
                                         maskStep);                                            \
   }
 
-extern "C" {
 LUMI_COPY(lumiCopy_8u_C1R, Lum8u, C1)
 LUMI_COPY(lumiCopy_8u_C3R, Lum8u, C3)
 LUMI_COPY(lumiCopy_8u_C4R, Lum8u, C4)
@@ -251,5 +250,4 @@ LUMI_COPY_MASKED(lumiCopy_32f_C1MR, Lum32f, C1)
 LUMI_COPY_MASKED(lumiCopy_32f_C3MR, Lum32f, C3)
 LUMI_COPY_MASKED(lumiCopy_32f_C4MR, Lum32f, C4)
 LUMI_COPY_MASKED(lumiCopy_32f_AC4MR, Lum32f, AC4)
-}  // extern "C"
 #endif  // HWY_ONCE

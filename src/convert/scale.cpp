@@ -74,7 +74,6 @@ LumStatus scaleFloat(const TS* src, int srcStep, TD* dst, int dstStep, LumiSize 
     return lumi::scaleFloat<lumi::L>(pSrc, srcStep, pDst, dstStep, roiSize, vMin, vMax);   \
   }
 
-extern "C" {
 LUMI_SCALE_UP(lumiScale_8u16u_C1R, Lum16u, C1, kScale8u16u)
 LUMI_SCALE_UP(lumiScale_8u16u_C3R, Lum16u, C3, kScale8u16u)
 LUMI_SCALE_UP(lumiScale_8u16u_AC4R, Lum16u, AC4, kScale8u16u)
@@ -107,4 +106,3 @@ LUMI_SCALE_FLOAT(lumiScale_8u32f_AC4R, Lum8u, Lum32f, AC4)
 LUMI_SCALE_FLOAT(lumiScale_32f8u_AC4R, Lum32f, Lum8u, AC4)
 LUMI_SCALE_FLOAT(lumiScale_8u32f_C4R, Lum8u, Lum32f, C4)
 LUMI_SCALE_FLOAT(lumiScale_32f8u_C4R, Lum32f, Lum8u, C4)
-}  // extern "C"

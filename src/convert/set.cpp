@@ -234,7 +234,6 @@ void fillKeepAlpha(void* d, std::size_t n, const void* value3, int elemBytes) {
     return lumi::setMasked<T, lumi::L>(value, pDst, dstStep, roiSize, pMask, maskStep); \
   }
 
-extern "C" {
 LUMI_SET_C1(lumiSet_8u_C1R, Lum8u)
 LUMI_SET_C1_MASKED(lumiSet_8u_C1MR, Lum8u)
 LUMI_SET_CHANNEL(lumiSet_8u_C3CR, Lum8u, 3)
@@ -285,5 +284,4 @@ LUMI_SET(lumiSet_32f_C4R, Lum32f, C4, 4)
 LUMI_SET_MASKED(lumiSet_32f_C4MR, Lum32f, C4, 4)
 LUMI_SET(lumiSet_32f_AC4R, Lum32f, AC4, 3)
 LUMI_SET_MASKED(lumiSet_32f_AC4MR, Lum32f, AC4, 3)
-}  // extern "C"
 #endif  // HWY_ONCE

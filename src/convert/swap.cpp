@@ -103,7 +103,6 @@ LumStatus dupImage(const Lum8u* src, int srcStep, Lum8u* dst, int dstStep, LumiS
                           LumiSize roiSize, const int dstOrder[3]) {                      \
     return lumi::swapImage<T, lumi::L>(pSrc, srcStep, pDst, dstStep, roiSize, dstOrder);  \
   }
-extern "C" {
 LUMI_SWAP(lumiSwapChannels_8u_C3R, Lum8u, C3)
 LUMI_SWAP(lumiSwapChannels_8u_AC4R, Lum8u, AC4)
 LUMI_SWAP(lumiSwapChannels_16u_C3R, Lum16u, C3)
@@ -121,5 +120,4 @@ LUMI_API LumStatus lumiDup_8u_C1C3R(const Lum8u* pSrc, int srcStep, Lum8u* pDst,
                                     LumiSize roiSize) {
   return lumi::dupImage(pSrc, srcStep, pDst, dstStep, roiSize);
 }
-}  // extern "C"
 #endif  // HWY_ONCE

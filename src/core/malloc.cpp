@@ -41,7 +41,6 @@ T* imageAlloc(int width, int height, int* pStep) {
 using lumi::alignedAlloc;
 using lumi::imageAlloc;
 
-extern "C" {
 #define LUMI_VECTOR_ALLOC(NAME, T) \
   LUMI_API T* NAME(int len) { return static_cast<T*>(alignedAlloc(len, sizeof(T))); }
 LUMI_VECTOR_ALLOC(lumsMalloc_8u, Lum8u)
@@ -107,5 +106,4 @@ LUMI_API const LumLibraryVersion* lumiGetLibVersion(void) {
   static const LumLibraryVersion kVersion = {
       5, 1, 133, 272, {'t', '7', '\0', '\0'}, "liblumit7.so.5.1", "5.1.1", "Jun 17 2006"};
   return &kVersion;
-}
 }

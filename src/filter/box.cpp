@@ -361,7 +361,6 @@ LumStatus boxInPlaceImpl(T* srcDst, int step, LumiSize roi, LumiSize mask, LumiP
 using namespace lumi;
 using namespace lumi::box;
 
-extern "C" {
 LUMI_FILTER_BOX(lumiFilterBox_8u_C1R, Lum8u, C1)
 LUMI_FILTER_BOX(lumiFilterBox_8u_C3R, Lum8u, C3)
 LUMI_FILTER_BOX(lumiFilterBox_8u_C4R, Lum8u, C4)
@@ -386,5 +385,4 @@ LUMI_FILTER_BOX_I(lumiFilterBox_32f_C1IR, Lum32f, C1)
 LUMI_FILTER_BOX_I(lumiFilterBox_32f_C3IR, Lum32f, C3)
 LUMI_FILTER_BOX_I(lumiFilterBox_32f_C4IR, Lum32f, C4)
 LUMI_FILTER_BOX_I(lumiFilterBox_32f_AC4IR, Lum32f, AC4)
-}
 #endif  // HWY_ONCE

@@ -738,7 +738,6 @@ namespace {
 constexpr int kRobertsDown = -1, kRobertsUp = 1;
 }
 
-extern "C" {
 LUMI_FIXED(lumiFilterPrewittVert_8u_C1R, PrewittVert, Lum8u, Lum8u, C1)
 LUMI_FIXED(lumiFilterPrewittVert_8u_C3R, PrewittVert, Lum8u, Lum8u, C3)
 LUMI_FIXED(lumiFilterPrewittVert_8u_C4R, PrewittVert, Lum8u, Lum8u, C4)
@@ -883,6 +882,5 @@ LUMI_ROBERTS(lumiFilterRobertsUp_16s_AC4R, Up, Lum16s, AC4)
 LUMI_ROBERTS(lumiFilterRobertsUp_32f_C1R, Up, Lum32f, C1)
 LUMI_ROBERTS(lumiFilterRobertsUp_32f_C3R, Up, Lum32f, C3)
 LUMI_ROBERTS(lumiFilterRobertsUp_32f_AC4R, Up, Lum32f, AC4)
-}
 
 #endif  // HWY_ONCE

@@ -655,7 +655,6 @@ LumStatus linearImpl(const T* src, int srcStep, T* dst, int dstStep, LumiSize ro
 using namespace lumi;
 using namespace lumi::linear;
 
-extern "C" {
 LUMI_FILTER_LINEAR(lumiFilter_8u_C1R, Lum8u, C1)
 LUMI_FILTER_LINEAR(lumiFilter_8u_C3R, Lum8u, C3)
 LUMI_FILTER_LINEAR(lumiFilter_8u_C4R, Lum8u, C4)
@@ -716,5 +715,4 @@ LUMI_FILTER_COLUMN_F(lumiFilterColumn32f_16s_C1R, Lum16s, C1)
 LUMI_FILTER_COLUMN_F(lumiFilterColumn32f_16s_C3R, Lum16s, C3)
 LUMI_FILTER_COLUMN_F(lumiFilterColumn32f_16s_C4R, Lum16s, C4)
 LUMI_FILTER_COLUMN_F(lumiFilterColumn32f_16s_AC4R, Lum16s, AC4)
-}
 #endif  // HWY_ONCE

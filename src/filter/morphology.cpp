@@ -459,7 +459,6 @@ LumStatus morphMask(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi
 using namespace lumi;
 using namespace lumi::morph;
 
-extern "C" {
 LUMI_MORPH3X3(lumiErode3x3_8u_C1R, Lum8u, C1, false)
 LUMI_MORPH3X3(lumiErode3x3_8u_C3R, Lum8u, C3, false)
 LUMI_MORPH3X3(lumiErode3x3_8u_C4R, Lum8u, C4, false)
@@ -520,5 +519,4 @@ LUMI_MORPH_I(lumiDilate_8u_AC4IR, Lum8u, AC4, true)
 LUMI_MORPH_I(lumiDilate_32f_C1IR, Lum32f, C1, true)
 LUMI_MORPH_I(lumiDilate_32f_C3IR, Lum32f, C3, true)
 LUMI_MORPH_I(lumiDilate_32f_AC4IR, Lum32f, AC4, true)
-}
 #endif

@@ -929,7 +929,6 @@ LumStatus minMax(const T* src, int srcStep, T* dst, int dstStep, LumiSize roi, L
 using namespace lumi;
 using namespace lumi::rank;
 
-extern "C" {
 LUMI_MEDIAN(lumiFilterMedian_8u_C1R, Lum8u, C1)
 LUMI_MEDIAN(lumiFilterMedian_8u_C3R, Lum8u, C3)
 LUMI_MEDIAN(lumiFilterMedian_8u_C4R, Lum8u, C4)
@@ -990,5 +989,4 @@ LUMI_MINMAX(lumiFilterMax_32f_C1R, Lum32f, C1, true)
 LUMI_MINMAX(lumiFilterMax_32f_C3R, Lum32f, C3, true)
 LUMI_MINMAX(lumiFilterMax_32f_C4R, Lum32f, C4, true)
 LUMI_MINMAX(lumiFilterMax_32f_AC4R, Lum32f, AC4, true)
-}
 #endif

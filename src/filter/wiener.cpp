@@ -374,7 +374,6 @@ LumStatus wienerImpl(const T* src, int srcStep, T* dst, int dstStep, LumiSize ro
 using namespace lumi;
 using namespace lumi::wiener;
 
-extern "C" {
 LUMI_API LumStatus lumiFilterWienerGetBufferSize(LumiSize dstRoiSize, LumiSize maskSize,
                                                  int channels, int* pBufferSize) {
   if (!pBufferSize) return lumStatusNullPtrErr;
@@ -401,5 +400,4 @@ LUMI_FILTER_WIENER(lumiFilterWiener_32f_C1R, Lum32f, C1)
 LUMI_FILTER_WIENER(lumiFilterWiener_32f_C3R, Lum32f, C3)
 LUMI_FILTER_WIENER(lumiFilterWiener_32f_C4R, Lum32f, C4)
 LUMI_FILTER_WIENER(lumiFilterWiener_32f_AC4R, Lum32f, AC4)
-}
 #endif  // HWY_ONCE

@@ -199,7 +199,6 @@ LumStatus columnImpl(const T* src, int srcStep, Lum32f* dst, int dstStep, LumiSi
 using namespace lumi;
 using namespace lumi::window;
 
-extern "C" {
 LUMI_SUM_WINDOW_ROW(lumiSumWindowRow_8u32f_C1R, Lum8u, 1)
 LUMI_SUM_WINDOW_ROW(lumiSumWindowRow_8u32f_C3R, Lum8u, 3)
 LUMI_SUM_WINDOW_ROW(lumiSumWindowRow_8u32f_C4R, Lum8u, 4)
@@ -212,5 +211,4 @@ LUMI_SUM_WINDOW_COLUMN(lumiSumWindowColumn_8u32f_C4R, Lum8u, 4)
 LUMI_SUM_WINDOW_COLUMN(lumiSumWindowColumn_16s32f_C1R, Lum16s, 1)
 LUMI_SUM_WINDOW_COLUMN(lumiSumWindowColumn_16s32f_C3R, Lum16s, 3)
 LUMI_SUM_WINDOW_COLUMN(lumiSumWindowColumn_16s32f_C4R, Lum16s, 4)
-}
 #endif  // HWY_ONCE

@@ -66,7 +66,6 @@ LumStatus jaehne(T* dst, int step, LumiSize roi) {
 #define LUMI_JAEHNE(NAME, T, L) \
   LUMI_API LumStatus NAME(T* d, int s, LumiSize r) { return lumi::jaehne<T, lumi::L>(d, s, r); }
 
-extern "C" {
 LUMI_JAEHNE(lumiImageJaehne_8u_C1R, Lum8u, C1)
 LUMI_JAEHNE(lumiImageJaehne_8u_C3R, Lum8u, C3)
 LUMI_JAEHNE(lumiImageJaehne_8u_C4R, Lum8u, C4)
@@ -91,4 +90,3 @@ LUMI_JAEHNE(lumiImageJaehne_32f_C1R, Lum32f, C1)
 LUMI_JAEHNE(lumiImageJaehne_32f_C3R, Lum32f, C3)
 LUMI_JAEHNE(lumiImageJaehne_32f_C4R, Lum32f, C4)
 LUMI_JAEHNE(lumiImageJaehne_32f_AC4R, Lum32f, AC4)
-}

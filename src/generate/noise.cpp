@@ -272,7 +272,6 @@ using namespace lumi;
     return addNoiseTo<KIND, T, L>(p, s, r, a, b, seed);                            \
   }
 
-extern "C" {
 LUMI_NOISE(lumiAddRandUniform_Direct_8u_C1IR, kUniform, Lum8u, C1)
 LUMI_NOISE(lumiAddRandUniform_Direct_8u_C3IR, kUniform, Lum8u, C3)
 LUMI_NOISE(lumiAddRandUniform_Direct_8u_C4IR, kUniform, Lum8u, C4)
@@ -297,5 +296,4 @@ LUMI_NOISE(lumiAddRandGauss_Direct_32f_C1IR, kGauss, Lum32f, C1)
 LUMI_NOISE(lumiAddRandGauss_Direct_32f_C3IR, kGauss, Lum32f, C3)
 LUMI_NOISE(lumiAddRandGauss_Direct_32f_C4IR, kGauss, Lum32f, C4)
 LUMI_NOISE(lumiAddRandGauss_Direct_32f_AC4IR, kGauss, Lum32f, AC4)
-}
 #endif  // HWY_ONCE

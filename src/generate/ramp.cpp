@@ -94,7 +94,6 @@ LumStatus ramp(T* dst, int step, LumiSize roi, float offset, float slope, int ax
     return lumi::ramp<T, lumi::L>(d, s, r, off, slope, axis);                                   \
   }
 
-extern "C" {
 LUMI_RAMP(lumiImageRamp_8u_C1R, Lum8u, C1)
 LUMI_RAMP(lumiImageRamp_8u_C3R, Lum8u, C3)
 LUMI_RAMP(lumiImageRamp_8u_C4R, Lum8u, C4)
@@ -119,4 +118,3 @@ LUMI_RAMP(lumiImageRamp_32f_C1R, Lum32f, C1)
 LUMI_RAMP(lumiImageRamp_32f_C3R, Lum32f, C3)
 LUMI_RAMP(lumiImageRamp_32f_C4R, Lum32f, C4)
 LUMI_RAMP(lumiImageRamp_32f_AC4R, Lum32f, AC4)
-}

@@ -237,7 +237,6 @@ LumStatus countImpl(const T* src, int step, LumiSize roi, int* counts, const T* 
 using namespace lumi;
 using namespace lumi::stats;
 
-extern "C" {
 LUMI_MIN(lumiMin_8u_C1R, Lum8u, C1)
 LUMI_MIN(lumiMin_8u_C3R, Lum8u, C3)
 LUMI_MIN(lumiMin_8u_C4R, Lum8u, C4)
@@ -304,5 +303,4 @@ LUMI_COUNT(lumiCountInRange_8u_AC4R, Lum8u, AC4)
 LUMI_COUNT_C1(lumiCountInRange_32f_C1R, Lum32f)
 LUMI_COUNT(lumiCountInRange_32f_C3R, Lum32f, C3)
 LUMI_COUNT(lumiCountInRange_32f_AC4R, Lum32f, AC4)
-}
 #endif

@@ -335,7 +335,6 @@ constexpr int32_t tagOf() {
 #define LUMI_MOMENT_FREE(NAME, S) \
   LUMI_API LumStatus NAME(S* pState) { return freeState(pState, tagOf<S>()); }
 
-extern "C" {
 LUMI_MOMENT_ALLOC(lumiMomentInitAlloc_64f, LumiMomentState_64f)
 LUMI_MOMENT_ALLOC(lumiMomentInitAlloc_64s, LumiMomentState_64s)
 LUMI_MOMENT_FREE(lumiMomentFree_64f, LumiMomentState_64f)
@@ -373,5 +372,4 @@ LUMI_CENTRAL_MOMENT(lumiGetNormalizedCentralMoment_64f, LumiMomentState_64f, tru
 LUMI_CENTRAL_MOMENT(lumiGetNormalizedCentralMoment_64s, LumiMomentState_64s, true)
 LUMI_HU_MOMENTS(lumiGetHuMoments_64f, LumiMomentState_64f)
 LUMI_HU_MOMENTS(lumiGetHuMoments_64s, LumiMomentState_64s)
-}
 #endif

@@ -151,7 +151,6 @@ LumStatus normRelImpl(const T* a, int aStep, const T* b, int bStep, LumiSize roi
 using namespace lumi;
 using namespace lumi::stats;
 
-extern "C" {
 LUMI_NORM(lumiNorm_Inf_8u_C1R, Lum8u, C1, kOpMax)
 LUMI_NORM(lumiNorm_Inf_8u_C3R, Lum8u, C3, kOpMax)
 LUMI_NORM(lumiNorm_Inf_8u_C4R, Lum8u, C4, kOpMax)
@@ -311,5 +310,4 @@ LUMI_API LumStatus lumiNorm_Inf_32s_C1R(const Lum32s* pSrc, int srcStep, LumiSiz
   }
   *pValue = m;
   return lumStatusOk;
-}
 }

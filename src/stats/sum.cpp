@@ -80,7 +80,6 @@ LumStatus meanImpl(const T* src, int step, LumiSize roi, Lum64f* mean, int hint)
 using namespace lumi;
 using namespace lumi::stats;
 
-extern "C" {
 LUMI_SUM(lumiSum_8u_C1R, Lum8u, C1)
 LUMI_MEAN(lumiMean_8u_C1R, Lum8u, C1)
 LUMI_SUM(lumiSum_8u_C3R, Lum8u, C3)
@@ -113,4 +112,3 @@ LUMI_SUM_HINT(lumiSum_32f_C4R, C4)
 LUMI_MEAN_HINT(lumiMean_32f_C4R, C4)
 LUMI_SUM_HINT(lumiSum_32f_AC4R, AC4)
 LUMI_MEAN_HINT(lumiMean_32f_AC4R, AC4)
-}

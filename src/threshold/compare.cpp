@@ -217,7 +217,6 @@ LumStatus compareEpsImpl(const Lum32f* a, int aStep, const Lum32f* b, int bStep,
                                          pDst, dstStep, roi, eps);                              \
   }
 
-extern "C" {
 LUMI_COMPARE(lumiCompare_8u_C1R, Lum8u, C1)
 LUMI_COMPARE_C(lumiCompareC_8u_C1R, Lum8u, C1, SCALAR)
 LUMI_COMPARE(lumiCompare_8u_C3R, Lum8u, C3)
@@ -250,6 +249,5 @@ LUMI_COMPARE_EPS(lumiCompareEqualEps_32f_C4R, C4)
 LUMI_COMPARE_EPS_C(lumiCompareEqualEpsC_32f_C4R, C4, ARRAY)
 LUMI_COMPARE_EPS(lumiCompareEqualEps_32f_AC4R, AC4)
 LUMI_COMPARE_EPS_C(lumiCompareEqualEpsC_32f_AC4R, AC4, ARRAY)
-}
 
 #endif  // HWY_ONCE

@@ -428,7 +428,6 @@ LumStatus evenCn(const T* src, int sstep, LumiSize roi, Lum32s* const* hist, Lum
     return lumi::evenCn<T, lumi::L>(pSrc, srcStep, roi, h, l, n, lower, upper);                 \
   }
 
-extern "C" {
 LUMI_HIST_RANGE(lumiHistogramRange_8u_C1R, Lum8u, Lum32s)
 LUMI_HIST_RANGE_N(lumiHistogramRange_8u_C3R, Lum8u, Lum32s, C3, 3)
 LUMI_HIST_RANGE_N(lumiHistogramRange_8u_C4R, Lum8u, Lum32s, C4, 4)
@@ -457,4 +456,3 @@ LUMI_HIST_EVEN(lumiHistogramEven_16u_C1R, Lum16u)
 LUMI_HIST_EVEN_N(lumiHistogramEven_16u_C3R, Lum16u, C3, 3)
 LUMI_HIST_EVEN_N(lumiHistogramEven_16u_C4R, Lum16u, C4, 4)
 LUMI_HIST_EVEN_N(lumiHistogramEven_16u_AC4R, Lum16u, AC4, 3)
-}

@@ -142,7 +142,6 @@ LumStatus notImpl(const Lum8u* src, int srcStep, Lum8u* dst, int dstStep, LumiSi
     return lumi::notImpl<lumi::L>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, roi);               \
   }
 
-extern "C" {
 LUMI_LOGIC(lumiAnd_8u_C1R, kAnd, Lum8u, C1)
 LUMI_LOGIC_I(lumiAnd_8u_C1IR, kAnd, Lum8u, C1)
 LUMI_LOGIC_C(lumiAndC_8u_C1R, kAnd, Lum8u, C1, SCALAR)
@@ -309,7 +308,6 @@ LUMI_API LumStatus lumiComplement_32s_C1IR(Lum32s* pSrcDst, int srcDstStep, Lumi
     }
   }
   return lumStatusOk;
-}
 }
 
 #endif  // HWY_ONCE

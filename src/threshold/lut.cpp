@@ -494,7 +494,6 @@ LumStatus lutCn(Kind kind, const T* src, int sstep, T* dst, int dstep, LumiSize 
     return lumi::lutCn<T, lumi::L, P>(lumi::Kind::KIND, p, step, p, step, roi, v, l, n);        \
   }
 
-extern "C" {
 LUMI_LUT_C1(lumiLUT_8u_C1R, Step, Lum8u, Lum32s)
 LUMI_LUT_C1_I(lumiLUT_8u_C1IR, Step, Lum8u, Lum32s)
 LUMI_LUT_CN(lumiLUT_8u_C3R, Step, Lum8u, Lum32s, C3, 3)
@@ -591,5 +590,4 @@ LUMI_LUT_CN(lumiLUT_Cubic_32f_C4R, Cubic, Lum32f, Lum32f, C4, 4)
 LUMI_LUT_CN_I(lumiLUT_Cubic_32f_C4IR, Cubic, Lum32f, Lum32f, C4, 4)
 LUMI_LUT_CN(lumiLUT_Cubic_32f_AC4R, Cubic, Lum32f, Lum32f, AC4, 3)
 LUMI_LUT_CN_I(lumiLUT_Cubic_32f_AC4IR, Cubic, Lum32f, Lum32f, AC4, 3)
-}
 #endif  // HWY_ONCE

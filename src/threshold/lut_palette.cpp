@@ -57,10 +57,8 @@ LumStatus palette(const S* src, int sstep, D* dst, int dstep, LumiSize roi, cons
     return lumi::palette<S, D, BYTES>(pSrc, srcStep, pDst, dstStep, roi, pTable, nBitSize);     \
   }
 
-extern "C" {
 LUMI_PALETTE(lumiLUTPalette_8u24u_C1R, Lum8u, Lum8u, 3)
 LUMI_PALETTE(lumiLUTPalette_8u32u_C1R, Lum8u, Lum32u, 4)
 LUMI_PALETTE(lumiLUTPalette_16u8u_C1R, Lum16u, Lum8u, 1)
 LUMI_PALETTE(lumiLUTPalette_16u24u_C1R, Lum16u, Lum8u, 3)
 LUMI_PALETTE(lumiLUTPalette_16u32u_C1R, Lum16u, Lum32u, 4)
-}

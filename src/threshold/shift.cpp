@@ -120,7 +120,6 @@ LumStatus shiftImpl(const T* src, int srcStep, const Lum32u* counts, T* dst, int
                                        pSrcDst, srcDstStep, roi, LEFT);                         \
   }
 
-extern "C" {
 LUMI_SHIFT(lumiLShiftC_8u_C1R, true, Lum8u, C1, SCALAR)
 LUMI_SHIFT_I(lumiLShiftC_8u_C1IR, true, Lum8u, C1, SCALAR)
 LUMI_SHIFT(lumiLShiftC_8u_C3R, true, Lum8u, C3, ARRAY)
@@ -185,6 +184,5 @@ LUMI_SHIFT(lumiRShiftC_32s_C4R, false, Lum32s, C4, ARRAY)
 LUMI_SHIFT_I(lumiRShiftC_32s_C4IR, false, Lum32s, C4, ARRAY)
 LUMI_SHIFT(lumiRShiftC_32s_AC4R, false, Lum32s, AC4, ARRAY)
 LUMI_SHIFT_I(lumiRShiftC_32s_AC4IR, false, Lum32s, AC4, ARRAY)
-}
 
 #endif  // HWY_ONCE

@@ -187,7 +187,6 @@ LumStatus twoSidedImpl(const T* src, int srcStep, T* dst, int dstStep, LumiSize 
                                           LUMI_THR_ADDR_##K(vGT));                              \
   }
 
-extern "C" {
 LUMI_CLAMP(lumiThreshold_8u_C1R, Lum8u, C1, SCALAR, R)
 LUMI_CLAMP(lumiThreshold_8u_C1IR, Lum8u, C1, SCALAR, IR)
 LUMI_CLAMP_TO(lumiThreshold_GT_8u_C1R, Lum8u, C1, SCALAR, R, lumCmpGreater)
@@ -326,6 +325,5 @@ LUMI_REPLACE_TO(lumiThreshold_GTVal_32f_C4R, Lum32f, C4, ARRAY, R, lumCmpGreater
 LUMI_REPLACE_TO(lumiThreshold_GTVal_32f_C4IR, Lum32f, C4, ARRAY, IR, lumCmpGreater)
 LUMI_REPLACE_TO(lumiThreshold_LTVal_32f_C4R, Lum32f, C4, ARRAY, R, lumCmpLess)
 LUMI_REPLACE_TO(lumiThreshold_LTVal_32f_C4IR, Lum32f, C4, ARRAY, IR, lumCmpLess)
-}
 
 #endif  // HWY_ONCE
