@@ -141,15 +141,6 @@ int simdLevel();
 // library's objects directly.
 int setSimdLevel(int level);
 
-// Picks the best compiled SIMD variant the processor supports from a table indexed by
-// SimdLevel; null means "use the scalar kernel".
-template <class F, std::size_t N>
-inline F pickSimd(F const (&table)[N]) {
-  for (int l = simdLevel(); l > 0; --l)
-    if (l < static_cast<int>(N) && table[l]) return table[l];
-  return nullptr;
-}
-
 // ---- parallel rows -----------------------------------------------------------------------
 // Thread count of the next parallel region: the core library's variable, at least 1.
 inline int regionThreads() {
