@@ -109,53 +109,15 @@ struct SymTaps5 {
   }
 };
 
-// Separable kernels over 8-bit sources in 16-bit lanes (every sum of these kernels fits): the
-// column pass fills one line over width + k - 1 pixels, the row pass combines it, adds the
-// centre weight and rounds.
-template <class Ts, class Td, class L, class W>
-void sepRow16(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const FixedKernel& fk,
-              int16_t* HWY_RESTRICT line, W tw) {
+// Separable integer kernels: the column pass fills one line over width + k - 1 pixels, the row
+// pass combines it, adds the centre weight and rounds. 8-bit sources run in 16-bit lanes (every
+// sum of these kernels fits), 16s sources in 32-bit lanes; Lane is the line's element type.
+template <class Ts, class Td, class L, class Lane, class W>
+void sepRowInt(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const FixedKernel& fk,
+               Lane* HWY_RESTRICT line, W tw) {
   constexpr int kCh = L::kCh;
   constexpr bool kAlpha = L::kUse != L::kCh;
-  const hn::ScalableTag<int16_t> d;
-  const hn::Rebind<Ts, decltype(d)> ds;
-  const hn::Rebind<Td, decltype(d)> dd;
-  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
-  const int k = tw.k(), c = k / 2;
-  const std::ptrdiff_t lead = elemsOf(c, kCh), ext = elemsOf(width + k - 1, kCh), n = elemsOf(width, kCh);
-  std::ptrdiff_t e = 0;
-  for (; e + N <= ext; e += N) {
-    auto acc = hn::Zero(d);
-#pragma GCC unroll 5
-    for (int r = 0; r < k; ++r)
-      if (tw.col(r)) acc = addTimes(d, acc, hn::PromoteTo(d, hn::LoadU(ds, rows[r] - lead + e)), tw.col(r));
-    hn::StoreU(acc, d, line + e);
-  }
-  for (; e < ext; ++e) {
-    int s = 0;
-    for (int r = 0; r < k; ++r) s += fk.col[r] * rows[r][e - lead];
-    line[e] = static_cast<int16_t>(s);
-  }
-  const auto colour = colourLanes(dd);
-  std::ptrdiff_t i = 0;
-  for (; i + N <= n; i += N) {
-    auto acc = hn::Zero(d);
-#pragma GCC unroll 5
-    for (int j = 0; j < k; ++j)
-      if (tw.row(j)) acc = addTimes(d, acc, hn::LoadU(d, line + i + elemsOf(j, kCh)), tw.row(j));
-    if (tw.centre()) acc = addTimes(d, acc, hn::PromoteTo(d, hn::LoadU(ds, rows[c] + i)), tw.centre());
-    storeColour(dd, toDst(dd, postInt<Ts, Td>(d, acc, fk)), dst + i, kAlpha, colour);
-  }
-  fixed::fixedFrom<Ts, Td, L>(rows, dst, i, n, fk);
-}
-
-// Separable kernels over 16s sources: the same two passes in 32-bit lanes.
-template <class Ts, class Td, class L, class W>
-void sepRow32(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const FixedKernel& fk,
-              int32_t* HWY_RESTRICT line, W tw) {
-  constexpr int kCh = L::kCh;
-  constexpr bool kAlpha = L::kUse != L::kCh;
-  const hn::ScalableTag<int32_t> d;
+  const hn::ScalableTag<Lane> d;
   const hn::Rebind<Ts, decltype(d)> ds;
   const hn::Rebind<Td, decltype(d)> dd;
   const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
@@ -172,7 +134,7 @@ void sepRow32(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixe
   for (; e < ext; ++e) {
     int32_t a = 0;
     for (int r = 0; r < k; ++r) a += tw.col(r) * static_cast<int32_t>(rows[r][e - lead]);
-    line[e] = a;
+    line[e] = static_cast<Lane>(a);
   }
   const auto colour = colourLanes(dd);
   std::ptrdiff_t i = 0;
@@ -412,10 +374,8 @@ bool lineRow(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixed
   auto sep = [&](auto tw) {
     if constexpr (std::is_floating_point_v<Ts>)
       sepRowF<L>(rows, dst, width, fk, l, tw);
-    else if constexpr (sizeof(Ts) == 1)
-      sepRow16<Ts, Td, L>(rows, dst, width, fk, l, tw);
     else
-      sepRow32<Ts, Td, L>(rows, dst, width, fk, l, tw);
+      sepRowInt<Ts, Td, L>(rows, dst, width, fk, l, tw);
     return true;
   };
   auto sym = [&](auto tw) {
