@@ -11,7 +11,7 @@ want_i386=0 want_qemu=0
 SUDO=""
 [ "$(id -u)" -ne 0 ] && SUDO="sudo"
 
-native=(cmake g++ make pkg-config libhwy-dev libgtest-dev libpng-dev libopencv-dev)
+native=(cmake g++ make pkg-config libhwy-dev libgtest-dev libpng-dev libopencv-dev libfftw3-dev)
 i386=(g++-multilib libhwy-dev:i386 libgtest-dev:i386 libgomp1:i386)
 
 missing() {
