@@ -36,6 +36,23 @@ HWY_INLINE hn::Vec<D> addTimes(D d, hn::Vec<D> acc, hn::Vec<D> v, int w) {
   return hn::Add(acc, hn::Mul(v, hn::Set(d, static_cast<T>(w))));
 }
 
+// The float step after the sum (a scale or a division), read from the kernel once per row:
+// inside the loop every destination store could alias the kernel and force a reload.
+template <class D>
+class FloatPost {
+ public:
+  FloatPost(D d, const FixedKernel& fk) : op_(fk.fpost), v_(hn::Set(d, fk.fval)) {}
+  hn::Vec<D> operator()(hn::Vec<D> acc) const {
+    if (op_ == fixed::FPost::Scale) return hn::Mul(acc, v_);
+    if (op_ == fixed::FPost::Divide) return hn::Div(acc, v_);
+    return acc;
+  }
+
+ private:
+  fixed::FPost op_;
+  hn::Vec<D> v_;
+};
+
 // The integer post step of finishInt on 16- or 32-bit lanes (saturation follows in the
 // demotion). 16-bit nearest division only meets non-negative 8u sums.
 template <class Ts, class Td, class D>
@@ -293,6 +310,7 @@ void sepRowF(const float* const* rows, float* HWY_RESTRICT dst, int width, const
     line[e] = a;
   }
   const auto colour = colourLanes(d);
+  const FloatPost<decltype(d)> post(d, fk);
   std::ptrdiff_t i = 0;
   for (; i + N <= n; i += N) {
     auto acc = hn::Zero(d);
@@ -300,47 +318,61 @@ void sepRowF(const float* const* rows, float* HWY_RESTRICT dst, int width, const
     for (int j = 0; j < k; ++j)
       if (tw.row(j)) acc = addTimes(d, acc, hn::LoadU(d, line + i + elemsOf(j, kCh)), tw.row(j));
     if (tw.centre()) acc = addTimes(d, acc, hn::LoadU(d, rows[c] + i), tw.centre());
-    if (fk.fpost == fixed::FPost::Scale) acc = hn::Mul(acc, hn::Set(d, fk.fval));
-    if (fk.fpost == fixed::FPost::Divide) acc = hn::Div(acc, hn::Set(d, fk.fval));
+    acc = post(acc);
     storeColour(d, acc, dst + i, kAlpha, colour);
   }
   fixed::fixedFrom<float, float, L>(rows, dst, i, n, fk);
 }
 
-// 32f 5x5 kernels symmetric about both axes, straight from the five source rows (no line, so
-// no stores that could stall the loads): rows 0 and 4, 1 and 3 folded, then columns -2 and 2,
-// -1 and 1, each pair times its weight.
+// 32f 5x5 kernels symmetric about both axes: the column pass folds rows 0 and 4, 1 and 3 and
+// keeps one line per distinct column of weights (columns 0 = 4, 1 = 3, 2), so each source
+// element is loaded once; the row pass adds five line elements.
 template <class L>
-void symRowF(const float* const* rows, float* HWY_RESTRICT dst, int width, const FixedKernel& fk) {
+void symRowF(const float* const* rows, float* HWY_RESTRICT dst, int width, const FixedKernel& fk,
+             float* HWY_RESTRICT line) {
   constexpr int kCh = L::kCh;
   constexpr bool kAlpha = L::kUse != L::kCh;
   const hn::ScalableTag<float> d;
   using V = hn::Vec<decltype(d)>;
-  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d)), n = elemsOf(width, kCh);
+  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
+  const std::ptrdiff_t lead = elemsOf(2, kCh), ext = elemsOf(width + 4, kCh), n = elemsOf(width, kCh);
+  const std::ptrdiff_t ls = (ext + N) & ~(N - 1);
   float fw[25] = {};  // the float weights by position
   for (int t = 0; t < fk.nTaps; ++t) fw[fk.taps[t].r * 5 + fk.taps[t].dx + 2] = fk.taps[t].fw;
-  const V w00 = hn::Set(d, fw[0]), w01 = hn::Set(d, fw[1]), w02 = hn::Set(d, fw[2]);
-  const V w10 = hn::Set(d, fw[5]), w11 = hn::Set(d, fw[6]), w12 = hn::Set(d, fw[7]);
-  const V w20 = hn::Set(d, fw[10]), w21 = hn::Set(d, fw[11]), w22 = hn::Set(d, fw[12]);
-  const float *r0 = rows[0], *r1 = rows[1], *r2 = rows[2], *r3 = rows[3], *r4 = rows[4];
+  float* HWY_RESTRICT c0 = line;
+  float* HWY_RESTRICT c1 = line + ls;
+  float* HWY_RESTRICT c2 = line + 2 * ls;
+  const float *r0 = rows[0] - lead, *r1 = rows[1] - lead, *r2 = rows[2] - lead, *r3 = rows[3] - lead,
+              *r4 = rows[4] - lead;
+  V w[9];
+  for (int j = 0; j < 3; ++j)
+    for (int r = 0; r < 3; ++r) w[3 * j + r] = hn::Set(d, fw[5 * r + j]);
+  // the row the next output row brings in, fetched ahead: the column pass is bound by its loads
+  const float* next = r4 + (r4 - r3);
+  std::ptrdiff_t e = 0;
+  for (; e + N <= ext; e += N) {
+    __builtin_prefetch(next + e);
+    const V a = hn::Add(hn::LoadU(d, r0 + e), hn::LoadU(d, r4 + e));
+    const V b = hn::Add(hn::LoadU(d, r1 + e), hn::LoadU(d, r3 + e));
+    const V m = hn::LoadU(d, r2 + e);
+    hn::StoreU(hn::MulAdd(w[0], a, hn::MulAdd(w[1], b, hn::Mul(w[2], m))), d, c0 + e);
+    hn::StoreU(hn::MulAdd(w[3], a, hn::MulAdd(w[4], b, hn::Mul(w[5], m))), d, c1 + e);
+    hn::StoreU(hn::MulAdd(w[6], a, hn::MulAdd(w[7], b, hn::Mul(w[8], m))), d, c2 + e);
+  }
+  for (; e < ext; ++e) {
+    const float a = r0[e] + r4[e], b = r1[e] + r3[e], m = r2[e];
+    c0[e] = fw[0] * a + fw[5] * b + fw[10] * m;
+    c1[e] = fw[1] * a + fw[6] * b + fw[11] * m;
+    c2[e] = fw[2] * a + fw[7] * b + fw[12] * m;
+  }
   const auto colour = colourLanes(d);
+  const FloatPost<decltype(d)> post(d, fk);
   std::ptrdiff_t i = 0;
   for (; i + N <= n; i += N) {
-    auto pair = [&](const float* p, const float* q, std::ptrdiff_t o) {
-      return hn::Add(hn::LoadU(d, p + i + o), hn::LoadU(d, q + i + o));
-    };
-    const std::ptrdiff_t o1 = kCh, o2 = 2 * kCh;
-    const auto a2 = hn::Add(pair(r0, r4, -o2), pair(r0, r4, o2)), a1 = hn::Add(pair(r0, r4, -o1), pair(r0, r4, o1));
-    const auto b2 = hn::Add(pair(r1, r3, -o2), pair(r1, r3, o2)), b1 = hn::Add(pair(r1, r3, -o1), pair(r1, r3, o1));
-    const auto m2 = pair(r2, r2 + 2 * o2, -o2), m1 = pair(r2, r2 + 2 * o1, -o1);
-    auto acc = hn::Add(hn::Mul(w00, a2), hn::Mul(w01, a1));
-    acc = hn::Add(acc, hn::Mul(w02, pair(r0, r4, 0)));
-    acc = hn::Add(acc, hn::Add(hn::Mul(w10, b2), hn::Mul(w11, b1)));
-    acc = hn::Add(acc, hn::Mul(w12, pair(r1, r3, 0)));
-    acc = hn::Add(acc, hn::Add(hn::Mul(w20, m2), hn::Mul(w21, m1)));
-    acc = hn::Add(acc, hn::Mul(w22, hn::LoadU(d, r2 + i)));
-    if (fk.fpost == fixed::FPost::Scale) acc = hn::Mul(acc, hn::Set(d, fk.fval));
-    if (fk.fpost == fixed::FPost::Divide) acc = hn::Div(acc, hn::Set(d, fk.fval));
+    V acc = hn::Add(hn::Add(hn::LoadU(d, c0 + i), hn::LoadU(d, c0 + i + 4 * kCh)),
+                    hn::Add(hn::LoadU(d, c1 + i + kCh), hn::LoadU(d, c1 + i + 3 * kCh)));
+    acc = hn::Add(acc, hn::LoadU(d, c2 + i + 2 * kCh));
+    acc = post(acc);
     storeColour(d, acc, dst + i, kAlpha, colour);
   }
   fixed::fixedFrom<float, float, L>(rows, dst, i, n, fk);
@@ -354,6 +386,7 @@ void directRowF(const float* const* rows, float* HWY_RESTRICT dst, int width, co
   const hn::ScalableTag<float> d;
   const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d)), n = elemsOf(width, kCh);
   const auto colour = colourLanes(d);
+  const FloatPost<decltype(d)> post(d, fk);
   std::ptrdiff_t i = 0;
   for (; i + N <= n; i += N) {
     auto acc = hn::Zero(d);
@@ -361,8 +394,7 @@ void directRowF(const float* const* rows, float* HWY_RESTRICT dst, int width, co
       const fixed::Tap& p = fk.taps[t];
       acc = hn::Add(acc, hn::Mul(hn::Set(d, p.fw), hn::LoadU(d, rows[p.r] + i + elemsOf(p.dx, kCh))));
     }
-    if (fk.fpost == fixed::FPost::Scale) acc = hn::Mul(acc, hn::Set(d, fk.fval));
-    if (fk.fpost == fixed::FPost::Divide) acc = hn::Div(acc, hn::Set(d, fk.fval));
+    acc = post(acc);
     storeColour(d, acc, dst + i, kAlpha, colour);
   }
   fixed::fixedFrom<float, float, L>(rows, dst, i, n, fk);
@@ -380,7 +412,7 @@ bool lineRow(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixed
   };
   auto sym = [&](auto tw) {
     if constexpr (std::is_floating_point_v<Ts>) {
-      symRowF<L>(rows, dst, width, fk);
+      symRowF<L>(rows, dst, width, fk, l);
       return true;
     } else if constexpr (sizeof(Ts) == 1) {
       symRow5<Ts, Td, L>(rows, dst, width, fk, l, tw);
