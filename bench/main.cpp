@@ -25,17 +25,29 @@ std::vector<Row>& rows() {
   return r;
 }
 
-double medianSeconds(const std::function<void()>& f, int reps) {
-  f();  // warm caches and lazy initialisation
-  std::vector<double> t;
-  for (int i = 0; i < reps; ++i) {
-    auto a = std::chrono::steady_clock::now();
-    f();
-    auto b = std::chrono::steady_clock::now();
-    t.push_back(std::chrono::duration<double>(b - a).count());
-  }
+double median(std::vector<double> t) {
   std::sort(t.begin(), t.end());
   return t[t.size() / 2];
+}
+
+// Median times of two functions over reps runs each, the runs taken in turn (a, b, a, b, ...),
+// so that load from other processes on a shared machine falls on both alike and the ratio stays
+// meaningful.
+std::pair<double, double> medianSeconds(const std::function<void()>& fa, const std::function<void()>& fb,
+                                        int reps) {
+  fa();  // warm caches and lazy initialisation
+  fb();
+  std::vector<double> ta, tb;
+  auto time = [](const std::function<void()>& f) {
+    auto a = std::chrono::steady_clock::now();
+    f();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - a).count();
+  };
+  for (int i = 0; i < reps; ++i) {
+    ta.push_back(time(fa));
+    tb.push_back(time(fb));
+  }
+  return {median(ta), median(tb)};
 }
 
 }  // namespace
@@ -74,7 +86,7 @@ int main(int argc, char** argv) {
   }
   auto& all = bench::rows();
   std::vector<char> a(64 << 20), b(64 << 20);
-  std::printf("Lumi vs OpenCV %s, %dx%d, median of %d runs; ratio = OpenCV time / Lumi time\n",
+  std::printf("Lumi vs OpenCV %s, %dx%d, median of %d runs taken in turn; ratio = OpenCV time / Lumi time\n",
               CV_VERSION, bench::kWidth, bench::kHeight, reps);
   for (int threads : {1, 2}) {
     cv::setNumThreads(threads);
@@ -87,8 +99,7 @@ int main(int argc, char** argv) {
     for (auto& r : all) {
       std::string label = r.family + " " + r.name;
       if (filter && label.find(filter) == std::string::npos) continue;
-      double tc = bench::medianSeconds(r.opencv, reps);
-      double tl = bench::medianSeconds(r.ours, reps);
+      auto [tc, tl] = bench::medianSeconds(r.opencv, r.ours, reps);
       double ratio = tc / tl;
       logSum += std::log(ratio);
       ++n;
@@ -97,7 +108,7 @@ int main(int argc, char** argv) {
       if (r.bytes > 0) {
         // memcpy of the same bytes (half read, half written), single-threaded
         std::size_t half = std::min<std::size_t>(static_cast<std::size_t>(r.bytes / 2), a.size());
-        double tm = bench::medianSeconds([&] { std::memcpy(b.data(), a.data(), half); }, reps);
+        double tm = bench::medianSeconds([&] { std::memcpy(b.data(), a.data(), half); }, [] {}, reps).first;
         std::printf(" %9.2f %9.2f", tm / tc, tm / tl);
       }
       std::printf("\n");
