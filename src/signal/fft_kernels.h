@@ -1,0 +1,163 @@
+// The plan of the 1-D FFT engines and the plain scalar passes every vector kernel is held to.
+//
+// A complex transform of n = r0 r1 ... points runs as a Stockham sequence of passes, each from
+// one buffer to the other (no bit reversal). Pass i of radix r sees sub-transforms of
+// n_i = n / (r0 ... r(i-1)) points, m = n_i / r of them per group, at stride s = n / n_i:
+//   y[q + s (r p + k)] = w_(n_i)^(p k) sum_j x[q + s (p + j m)] w_r^(j k),  p < m, q < s, k < r,
+// with w_N = e^(-2 pi i / N) forward and its conjugate inverse. `count` side-by-side vectors
+// multiply every stride by count.
+#pragma once
+
+#include <cstddef>
+
+#include "lumi.h"
+
+namespace lumi {
+namespace signal {
+
+class ComplexFft;
+
+struct FftPass {
+  int radix, m, s;
+  // w_(n_i)^(p k) for p < m, k = 1 .. radix-1, four floats each, p-major: (wr, wr, -wi, wi),
+  // ready to be broadcast as the two halves of an interleaved complex multiply.
+  const float* tw;
+  // First pass only (s = 1), k-major for runs of consecutive p: twr[(k-1) m + p] = (wr, wr),
+  // twi[...] = (-wi, wi), two floats each.
+  const float* twr;
+  const float* twi;
+};
+
+constexpr int kMaxPasses = 40;
+
+struct FftPlan {
+  int n = 0;
+  int passes = 0;  // 0: n = 1, or the chirp route below
+  FftPass pass[kMaxPasses];
+  // Lengths with a prime factor above 5: the chirp (Bluestein) route through a power-of-two
+  // transform of bluesteinM >= 2n - 1 points.
+  int bluesteinM = 0;
+  ComplexFft* inner = nullptr;
+  const Lum32fc* chirp = nullptr;     // e^(-pi i k^2 / n), k < n
+  const Lum32fc* spectrum = nullptr;  // transform of the conjugate chirp, divided by bluesteinM
+  size_t workBytes = 0;
+  void* block = nullptr;  // one allocation holding all of the above
+};
+
+// Complex product a w (or a conj(w) when inverse) with w read from a pass table entry.
+inline Lum32fc twiddleMul(Lum32fc a, const float* t, bool inverse) {
+  const float wr = t[0], wi = inverse ? -t[3] : t[3];
+  return Lum32fc{a.re * wr - a.im * wi, a.re * wi + a.im * wr};
+}
+
+// The radix-r butterfly: b = DFT_r(a), forward (-i) or inverse (+i).
+template <int R>
+inline void butterfly(const Lum32fc* a, Lum32fc* b, bool inverse) {
+  // (x + iy) times -i (forward) or +i (inverse)
+  auto rot = [inverse](Lum32fc v) { return inverse ? Lum32fc{-v.im, v.re} : Lum32fc{v.im, -v.re}; };
+  auto add = [](Lum32fc u, Lum32fc v) { return Lum32fc{u.re + v.re, u.im + v.im}; };
+  auto sub = [](Lum32fc u, Lum32fc v) { return Lum32fc{u.re - v.re, u.im - v.im}; };
+  auto scale = [](Lum32fc u, float c) { return Lum32fc{u.re * c, u.im * c}; };
+  if constexpr (R == 2) {
+    b[0] = add(a[0], a[1]);
+    b[1] = sub(a[0], a[1]);
+  } else if constexpr (R == 3) {
+    const float c = -0.5f, s = 0.86602540378443865f;  // cos, sin of 2 pi / 3
+    const Lum32fc t = add(a[1], a[2]);
+    const Lum32fc u = add(a[0], scale(t, c));
+    const Lum32fc v = rot(scale(sub(a[1], a[2]), s));
+    b[0] = add(a[0], t);
+    b[1] = add(u, v);
+    b[2] = sub(u, v);
+  } else if constexpr (R == 4) {
+    const Lum32fc t0 = add(a[0], a[2]), t1 = sub(a[0], a[2]);
+    const Lum32fc t2 = add(a[1], a[3]), t3 = rot(sub(a[1], a[3]));
+    b[0] = add(t0, t2);
+    b[2] = sub(t0, t2);
+    b[1] = add(t1, t3);
+    b[3] = sub(t1, t3);
+  } else {
+    static_assert(R == 5, "radix 2, 3, 4 or 5");
+    const float c1 = 0.30901699437494742f, c2 = -0.80901699437494742f;  // cos 2pi/5, cos 4pi/5
+    const float s1 = 0.95105651629515357f, s2 = 0.58778525229247313f;   // sin 2pi/5, sin 4pi/5
+    const Lum32fc b1 = add(a[1], a[4]), b2 = add(a[2], a[3]);
+    const Lum32fc d1 = sub(a[1], a[4]), d2 = sub(a[2], a[3]);
+    const Lum32fc t1 = add(a[0], add(scale(b1, c1), scale(b2, c2)));
+    const Lum32fc t2 = add(a[0], add(scale(b1, c2), scale(b2, c1)));
+    const Lum32fc u1 = rot(add(scale(d1, s1), scale(d2, s2)));
+    const Lum32fc u2 = rot(sub(scale(d1, s2), scale(d2, s1)));
+    b[0] = add(a[0], add(b1, b2));
+    b[1] = add(t1, u1);
+    b[4] = sub(t1, u1);
+    b[2] = add(t2, u2);
+    b[3] = sub(t2, u2);
+  }
+}
+
+// One pass over `count` side-by-side vectors, point by point.
+template <int R>
+void passPoints(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count, bool inverse) {
+  const std::ptrdiff_t m = ps.m, s = static_cast<std::ptrdiff_t>(ps.s) * count;
+  Lum32fc a[R], b[R];
+  for (std::ptrdiff_t p = 0; p < m; ++p) {
+    const float* t = ps.tw + 4 * p * (R - 1);
+    for (std::ptrdiff_t q = 0; q < s; ++q) {
+      for (int j = 0; j < R; ++j) a[j] = x[q + s * (p + j * m)];
+      butterfly<R>(a, b, inverse);
+      Lum32fc* out = y + q + s * R * p;
+      out[0] = b[0];
+      for (int k = 1; k < R; ++k) out[s * k] = twiddleMul(b[k], t + 4 * (k - 1), inverse);
+    }
+  }
+}
+
+// Pass kernels take the pass, source, destination, vector count and direction.
+using PassFn = void (*)(const FftPass&, const Lum32fc*, Lum32fc*, int, bool);
+
+inline void passScalar(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count, bool inverse) {
+  switch (ps.radix) {
+    case 2: passPoints<2>(ps, x, y, count, inverse); break;
+    case 3: passPoints<3>(ps, x, y, count, inverse); break;
+    case 4: passPoints<4>(ps, x, y, count, inverse); break;
+    default: passPoints<5>(ps, x, y, count, inverse); break;
+  }
+}
+
+// The real transform's twist between the half-length complex spectrum Z (h = n/2 points) and
+// the packed spectrum A of n real points; tw holds (cos, sin) of 2 pi k / n for k <= h/2.
+//   forward: A(k) = E + w^k O, A(h-k) = conj(E - w^k O), with E = (Z(k) + conj Z(h-k)) / 2,
+//            O = -i (Z(k) - conj Z(h-k)) / 2, w = e^(-2 pi i / n)
+//   inverse: Z(k) = F + i G, Z(h-k) = conj F + i conj G, with F = A(k) + conj A(h-k),
+//            G = (A(k) - conj A(h-k)) conj(w^k)  (twice the forward's E and O: unscaled)
+// Both cover k = lo .. hi (1 <= lo, hi <= h/2); k = 0 and h are the callers'.
+inline void twistForwardScalar(const Lum32fc* z, float* packed, const float* tw, int h, int lo,
+                               int hi) {
+  for (int k = lo; k <= hi; ++k) {
+    const Lum32fc zk = z[k], zc = z[h - k];
+    const float er = 0.5f * (zk.re + zc.re), ei = 0.5f * (zk.im - zc.im);
+    const float orr = 0.5f * (zk.im + zc.im), oi = -0.5f * (zk.re - zc.re);
+    const float wr = tw[2 * k], wi = -tw[2 * k + 1];
+    const float pr = wr * orr - wi * oi, pi = wr * oi + wi * orr;
+    packed[2 * k - 1] = er + pr;
+    packed[2 * k] = ei + pi;
+    packed[2 * (h - k) - 1] = er - pr;
+    packed[2 * (h - k)] = -(ei - pi);
+  }
+}
+
+inline void twistInverseScalar(const float* packed, Lum32fc* z, const float* tw, int h, int lo,
+                               int hi) {
+  for (int k = lo; k <= hi; ++k) {
+    const float ar = packed[2 * k - 1], ai = packed[2 * k];
+    const float cr = packed[2 * (h - k) - 1], ci = -packed[2 * (h - k)];  // conj A(h-k)
+    const float fr = ar + cr, fi = ai + ci;
+    const float dr = ar - cr, di = ai - ci;
+    const float wr = tw[2 * k], wi = tw[2 * k + 1];  // conj(w^k) = (cos, +sin)
+    const float gr = dr * wr - di * wi, gi = dr * wi + di * wr;
+    z[k] = Lum32fc{fr - gi, fi + gr};
+    z[h - k] = Lum32fc{fr + gi, -fi + gr};
+  }
+}
+
+}  // namespace signal
+}  // namespace lumi
