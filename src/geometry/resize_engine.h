@@ -1,0 +1,236 @@
+// The resize engine's shared part: the checks every member makes the same way, the choosers
+// of the row kernels (resize_simd.cpp) and run(), which builds the coordinate tables once and
+// walks the destination rows through the kernels, in parallel above a work threshold.
+#pragma once
+
+#include <algorithm>
+#include <cstring>
+
+#include "core/frame.h"
+#include "geometry/resize_kernels.h"
+
+namespace lumi {
+namespace resize {
+
+// Source size and ROI: lumStatusSizeErr, then the warning for an origin outside the image.
+LumStatus checkSource(LumiSize srcSize, LumiRect roi);
+bool knownMode(int m);                  // nearest, linear, cubic, Lanczos
+int lowerMode(int mode, LumiSize size);  // small images take simpler modes
+// Count and step of one axis: from a factor (w the cut ROI extent; nearest and super step by
+// 1 / f, other modes put the end pixels on the ROI's end pixels), or from a step.
+LumStatus forwardAxis(int w, double f, int dstN, int mode, double shift, Axis* a);
+void shiftAxis(int w, double fr, int dstN, int mode, double shift, Axis* a);
+
+// Row kernels, vector or plain (see resize_kernels.h for what each computes).
+using LinH8Fn = void (*)(const Lum8u*, const int32_t*, const int16_t*, int, int, int16_t*);
+using LinV8Fn = void (*)(const int16_t*, const int16_t*, int, int, Lum8u*, bool);
+using LinHfFn = void (*)(const float*, const int32_t*, const float*, int, int, float*);
+using LinVfFn = void (*)(const float*, const float*, float, float, int, float*, bool);
+template <class T>
+using CubHFn = void (*)(const T*, const int32_t*, const float*, int, int, float*);
+template <class T>
+using CubVFn = void (*)(const float* const*, const float*, int, T*, bool);
+LinH8Fn pickLinH8(int pitch);
+LinV8Fn pickLinV8();
+LinHfFn pickLinHf(int pitch);
+LinVfFn pickLinVf();
+template <class T>
+CubHFn<T> pickCubH(int pitch);
+template <class T>
+CubVFn<T> pickCubV();
+
+// Pixel-taps per call above which the rows are shared among threads.
+constexpr long long kForkWork = 1LL << 17;
+
+template <class T, class L>
+void nearestRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const Taps& ty,
+                 int count, int y0, int y1) {
+  constexpr int kCh = L::kCh, kUse = L::kUse;
+  for (int j = y0; j < y1; ++j) {
+    T* d = rowAt(dst, dstep, j);
+    if (kUse == kCh && j > y0 && ty.off[j] == ty.off[j - 1]) {  // the same source row again
+      std::memcpy(d, rowAt(dst, dstep, j - 1), static_cast<std::size_t>(bytesOf(count, kCh, sizeof(T))));
+      continue;
+    }
+    const T* s = rowAt(src, sstep, ty.off[j]);
+    for (int i = 0; i < count; ++i) {
+      const T* p = s + tx.off[i];
+      T* q = d + elemsOf(i, kCh);
+      for (int c = 0; c < kUse; ++c) q[c] = p[c];
+    }
+  }
+}
+
+// Row buffers tagged by the (relative, unclamped) source row they hold; slot = row mod K, so K
+// consecutive rows never share a slot and rows are reused whichever way the index walks.
+template <class B, int K>
+struct RowRing {
+  B* buf[K];
+  int tag[K];
+  RowRing(Lum8u* scratch, std::size_t slotBytes) {
+    for (int k = 0; k < K; ++k) {
+      buf[k] = reinterpret_cast<B*>(scratch + slotBytes * k);
+      tag[k] = INT32_MIN;
+    }
+  }
+  template <class Fill>
+  B* get(int r, Fill&& fill) {
+    const int k = ((r % K) + K) % K;
+    if (tag[k] != r) {
+      fill(r, buf[k]);
+      tag[k] = r;
+    }
+    return buf[k];
+  }
+};
+
+// One plane or pixel-order image: src and dst at the ROI origins, tables built.
+template <class T, class L>
+void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const Taps& ty,
+             int mode, const Axis& ax, int y0, int y1, Lum8u* scratch, std::size_t slotBytes) {
+  constexpr int kCh = L::kCh;
+  constexpr bool kAlpha = L::kUse != L::kCh;
+  const int n = static_cast<int>(elemsOf(ax.count, kCh));
+  auto srow = [&](int r) { return rowAt(src, sstep, r); };
+  switch (mode) {
+    case kNearest:
+      nearestRows<T, L>(src, sstep, dst, dstep, tx, ty, ax.count, y0, y1);
+      break;
+    case kLinear:
+      if constexpr (std::is_same_v<T, Lum8u>) {
+        const LinH8Fn hf = pickLinH8(kCh);
+        const LinV8Fn vf = pickLinV8();
+        RowRing<int16_t, 2> ring(scratch, slotBytes);
+        for (int j = y0; j < y1; ++j) {
+          const int b = ty.off[j];
+          auto fill = [&](int r, int16_t* h) { hf(srow(r), tx.off, tx.wq, n, kCh, h); };
+          const int16_t* h0 = ring.get(b, fill);
+          const int16_t* h1 = ring.get(b + 1, fill);
+          vf(h0, h1, ty.wq[2 * j + 1], n, rowAt(dst, dstep, j), kAlpha);
+        }
+      } else if constexpr (std::is_same_v<T, Lum16u>) {
+        RowRing<uint32_t, 2> ring(scratch, slotBytes);
+        for (int j = y0; j < y1; ++j) {
+          const int b = ty.off[j];
+          auto fill = [&](int r, uint32_t* h) { linH16Scalar(srow(r), tx.off, tx.wq, n, kCh, h); };
+          const uint32_t* h0 = ring.get(b, fill);
+          const uint32_t* h1 = ring.get(b + 1, fill);
+          linV16Scalar(h0, h1, ty.wq[2 * j + 1], n, rowAt(dst, dstep, j), kAlpha);
+        }
+      } else {
+        const LinHfFn hf = pickLinHf(kCh);
+        const LinVfFn vf = pickLinVf();
+        RowRing<float, 2> ring(scratch, slotBytes);
+        for (int j = y0; j < y1; ++j) {
+          const int b = ty.off[j];
+          auto fill = [&](int r, float* h) { hf(srow(r), tx.off, tx.wf, n, kCh, h); };
+          const float* h0 = ring.get(b, fill);
+          const float* h1 = ring.get(b + 1, fill);
+          vf(h0, h1, ty.wf[2 * j], ty.wf[2 * j + 1], n, rowAt(dst, dstep, j), kAlpha);
+        }
+      }
+      break;
+    case kCubic: {
+      const CubHFn<T> hf = pickCubH<T>(kCh);
+      const CubVFn<T> vf = pickCubV<T>();
+      RowRing<float, 4> ring(scratch, slotBytes);
+      for (int j = y0; j < y1; ++j) {
+        const int b = ty.off[j];
+        auto fill = [&](int r, float* h) { hf(srow(r), tx.off, tx.wf, n, kCh, h); };
+        const float* rows[4];
+        for (int k = 0; k < 4; ++k) rows[k] = ring.get(b + k, fill);
+        vf(rows, ty.wf + 3 * j, n, rowAt(dst, dstep, j), kAlpha);
+      }
+      break;
+    }
+    case kLanczos: {
+      RowRing<float, 6> ring(scratch, slotBytes);
+      for (int j = y0; j < y1; ++j) {
+        const float* rows[6];
+        for (int k = 0; k < 6; ++k) {
+          const int r = ty.off[6 * j + k];
+          rows[k] = ring.get(ty.key[j] + k, [&](int, float* h) {
+            lanHScalar(srow(r), tx.off, tx.wf, ax.count, kCh, h);
+          });
+        }
+        lanVScalar<T>(rows, ty.wf + 6 * j, n, rowAt(dst, dstep, j), kAlpha);
+      }
+      break;
+    }
+    default: {  // super-sampling
+      float* acc = reinterpret_cast<float*>(scratch);
+      float* tmp = reinterpret_cast<float*>(scratch + slotBytes);
+      for (int j = y0; j < y1; ++j) {
+        const float* wy = ty.wf + static_cast<std::ptrdiff_t>(j) * ty.maxTaps;
+        for (int k = 0; k < ty.cnt[j]; ++k) {
+          supHScalar(srow(ty.off[j] + k), tx, ax.count, kCh, k == 0 ? acc : tmp);
+          if (k == 0) {
+            for (int e = 0; e < n; ++e) acc[e] *= wy[0];
+          } else {
+            for (int e = 0; e < n; ++e) acc[e] += wy[k] * tmp[e];
+          }
+        }
+        T* d = rowAt(dst, dstep, j);
+        for (int e = 0; e < n; ++e)
+          if (!(kAlpha && (e & 3) == 3)) d[e] = roundStore<T>(acc[e]);
+      }
+      break;
+    }
+  }
+}
+
+inline int ringSlots(int mode) {
+  switch (mode) {
+    case kNearest: return 0;
+    case kLinear: return 2;
+    case kCubic: return 4;
+    case kLanczos: return 6;
+    default: return 2;
+  }
+}
+
+// Builds the tables (in `tables` when given, else from the allocator) and runs every plane.
+template <class T, class L, int P>
+LumStatus run(const T* const* src, int sstep, T* const* dst, int dstep, const Axis& ax,
+              const Axis& ay, int mode, Lum8u* tables = nullptr) {
+  constexpr int kCh = L::kCh;
+  const int mx = mode == kSuper ? superTaps(ax) : 0, my = mode == kSuper ? superTaps(ay) : 0;
+  const std::size_t bx = tableBytes(mode, elemsOf(ax.count, kCh), mx);
+  const std::size_t by = tableBytes(mode, ay.count, my);
+  Lum8u* mem = tables;
+  if (mem == nullptr) {
+    if (bx + by > 0x7fffffffu) return lumStatusMemAllocErr;
+    mem = lumsMalloc_8u(static_cast<int>(bx + by));
+    if (mem == nullptr) return lumStatusMemAllocErr;
+  }
+  Taps tx, ty;
+  buildTaps(ax, mode, kCh, mem, &tx);
+  buildTaps(ay, mode, 1, mem + bx, &ty);
+  // row buffers: 4-byte elements, padded for vector overrun
+  const std::size_t slot =
+      ((static_cast<std::size_t>(elemsOf(ax.count, kCh)) + 64) * sizeof(float) + 63) & ~std::size_t{63};
+  const int slots = ringSlots(mode);
+  long long taps = 1;
+  switch (mode) {
+    case kLinear: taps = 4; break;
+    case kCubic: taps = 16; break;
+    case kLanczos: taps = 36; break;
+    case kSuper: taps = static_cast<long long>(mx) * my; break;
+    default: break;
+  }
+  const bool parallel = forkByWork(LumiSize{ax.count, ay.count}, taps * kCh * P, kForkWork);
+  LumStatus st = lumStatusOk;
+  for (int p = 0; p < P && st == lumStatusOk; ++p) {
+    const T* s = src[p];
+    T* d = dst[p];
+    st = forRowsWithScratch(ay.count, parallel, std::max<std::size_t>(slot * slots, 64),
+                            [&](int y0, int y1, Lum8u* scratch) {
+                              runRows<T, L>(s, sstep, d, dstep, tx, ty, mode, ax, y0, y1, scratch, slot);
+                            });
+  }
+  if (tables == nullptr) lumsFree(mem);
+  return st;
+}
+
+}  // namespace resize
+}  // namespace lumi
