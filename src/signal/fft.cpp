@@ -1,6 +1,14 @@
 // 1-D FFT engines: plans (factorisation into passes of radix 4, 2, 3 and 5, twiddle tables,
 // the chirp route for other lengths), the complex driver and the real transform through the
 // half-length complex one.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "src/signal/fft.cpp"
+#include "hwy/foreach_target.h"
+#include "hwy/highway.h"
+#include "core/simd.h"
+#include "signal/fft-inl.h"
+
+#if HWY_ONCE
 #include "signal/fft.h"
 
 #include <cmath>
@@ -97,7 +105,18 @@ void fillPasses(FftPlan* pl, const int* radix, int passes, float* tables) {
   pl->passes = passes;
 }
 
-PassFn pickPass() { return &passScalar; }
+PassFn pickFftPass() {
+  LUMI_SIMD_TABLE(PassFn, table, fftPass);
+  return pick(table, &fftPassScalar);
+}
+TwistForwardFn pickFftTwistForward() {
+  LUMI_SIMD_TABLE(TwistForwardFn, table, fftTwistForward);
+  return pick(table, &fftTwistForwardScalar);
+}
+TwistInverseFn pickFftTwistInverse() {
+  LUMI_SIMD_TABLE(TwistInverseFn, table, fftTwistInverse);
+  return pick(table, &fftTwistInverseScalar);
+}
 
 // The passes from src to dst over `count` side-by-side vectors; t1 and t2 hold n * count
 // points each (t2 is used only when src == dst and the pass count is odd).
@@ -109,7 +128,7 @@ void runPasses(const FftPlan& pl, const Lum32fc* src, Lum32fc* dst, Lum32fc* t1,
     if (src != dst) std::memmove(dst, src, points * sizeof(Lum32fc));
     return;
   }
-  const PassFn f = pickPass();
+  const PassFn f = pickFftPass();
   const Lum32fc* x = src;
   Lum32fc* y = nullptr;
   for (int i = 0; i < np; ++i) {
@@ -340,7 +359,7 @@ void RealFft::forward(const float* in, float* packed, void* work) const {
   const int h = n / 2;
   half_->transform(reinterpret_cast<const Lum32fc*>(in), z, false, rest);
   const float r0 = z[0].re, i0 = z[0].im;
-  if (h / 2 >= 1) twistForwardScalar(z, packed, twist_, h, 1, h / 2);
+  if (h / 2 >= 1) pickFftTwistForward()(z, packed, twist_, h, 1, h / 2);
   packed[0] = r0 + i0;
   packed[n - 1] = r0 - i0;
 }
@@ -361,10 +380,11 @@ void RealFft::inverse(const float* packed, float* out, void* work) const {
   }
   const int h = n / 2;
   const float a0 = packed[0], ah = packed[n - 1];
-  if (h / 2 >= 1) twistInverseScalar(packed, z, twist_, h, 1, h / 2);
+  if (h / 2 >= 1) pickFftTwistInverse()(packed, z, twist_, h, 1, h / 2);
   z[0] = Lum32fc{a0 + ah, a0 - ah};
   half_->transform(z, reinterpret_cast<Lum32fc*>(out), true, rest);
 }
 
 }  // namespace signal
 }  // namespace lumi
+#endif  // HWY_ONCE

@@ -94,14 +94,16 @@ inline void butterfly(const Lum32fc* a, Lum32fc* b, bool inverse) {
   }
 }
 
-// One pass over `count` side-by-side vectors, point by point.
+// Part of one pass, point by point: groups p0 <= p < p1, offsets q0 <= q < q1, where s is the
+// pass stride times the number of side-by-side vectors.
 template <int R>
-void passPoints(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count, bool inverse) {
-  const std::ptrdiff_t m = ps.m, s = static_cast<std::ptrdiff_t>(ps.s) * count;
+void passPoints(const FftPass& ps, const Lum32fc* x, Lum32fc* y, std::ptrdiff_t s, bool inverse,
+                std::ptrdiff_t p0, std::ptrdiff_t p1, std::ptrdiff_t q0, std::ptrdiff_t q1) {
+  const std::ptrdiff_t m = ps.m;
   Lum32fc a[R], b[R];
-  for (std::ptrdiff_t p = 0; p < m; ++p) {
+  for (std::ptrdiff_t p = p0; p < p1; ++p) {
     const float* t = ps.tw + 4 * p * (R - 1);
-    for (std::ptrdiff_t q = 0; q < s; ++q) {
+    for (std::ptrdiff_t q = q0; q < q1; ++q) {
       for (int j = 0; j < R; ++j) a[j] = x[q + s * (p + j * m)];
       butterfly<R>(a, b, inverse);
       Lum32fc* out = y + q + s * R * p;
@@ -114,12 +116,13 @@ void passPoints(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count, bool
 // Pass kernels take the pass, source, destination, vector count and direction.
 using PassFn = void (*)(const FftPass&, const Lum32fc*, Lum32fc*, int, bool);
 
-inline void passScalar(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count, bool inverse) {
+inline void fftPassScalar(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count, bool inverse) {
+  const std::ptrdiff_t s = static_cast<std::ptrdiff_t>(ps.s) * count, m = ps.m;
   switch (ps.radix) {
-    case 2: passPoints<2>(ps, x, y, count, inverse); break;
-    case 3: passPoints<3>(ps, x, y, count, inverse); break;
-    case 4: passPoints<4>(ps, x, y, count, inverse); break;
-    default: passPoints<5>(ps, x, y, count, inverse); break;
+    case 2: passPoints<2>(ps, x, y, s, inverse, 0, m, 0, s); break;
+    case 3: passPoints<3>(ps, x, y, s, inverse, 0, m, 0, s); break;
+    case 4: passPoints<4>(ps, x, y, s, inverse, 0, m, 0, s); break;
+    default: passPoints<5>(ps, x, y, s, inverse, 0, m, 0, s); break;
   }
 }
 
@@ -130,7 +133,9 @@ inline void passScalar(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int coun
 //   inverse: Z(k) = F + i G, Z(h-k) = conj F + i conj G, with F = A(k) + conj A(h-k),
 //            G = (A(k) - conj A(h-k)) conj(w^k)  (twice the forward's E and O: unscaled)
 // Both cover k = lo .. hi (1 <= lo, hi <= h/2); k = 0 and h are the callers'.
-inline void twistForwardScalar(const Lum32fc* z, float* packed, const float* tw, int h, int lo,
+using TwistForwardFn = void (*)(const Lum32fc*, float*, const float*, int, int, int);
+using TwistInverseFn = void (*)(const float*, Lum32fc*, const float*, int, int, int);
+inline void fftTwistForwardScalar(const Lum32fc* z, float* packed, const float* tw, int h, int lo,
                                int hi) {
   for (int k = lo; k <= hi; ++k) {
     const Lum32fc zk = z[k], zc = z[h - k];
@@ -145,7 +150,7 @@ inline void twistForwardScalar(const Lum32fc* z, float* packed, const float* tw,
   }
 }
 
-inline void twistInverseScalar(const float* packed, Lum32fc* z, const float* tw, int h, int lo,
+inline void fftTwistInverseScalar(const float* packed, Lum32fc* z, const float* tw, int h, int lo,
                                int hi) {
   for (int k = lo; k <= hi; ++k) {
     const float ar = packed[2 * k - 1], ai = packed[2 * k];

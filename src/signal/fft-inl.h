@@ -1,0 +1,252 @@
+// Vector kernels of the 1-D FFT engines, included once per SIMD target by fft.cpp (hence the
+// toggle guard). Complex values stay interleaved (re, im) in the vectors; a complex product
+// by a twiddle is a * (wr, wr) + swap(a) * (-wi, wi), both halves read from the pass table.
+// At most eight floats (four complex points) per vector on every target.
+#if defined(LUMI_SIGNAL_FFT_INL_H_) == defined(HWY_TARGET_TOGGLE)
+#ifdef LUMI_SIGNAL_FFT_INL_H_
+#undef LUMI_SIGNAL_FFT_INL_H_
+#else
+#define LUMI_SIGNAL_FFT_INL_H_
+#endif
+
+#include <cstring>
+
+#include "core/simd.h"
+#include "signal/fft_kernels.h"
+
+#ifndef LUMI_FFT_UNROLL
+#define LUMI_FFT_UNROLL _Pragma("GCC unroll 8")  // butterfly loops over registers, never memory
+#endif
+
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+namespace fftv {
+
+using DF = hn::CappedTag<float, 8>;
+using DD = hn::Repartition<double, DF>;  // one complex point per lane
+using V = hn::Vec<DF>;
+using signal::FftPass;
+using signal::passPoints;
+
+struct Signs {
+  V odd, even;  // -0.0 in the imaginary (odd) or real (even) lanes
+  explicit Signs(DF d)
+      : odd(hn::OddEven(hn::Set(d, -0.0f), hn::Zero(d))),
+        even(hn::OddEven(hn::Zero(d), hn::Set(d, -0.0f))) {}
+};
+
+HWY_INLINE V load(DF d, const Lum32fc* p) { return hn::LoadU(d, reinterpret_cast<const float*>(p)); }
+HWY_INLINE void store(DF d, V v, Lum32fc* p) { hn::StoreU(v, d, reinterpret_cast<float*>(p)); }
+
+// The pair of floats at t repeated over the vector.
+HWY_INLINE V broadcastPair(DF d, const float* t) {
+  double pair;
+  std::memcpy(&pair, t, sizeof(pair));
+  return hn::BitCast(d, hn::Set(DD(), pair));
+}
+
+// a w (forward) or a conj(w) (inverse), with wr = (wr, wr), wi = (-wi, wi).
+template <bool kInv>
+HWY_INLINE V mulTw(DF d, V a, V wr, V wi) {
+  const V cross = hn::Mul(hn::Reverse2(d, a), wi);
+  return kInv ? hn::Sub(hn::Mul(a, wr), cross) : hn::Add(hn::Mul(a, wr), cross);
+}
+
+// The radix-R butterfly on vectors of points, the same sums as the scalar butterfly.
+template <int R, bool kInv>
+HWY_INLINE void butterflyV(DF d, const Signs& sg, const V* a, V* b) {
+  auto rot = [&](V v) { return hn::Xor(hn::Reverse2(d, v), kInv ? sg.even : sg.odd); };
+  if constexpr (R == 2) {
+    b[0] = hn::Add(a[0], a[1]);
+    b[1] = hn::Sub(a[0], a[1]);
+  } else if constexpr (R == 3) {
+    const V t = hn::Add(a[1], a[2]);
+    const V u = hn::Add(a[0], hn::Mul(t, hn::Set(d, -0.5f)));
+    const V v = rot(hn::Mul(hn::Sub(a[1], a[2]), hn::Set(d, 0.86602540378443865f)));
+    b[0] = hn::Add(a[0], t);
+    b[1] = hn::Add(u, v);
+    b[2] = hn::Sub(u, v);
+  } else if constexpr (R == 4) {
+    const V t0 = hn::Add(a[0], a[2]), t1 = hn::Sub(a[0], a[2]);
+    const V t2 = hn::Add(a[1], a[3]), t3 = rot(hn::Sub(a[1], a[3]));
+    b[0] = hn::Add(t0, t2);
+    b[2] = hn::Sub(t0, t2);
+    b[1] = hn::Add(t1, t3);
+    b[3] = hn::Sub(t1, t3);
+  } else {
+    const V c1 = hn::Set(d, 0.30901699437494742f), c2 = hn::Set(d, -0.80901699437494742f);
+    const V s1 = hn::Set(d, 0.95105651629515357f), s2 = hn::Set(d, 0.58778525229247313f);
+    const V b1 = hn::Add(a[1], a[4]), b2 = hn::Add(a[2], a[3]);
+    const V d1 = hn::Sub(a[1], a[4]), d2 = hn::Sub(a[2], a[3]);
+    const V t1 = hn::Add(a[0], hn::Add(hn::Mul(b1, c1), hn::Mul(b2, c2)));
+    const V t2 = hn::Add(a[0], hn::Add(hn::Mul(b1, c2), hn::Mul(b2, c1)));
+    const V u1 = rot(hn::Add(hn::Mul(d1, s1), hn::Mul(d2, s2)));
+    const V u2 = rot(hn::Sub(hn::Mul(d1, s2), hn::Mul(d2, s1)));
+    b[0] = hn::Add(a[0], hn::Add(b1, b2));
+    b[1] = hn::Add(t1, u1);
+    b[4] = hn::Sub(t1, u1);
+    b[2] = hn::Add(t2, u2);
+    b[3] = hn::Sub(t2, u2);
+  }
+}
+
+// A pass whose stride s is at least one vector of points: vectors run along q, the twiddles
+// of group p are broadcast.
+template <int R, bool kInv>
+void passStrided(const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc* HWY_RESTRICT y,
+                 std::ptrdiff_t s) {
+  const DF d;
+  const Signs sg(d);
+  const std::ptrdiff_t L = static_cast<std::ptrdiff_t>(hn::Lanes(d) / 2), m = ps.m;
+  const std::ptrdiff_t qv = s - s % L;
+  V a[R], b[R], wr[R], wi[R];
+  for (std::ptrdiff_t p = 0; p < m; ++p) {
+    const float* t = ps.tw + 4 * p * (R - 1);
+    LUMI_FFT_UNROLL
+    for (int k = 1; k < R; ++k) {
+      wr[k] = broadcastPair(d, t + 4 * (k - 1));
+      wi[k] = broadcastPair(d, t + 4 * (k - 1) + 2);
+    }
+    const Lum32fc* xp = x + s * p;
+    Lum32fc* yp = y + s * R * p;
+    for (std::ptrdiff_t q = 0; q < qv; q += L) {
+      LUMI_FFT_UNROLL
+      for (int j = 0; j < R; ++j) a[j] = load(d, xp + q + s * m * j);
+      butterflyV<R, kInv>(d, sg, a, b);
+      store(d, b[0], yp + q);
+      LUMI_FFT_UNROLL
+      for (int k = 1; k < R; ++k) store(d, mulTw<kInv>(d, b[k], wr[k], wi[k]), yp + q + s * k);
+    }
+  }
+  if (qv < s) passPoints<R>(ps, x, y, s, kInv, 0, m, qv, s);
+}
+
+// The first pass of a single vector (stride 1): vectors run along p with per-lane twiddles,
+// and the R results of each point are interleaved on the way out.
+template <int R, bool kInv>
+void passFirst(const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc* HWY_RESTRICT y) {
+  const DF d;
+  const DD dd;
+  const Signs sg(d);
+  const std::ptrdiff_t L = static_cast<std::ptrdiff_t>(hn::Lanes(d) / 2), m = ps.m;
+  const std::ptrdiff_t pv = m - m % L;
+  V a[R], b[R];
+  for (std::ptrdiff_t p = 0; p < pv; p += L) {
+    LUMI_FFT_UNROLL
+    for (int j = 0; j < R; ++j) a[j] = load(d, x + p + m * j);
+    butterflyV<R, kInv>(d, sg, a, b);
+    LUMI_FFT_UNROLL
+    for (int k = 1; k < R; ++k) {
+      const std::ptrdiff_t at = 2 * ((k - 1) * m + p);
+      b[k] = mulTw<kInv>(d, b[k], hn::LoadU(d, ps.twr + at), hn::LoadU(d, ps.twi + at));
+    }
+    double* out = reinterpret_cast<double*>(y + R * p);
+    if constexpr (R == 2) {
+      hn::StoreInterleaved2(hn::BitCast(dd, b[0]), hn::BitCast(dd, b[1]), dd, out);
+    } else if constexpr (R == 3) {
+      hn::StoreInterleaved3(hn::BitCast(dd, b[0]), hn::BitCast(dd, b[1]), hn::BitCast(dd, b[2]),
+                            dd, out);
+    } else if constexpr (R == 4) {
+      hn::StoreInterleaved4(hn::BitCast(dd, b[0]), hn::BitCast(dd, b[1]), hn::BitCast(dd, b[2]),
+                            hn::BitCast(dd, b[3]), dd, out);
+    } else {
+      HWY_ALIGN Lum32fc tmp[R][8];
+      LUMI_FFT_UNROLL
+      for (int k = 0; k < R; ++k) store(d, b[k], tmp[k]);
+      for (std::ptrdiff_t i = 0; i < L; ++i)
+        LUMI_FFT_UNROLL
+        for (int k = 0; k < R; ++k) y[R * (p + i) + k] = tmp[k][i];
+    }
+  }
+  if (pv < m) passPoints<R>(ps, x, y, 1, kInv, pv, m, 0, 1);
+}
+
+template <int R, bool kInv>
+void passOf(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count) {
+  const std::ptrdiff_t s = static_cast<std::ptrdiff_t>(ps.s) * count;
+  const std::ptrdiff_t L = static_cast<std::ptrdiff_t>(hn::Lanes(DF()) / 2);
+  if (s >= L) passStrided<R, kInv>(ps, x, y, s);
+  else if (s == 1 && ps.twr) passFirst<R, kInv>(ps, x, y);
+  else passPoints<R>(ps, x, y, s, kInv, 0, ps.m, 0, s);
+}
+
+template <bool kInv>
+void passDir(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count) {
+  switch (ps.radix) {
+    case 2: passOf<2, kInv>(ps, x, y, count); break;
+    case 3: passOf<3, kInv>(ps, x, y, count); break;
+    case 4: passOf<4, kInv>(ps, x, y, count); break;
+    default: passOf<5, kInv>(ps, x, y, count); break;
+  }
+}
+
+// The complex points k .. k+L-1 read backwards from the one ending at p.
+HWY_INLINE V loadReversed(DF d, const float* lastPoint, std::ptrdiff_t L) {
+  const DD dd;
+  return hn::BitCast(d, hn::Reverse(dd, hn::BitCast(dd, hn::LoadU(d, lastPoint - 2 * (L - 1)))));
+}
+HWY_INLINE void storeReversed(DF d, V v, float* lastPoint, std::ptrdiff_t L) {
+  const DD dd;
+  hn::StoreU(hn::BitCast(d, hn::Reverse(dd, hn::BitCast(dd, v))), d, lastPoint - 2 * (L - 1));
+}
+
+}  // namespace fftv
+
+// Per-target entries (the signatures of the scalar twins).
+inline void fftPass(const signal::FftPass& ps, const Lum32fc* x, Lum32fc* y, int count,
+                    bool inverse) {
+  if (inverse) fftv::passDir<true>(ps, x, y, count);
+  else fftv::passDir<false>(ps, x, y, count);
+}
+
+// The real transform's twist on vectors of points k and their mirrors h-k (see fft_kernels.h).
+inline void fftTwistForward(const Lum32fc* z, float* packed, const float* tw, int h, int lo,
+                            int hi) {
+  using namespace fftv;
+  const DF d;
+  const Signs sg(d);
+  const int L = static_cast<int>(hn::Lanes(d) / 2);
+  const V half = hn::Set(d, 0.5f);
+  const float* zf = reinterpret_cast<const float*>(z);
+  int k = lo;
+  for (; k + L - 1 <= hi; k += L) {
+    const V zk = hn::LoadU(d, zf + 2 * k);
+    const V zc = loadReversed(d, zf + 2 * (h - k), L);  // Z(h-k), same lanes as Z(k)
+    const V sum = hn::Add(zk, zc), dif = hn::Sub(zk, zc);
+    const V e = hn::Mul(hn::OddEven(dif, sum), half);
+    const V o = hn::Mul(hn::Xor(hn::Reverse2(d, hn::OddEven(sum, dif)), sg.odd), half);
+    const V t = hn::LoadU(d, tw + 2 * k);  // (cos, sin): w^k = conj t
+    const V c = hn::DupEven(t), sn = hn::DupOdd(t);
+    const V pr = hn::Add(hn::Mul(o, c), hn::Xor(hn::Mul(hn::Reverse2(d, o), sn), sg.odd));
+    hn::StoreU(hn::Add(e, pr), d, packed + 2 * k - 1);
+    storeReversed(d, hn::Xor(hn::Sub(e, pr), sg.odd), packed + 2 * (h - k) - 1, L);
+  }
+  if (k <= hi) signal::fftTwistForwardScalar(z, packed, tw, h, k, hi);
+}
+
+inline void fftTwistInverse(const float* packed, Lum32fc* z, const float* tw, int h, int lo,
+                            int hi) {
+  using namespace fftv;
+  const DF d;
+  const Signs sg(d);
+  const int L = static_cast<int>(hn::Lanes(d) / 2);
+  float* zf = reinterpret_cast<float*>(z);
+  int k = lo;
+  for (; k + L - 1 <= hi; k += L) {
+    const V a = hn::LoadU(d, packed + 2 * k - 1);
+    const V c = hn::Xor(loadReversed(d, packed + 2 * (h - k) - 1, L), sg.odd);  // conj A(h-k)
+    const V f = hn::Add(a, c), df = hn::Sub(a, c);
+    const V t = hn::LoadU(d, tw + 2 * k);  // conj(w^k) = (cos, sin)
+    const V g = hn::Add(hn::Mul(df, hn::DupEven(t)),
+                        hn::Mul(hn::Reverse2(d, df), hn::Xor(hn::DupOdd(t), sg.even)));
+    const V gs = hn::Reverse2(d, g);
+    hn::StoreU(hn::Add(f, hn::Xor(gs, sg.even)), d, zf + 2 * k);
+    storeReversed(d, hn::Add(hn::Xor(f, sg.odd), gs), zf + 2 * (h - k), L);
+  }
+  if (k <= hi) signal::fftTwistInverseScalar(packed, z, tw, h, k, hi);
+}
+
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
+
+#endif  // LUMI_SIGNAL_FFT_INL_H_
