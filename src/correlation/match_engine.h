@@ -27,6 +27,7 @@
 
 #include "core/frame.h"
 #include "core/scale_factor.h"
+#include "correlation/match_kernels.h"
 #include "correlation/tile_correlator.h"
 #include "lumi/correlation.h"
 
@@ -122,19 +123,10 @@ struct Store8uSfs {
 };
 
 // ---- template statistics -------------------------------------------------------------------
-struct TplChannel {
-  double energy = 0;  // sum tpl^2
-  float normFloored = kEps;  // max(|tpl|, eps)
-  double bound = 0;   // |tpl| (Norm, SqrDist) or sqrt(sum (tpl - mean)^2) (Level)
-  double var = 0;     // sum (tpl - mean)^2
-  double resid = 0;   // sum of the mean-removed values as stored in float (0 up to rounding)
-  const float* spectrum = nullptr;
-};
-
 // Copies channel c of the template into the top-left of a zeroed fftW x fftH tile (minus its
-// mean for the mean-removed measure) and records the statistics of what was stored.
+// mean for the mean-removed measure) and returns the constants of the normalisation.
 template <class S, class L, Measure M>
-void loadTemplate(const S* tpl, int tplStep, const Plan& p, int c, float* tile, TplChannel* t) {
+Norms loadTemplate(const S* tpl, int tplStep, const Plan& p, int c, float* tile) {
   std::memset(tile, 0, p.fftArea() * sizeof(float));
   const int w = p.tpl.width, h = p.tpl.height;
   double sum = 0, energy = 0;
@@ -146,9 +138,8 @@ void loadTemplate(const S* tpl, int tplStep, const Plan& p, int c, float* tile, 
       energy += v * v;
     }
   }
-  t->energy = energy;
-  const double norm = std::sqrt(energy);
-  t->normFloored = static_cast<float>(norm) < kEps ? kEps : static_cast<float>(norm);
+  Norms k{};
+  k.sqrtEps = std::sqrt(kEps);
   if constexpr (M == Measure::kLevel) {
     const double mean = sum / (static_cast<double>(w) * h);
     double var = 0, resid = 0;
@@ -162,48 +153,68 @@ void loadTemplate(const S* tpl, int tplStep, const Plan& p, int c, float* tile, 
         resid += o[j];
       }
     }
-    t->var = var;
-    t->resid = resid;
-    t->bound = std::sqrt(var);
+    const float v = static_cast<float>(var);
+    k.bound = std::sqrt(v);
+    k.floored = std::sqrt(v < kEps ? kEps : v);
+    k.resid = static_cast<float>(resid);
   } else {
     for (int i = 0; i < h; ++i) {
       const S* r = rowAt(tpl, tplStep, i);
       float* o = tile + static_cast<std::size_t>(i) * p.fftW;
       for (int j = 0; j < w; ++j) o[j] = static_cast<float>(r[elemsOf(j, L::kCh) + c]);
     }
-    t->bound = norm;
+    k.bound = static_cast<float>(std::sqrt(energy));
+    k.floored = k.bound < kEps ? kEps : k.bound;
+    k.energy = static_cast<float>(energy);
   }
+  return k;
 }
 
 // ---- one thread's buffers ------------------------------------------------------------------
 inline std::size_t alignUp(std::size_t n) { return (n + 63) & ~static_cast<std::size_t>(63); }
 
 struct TileBuffers {
-  float* tile;
-  float* spec;
-  double *winS, *winE;  // window sums of the tile's placements
-  double *colS, *colE;  // column sums of the current placement row
-  Lum8u* work;
+  float* tile;            // fftW x fftH: the source area, then the correlation values
+  float* spec;            // fftW x fftH: the tile's spectrum
+  double *rowS, *rowE;    // fftH x tileW: sums of w consecutive values (squares) of each row
+  double *accS, *accE;    // tileW: the sliding column state
+  float *a, *b;           // tileW x tileH: energy or spread, window mean
+  float* out;             // tileW: one row of results
+  Lum8u* work;            // the transform's work buffer
 
+  struct Sizes {
+    std::size_t area, rows, acc, places, out;
+  };
+  static Sizes sizes(const Plan& p) {
+    return Sizes{alignUp(p.fftArea() * sizeof(float)),
+                 alignUp(static_cast<std::size_t>(p.fftH) * p.tileW * sizeof(double)),
+                 alignUp(static_cast<std::size_t>(p.tileW) * sizeof(double)),
+                 alignUp(static_cast<std::size_t>(p.tileW) * p.tileH * sizeof(float)),
+                 alignUp(static_cast<std::size_t>(p.tileW) * sizeof(float))};
+  }
   static std::size_t bytes(const Plan& p, std::size_t workBytes) {
-    const std::size_t area = p.fftArea() * sizeof(float);
-    const std::size_t places = static_cast<std::size_t>(p.tileW) * p.tileH * sizeof(double);
-    const std::size_t cols = static_cast<std::size_t>(p.fftW) * sizeof(double);
-    return 2 * alignUp(area) + 2 * alignUp(places) + 2 * alignUp(cols) + alignUp(workBytes) + 64;
+    const Sizes z = sizes(p);
+    return 2 * z.area + 2 * z.rows + 2 * z.acc + 2 * z.places + z.out + alignUp(workBytes) + 64;
   }
   static TileBuffers carve(const Plan& p, Lum8u* block) {
-    const std::size_t area = p.fftArea() * sizeof(float);
-    const std::size_t places = static_cast<std::size_t>(p.tileW) * p.tileH * sizeof(double);
-    const std::size_t cols = static_cast<std::size_t>(p.fftW) * sizeof(double);
+    const Sizes z = sizes(p);
     Lum8u* q = reinterpret_cast<Lum8u*>(
         (reinterpret_cast<std::uintptr_t>(block) + 63) & ~static_cast<std::uintptr_t>(63));
+    auto take = [&q](std::size_t n) {
+      Lum8u* r = q;
+      q += n;
+      return r;
+    };
     TileBuffers b;
-    b.tile = reinterpret_cast<float*>(q), q += alignUp(area);
-    b.spec = reinterpret_cast<float*>(q), q += alignUp(area);
-    b.winS = reinterpret_cast<double*>(q), q += alignUp(places);
-    b.winE = reinterpret_cast<double*>(q), q += alignUp(places);
-    b.colS = reinterpret_cast<double*>(q), q += alignUp(cols);
-    b.colE = reinterpret_cast<double*>(q), q += alignUp(cols);
+    b.tile = reinterpret_cast<float*>(take(z.area));
+    b.spec = reinterpret_cast<float*>(take(z.area));
+    b.rowS = reinterpret_cast<double*>(take(z.rows));
+    b.rowE = reinterpret_cast<double*>(take(z.rows));
+    b.accS = reinterpret_cast<double*>(take(z.acc));
+    b.accE = reinterpret_cast<double*>(take(z.acc));
+    b.a = reinterpret_cast<float*>(take(z.places));
+    b.b = reinterpret_cast<float*>(take(z.places));
+    b.out = reinterpret_cast<float*>(take(z.out));
     b.work = q;
     return b;
   }
@@ -212,13 +223,13 @@ struct TileBuffers {
 // ---- one tile ------------------------------------------------------------------------------
 // Converts the source area under placements [x0, x0 + tw) x [y0, y0 + th) of channel c into the
 // top-left (tw + w - 1) x (th + h - 1) of the tile, zero outside the source; the rest of the
-// tile is cleared too (it only feeds placements that are not kept, but stays deterministic).
+// tile is cleared too (it only feeds placements that are not kept, but must hold numbers).
 template <class S, class L>
 void loadTile(const S* src, int srcStep, const Plan& p, int c, int x0, int y0, int tw, int th,
               float* tile) {
   const int cw = tw + p.tpl.width - 1, chh = th + p.tpl.height - 1;
   const int sx0 = x0 - p.ox, sy0 = y0 - p.oy;
-  // source columns inside [0, src.width) that the covered area reaches
+  // the columns of the covered area that lie inside the source
   const int jLo = sx0 < 0 ? -sx0 : 0;
   const int jHi = (sx0 + cw > p.src.width ? p.src.width - sx0 : cw);
   for (int i = 0; i < p.fftH; ++i) {
@@ -239,61 +250,69 @@ void loadTile(const S* src, int srcStep, const Plan& p, int c, int x0, int y0, i
   }
 }
 
-// Window sums (winS: values, winE: squares) of every placement of a tw x th tile, by running
-// sums in double restarted in each tile: squares of floats are exact in double and integer
-// data sums exactly. Tiny negative energies from cancellation are clamped to zero.
-inline void windowSums(const float* tile, const Plan& p, int tw, int th, const TileBuffers& b) {
-  const int w = p.tpl.width, h = p.tpl.height, cw = tw + w - 1;
+// Sums of w consecutive values (kSum) and squares along each of the covered rows, by running
+// sums in double restarted in every row of every tile: squares of floats are exact in double
+// and integer data sums exactly. Two rows at a time keep four independent chains in flight.
+template <bool kSum>
+void rowSums(const float* tile, const Plan& p, int tw, int rows, const TileBuffers& b) {
+  const int w = p.tpl.width;
   const std::size_t stride = p.fftW;
-  for (int j = 0; j < cw; ++j) b.colS[j] = b.colE[j] = 0.0;
-  for (int i = 0; i < h; ++i) {
-    const float* r = tile + i * stride;
-    for (int j = 0; j < cw; ++j) {
-      double v = r[j];
-      b.colS[j] += v;
-      b.colE[j] += v * v;
+  int r = 0;
+  for (; r + 2 <= rows; r += 2) {
+    const float* u = tile + r * stride;
+    const float* v = u + stride;
+    double su = 0, eu = 0, sv = 0, ev = 0;
+    for (int j = 0; j < w; ++j) {
+      const double a = u[j], c = v[j];
+      su += a, eu += a * a, sv += c, ev += c * c;
+    }
+    double *osu = b.rowS + r * static_cast<std::size_t>(tw), *osv = osu + tw;
+    double *oeu = b.rowE + r * static_cast<std::size_t>(tw), *oev = oeu + tw;
+    for (int x = 0;; ++x) {
+      if (kSum) osu[x] = su, osv[x] = sv;
+      oeu[x] = eu, oev[x] = ev;
+      if (x + 1 == tw) break;
+      const double ai = u[x + w], ao = u[x], ci = v[x + w], co = v[x];
+      if (kSum) su += ai - ao, sv += ci - co;
+      eu += ai * ai - ao * ao;
+      ev += ci * ci - co * co;
     }
   }
-  for (int y = 0; y < th; ++y) {
-    if (y > 0) {
-      const float* in = tile + (y + h - 1) * stride;
-      const float* out = tile + (y - 1) * stride;
-      for (int j = 0; j < cw; ++j) {
-        double a = in[j], o = out[j];
-        b.colS[j] += a - o;
-        b.colE[j] += a * a - o * o;
-      }
-    }
-    double s = 0, e = 0;
+  for (; r < rows; ++r) {
+    const float* u = tile + r * stride;
+    double su = 0, eu = 0;
     for (int j = 0; j < w; ++j) {
-      s += b.colS[j];
-      e += b.colE[j];
+      const double a = u[j];
+      su += a, eu += a * a;
     }
-    double* rs = b.winS + static_cast<std::size_t>(y) * tw;
-    double* re = b.winE + static_cast<std::size_t>(y) * tw;
+    double* osu = b.rowS + r * static_cast<std::size_t>(tw);
+    double* oeu = b.rowE + r * static_cast<std::size_t>(tw);
     for (int x = 0;; ++x) {
-      rs[x] = s;
-      re[x] = e < 0.0 ? 0.0 : e;
+      if (kSum) osu[x] = su;
+      oeu[x] = eu;
       if (x + 1 == tw) break;
-      s += b.colS[x + w] - b.colS[x];
-      e += b.colE[x + w] - b.colE[x];
+      const double ai = u[x + w], ao = u[x];
+      if (kSum) su += ai - ao;
+      eu += ai * ai - ao * ao;
     }
   }
 }
 
-// The mean-removed measure correlates the covered area minus one level (its mean, rounded to
-// an integer for integer sources so that the values stay exact).
+// The mean-removed measure correlates the covered area minus one level, the mean of its
+// windows' means (rounded to an integer for integer sources, so that the values stay exact):
+// a large common level would otherwise dominate the single-precision transforms.
 template <class S>
-float subtractLevel(float* tile, const Plan& p, int tw, int th) {
+float subtractLevel(float* tile, const Plan& p, int tw, int th, const float* mean) {
+  const std::size_t n = static_cast<std::size_t>(tw) * th;
+  double sum[4] = {0, 0, 0, 0};
+  std::size_t i = 0;
+  for (; i + 4 <= n; i += 4)
+    for (int k = 0; k < 4; ++k) sum[k] += mean[i + k];
+  for (; i < n; ++i) sum[0] += mean[i];
+  const double m = (sum[0] + sum[1] + sum[2] + sum[3]) / static_cast<double>(n);
+  const float level = std::is_floating_point_v<S> ? static_cast<float>(m)
+                                                  : static_cast<float>(std::floor(m + 0.5));
   const int cw = tw + p.tpl.width - 1, chh = th + p.tpl.height - 1;
-  double sum = 0;
-  for (int i = 0; i < chh; ++i) {
-    const float* r = tile + static_cast<std::size_t>(i) * p.fftW;
-    for (int j = 0; j < cw; ++j) sum += r[j];
-  }
-  double mean = sum / (static_cast<double>(cw) * chh);
-  float level = std::is_floating_point_v<S> ? static_cast<float>(mean)
-                                            : static_cast<float>(std::floor(mean + 0.5));
   for (int i = 0; i < chh; ++i) {
     float* r = tile + static_cast<std::size_t>(i) * p.fftW;
     for (int j = 0; j < cw; ++j) r[j] -= level;
@@ -301,43 +320,26 @@ float subtractLevel(float* tile, const Plan& p, int tw, int th) {
   return level;
 }
 
+// The chosen kernels of one call.
+struct Kernels {
+  SlideEnergyFn slideEnergy = pickSlideEnergy();
+  SlideLevelFn slideLevel = pickSlideLevel();
+  FinishRowFn finish;
+};
+
 // Normalises the correlation values `num` (rows of fftW) of a tile and stores them.
-template <Measure M, class D, class L, class Store>
-void finishTile(const float* num, const Plan& p, const TplChannel& t, const TileBuffers& b,
-                int tw, int th, D* dst, int dstStep, int x0, int y0, int c, const Store& store) {
-  const double n = static_cast<double>(p.tpl.width) * p.tpl.height;
-  const double eps = kEps;
+template <class D, class L, class Store>
+void finishTile(const float* num, const Plan& p, const Norms& k, const Kernels& kern,
+                const TileBuffers& b, int tw, int th, D* dst, int dstStep, int x0, int y0, int c,
+                const Store& store) {
   for (int y = 0; y < th; ++y) {
-    const float* r = num + static_cast<std::size_t>(y) * p.fftW;
-    const double* ws = b.winS + static_cast<std::size_t>(y) * tw;
-    const double* we = b.winE + static_cast<std::size_t>(y) * tw;
+    const std::size_t at = static_cast<std::size_t>(y) * tw;
     D* o = rowAt(dst, dstStep, y0 + y) + elemsOf(x0, L::kCh) + c;
-    for (int x = 0; x < tw; ++x, o += L::kCh) {
-      float v;
-      if constexpr (M == Measure::kLevel) {
-        // window values were shifted by the tile's level: ws, we are sums of the shifted values
-        // a spread below what the double sums resolve is a flat window
-        double var = we[x] - ws[x] * ws[x] / n;
-        if (var <= kFlat * we[x]) var = 0.0;
-        double nm = static_cast<double>(r[x]) - ws[x] / n * t.resid;
-        double bound = t.bound * std::sqrt(var);
-        nm = nm > bound ? bound : nm < -bound ? -bound : nm;
-        double den = std::sqrt((t.var < eps ? eps : t.var) * (var < eps ? eps : var));
-        v = static_cast<float>(nm / den);
-      } else {
-        double bound = t.bound * std::sqrt(we[x]);
-        double nm = r[x];
-        nm = nm > bound ? bound : nm < -bound ? -bound : nm;
-        float e = static_cast<float>(we[x]);
-        float den = t.normFloored * std::sqrt(e < kEps ? kEps : e);
-        if constexpr (M == Measure::kNorm) {
-          v = static_cast<float>(nm) / den;
-        } else {
-          double d = we[x] - 2.0 * nm + t.energy;
-          v = static_cast<float>(d < 0.0 ? 0.0 : d) / den;
-        }
-      }
-      store(o, v);
+    if constexpr (L::kCh == 1 && std::is_same_v<D, Lum32f>) {
+      kern.finish(num + static_cast<std::size_t>(y) * p.fftW, b.a + at, b.b + at, tw, k, o);
+    } else {
+      kern.finish(num + static_cast<std::size_t>(y) * p.fftW, b.a + at, b.b + at, tw, k, b.out);
+      for (int x = 0; x < tw; ++x, o += L::kCh) store(o, b.out[x]);
     }
   }
 }
@@ -363,54 +365,67 @@ LumStatus run(const S* src, int srcStep, LumiSize srcRoi, const S* tpl, int tplS
 
   constexpr int kUse = L::kUse;
   // Buffers that could never be allocated fail before the transform is set up.
-  const std::size_t area = p.fftArea() * sizeof(float);
-  if ((kUse + 1) * alignUp(area) > 0x7fffffffu) return lumStatusMemAllocErr;
+  const std::size_t area = alignUp(p.fftArea() * sizeof(float));
+  if ((kUse + 1) * area > 0x7fffffffu) return lumStatusMemAllocErr;
 
   TileCorrelator corr;
   if (LumStatus st = corr.init(p.orderX, p.orderY, tplRoi.width, tplRoi.height)) return st;
 
   // The template spectra of every channel, a tile to build them in and a work buffer.
-  const std::size_t sharedBytes = (kUse + 1) * alignUp(area) + alignUp(corr.workBytes()) + 64;
+  const std::size_t sharedBytes = (kUse + 1) * area + alignUp(corr.workBytes()) + 64;
   if (sharedBytes > 0x7fffffffu) return lumStatusMemAllocErr;
   Lum8u* shared = lumsMalloc_8u(static_cast<int>(sharedBytes));
   if (!shared) return lumStatusMemAllocErr;
   Lum8u* q = reinterpret_cast<Lum8u*>(
       (reinterpret_cast<std::uintptr_t>(shared) + 63) & ~static_cast<std::uintptr_t>(63));
-  TplChannel t[kUse];
-  float* tmp = reinterpret_cast<float*>(q + kUse * alignUp(area));
-  Lum8u* tmpWork = q + (kUse + 1) * alignUp(area);
+  Norms k[kUse];
+  const float* spectra[kUse];
+  float* tmp = reinterpret_cast<float*>(q + kUse * area);
+  Lum8u* tmpWork = q + (kUse + 1) * area;
   for (int c = 0; c < kUse; ++c) {
-    float* spec = reinterpret_cast<float*>(q + c * alignUp(area));
-    loadTemplate<S, L, M>(tpl, tplStep, p, c, tmp, &t[c]);
+    float* spec = reinterpret_cast<float*>(q + c * area);
+    k[c] = loadTemplate<S, L, M>(tpl, tplStep, p, c, tmp);
     if (LumStatus st = corr.transformTemplate(tmp, spec, tmpWork)) {
       lumsFree(shared);
       return st;
     }
-    t[c].spectrum = spec;
+    spectra[c] = spec;
   }
 
+  Kernels kern;
+  kern.finish = M == Measure::kNorm ? pickFinishNorm()
+                : M == Measure::kLevel ? pickFinishLevel() : pickFinishSqr();
+  const double invN = 1.0 / (static_cast<double>(tplRoi.width) * tplRoi.height);
   std::atomic<int> failure{lumStatusOk};
   const bool parallel = M != Measure::kNorm && forkTiles(p, kUse);
   LumStatus st = forRowsWithScratch(
       p.tiles(), parallel, TileBuffers::bytes(p, corr.workBytes()),
       [&](int t0, int t1, Lum8u* mine) {
-        TileBuffers b = TileBuffers::carve(p, mine);
-        for (int k = t0; k < t1 && failure.load(std::memory_order_relaxed) == lumStatusOk; ++k) {
-          const int x0 = (k % p.tilesX) * p.tileW, y0 = (k / p.tilesX) * p.tileH;
+        const TileBuffers b = TileBuffers::carve(p, mine);
+        for (int t = t0; t < t1 && failure.load(std::memory_order_relaxed) == lumStatusOk; ++t) {
+          const int x0 = (t % p.tilesX) * p.tileW, y0 = (t / p.tilesX) * p.tileH;
           const int tw = p.dst.width - x0 < p.tileW ? p.dst.width - x0 : p.tileW;
           const int th = p.dst.height - y0 < p.tileH ? p.dst.height - y0 : p.tileH;
+          const int rows = th + tplRoi.height - 1;
           for (int c = 0; c < kUse; ++c) {
             loadTile<S, L>(src, srcStep, p, c, x0, y0, tw, th, b.tile);
-            if constexpr (M == Measure::kLevel) subtractLevel<S>(b.tile, p, tw, th);
-            windowSums(b.tile, p, tw, th, b);
+            Norms kc = k[c];
+            if constexpr (M == Measure::kLevel) {
+              rowSums<true>(b.tile, p, tw, rows, b);
+              kern.slideLevel(b.rowS, b.rowE, tw, th, tplRoi.height, invN, kFlat, b.accS, b.accE,
+                              b.a, b.b);
+              kc.level = subtractLevel<S>(b.tile, p, tw, th, b.b);
+            } else {
+              rowSums<false>(b.tile, p, tw, rows, b);
+              kern.slideEnergy(b.rowE, tw, th, tplRoi.height, b.accE, b.a);
+            }
             const float* num = nullptr;
-            if (LumStatus fs = corr.correlate(b.tile, b.spec, t[c].spectrum, b.work, tw, th,
-                                              &num)) {
+            if (LumStatus fs = corr.correlate(b.tile, b.spec, spectra[c], b.work, tw, th, &num)) {
               int expected = lumStatusOk;
               failure.compare_exchange_strong(expected, fs);
               return;
             }
-            finishTile<M, D, L>(num, p, t[c], b, tw, th, dst, dstStep, x0, y0, c, store);
+            finishTile<D, L>(num, p, kc, kern, b, tw, th, dst, dstStep, x0, y0, c, store);
           }
         }
       });

@@ -1,0 +1,143 @@
+// Vector kernels of template matching: the vertical slide of the window sums (double lanes,
+// written out as float) and the normalisation of a row of placements (float lanes). Each does
+// the operations of its scalar twin in match_kernels.h in the same order, so the results agree
+// bit for bit; the twins finish the columns past the last whole vector.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "src/correlation/match_kernels.cpp"
+#include "hwy/foreach_target.h"
+#include "hwy/highway.h"
+#include "core/simd.h"
+#include "correlation/match_kernels.h"
+
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+using namespace ::lumi::match;
+
+// acc[x] = sum of the first h rows, for the columns of whole vectors; returns the first column
+// left to the twin.
+HWY_INLINE int startColumnsVec(const double* HWY_RESTRICT rows, int tw, int h,
+                               double* HWY_RESTRICT acc) {
+  const hn::ScalableTag<double> d;
+  const int N = static_cast<int>(hn::Lanes(d));
+  const int xEnd = tw - tw % N;
+  for (int x = 0; x < xEnd; x += N) {
+    auto a = hn::Zero(d);
+    for (int i = 0; i < h; ++i) a = hn::Add(a, hn::LoadU(d, rows + static_cast<std::size_t>(i) * tw + x));
+    hn::StoreU(a, d, acc + x);
+  }
+  for (int x = xEnd; x < tw; ++x) {
+    acc[x] = 0.0;
+    for (int i = 0; i < h; ++i) acc[x] += rows[static_cast<std::size_t>(i) * tw + x];
+  }
+  return xEnd;
+}
+
+void slideEnergy(const double* rows, int tw, int th, int h, double* acc, float* out) {
+  const hn::ScalableTag<double> d;
+  const hn::Rebind<float, decltype(d)> df;
+  const int N = static_cast<int>(hn::Lanes(d));
+  const int xEnd = startColumnsVec(rows, tw, h, acc);
+  for (int y = 0; y < th; ++y) {
+    const double* in = rows + static_cast<std::size_t>(y + h) * tw;
+    const double* old = rows + static_cast<std::size_t>(y) * tw;
+    float* o = out + static_cast<std::size_t>(y) * tw;
+    const bool more = y + 1 < th;
+    for (int x = 0; x < xEnd; x += N) {
+      auto a = hn::LoadU(d, acc + x);
+      hn::StoreU(hn::DemoteTo(df, hn::IfThenElseZero(hn::Gt(a, hn::Zero(d)), a)), df, o + x);
+      if (more) hn::StoreU(hn::Add(a, hn::Sub(hn::LoadU(d, in + x), hn::LoadU(d, old + x))), d, acc + x);
+    }
+  }
+  slideEnergyFrom(xEnd, rows, tw, th, h, acc, out);
+}
+
+void slideLevel(const double* s, const double* e, int tw, int th, int h, double invN, double flat,
+                double* accS, double* accE, float* out, float* mean) {
+  const hn::ScalableTag<double> d;
+  const hn::Rebind<float, decltype(d)> df;
+  const int N = static_cast<int>(hn::Lanes(d));
+  const int xEnd = startColumnsVec(s, tw, h, accS);
+  startColumnsVec(e, tw, h, accE);
+  const auto vn = hn::Set(d, invN), vflat = hn::Set(d, flat);
+  for (int y = 0; y < th; ++y) {
+    const std::size_t in = static_cast<std::size_t>(y + h) * tw, old = static_cast<std::size_t>(y) * tw;
+    const bool more = y + 1 < th;
+    for (int x = 0; x < xEnd; x += N) {
+      auto as = hn::LoadU(d, accS + x), ae = hn::LoadU(d, accE + x);
+      auto var = hn::Sub(ae, hn::Mul(hn::Mul(as, as), vn));
+      var = hn::IfThenElseZero(hn::Gt(var, hn::Mul(vflat, ae)), var);
+      hn::StoreU(hn::DemoteTo(df, var), df, out + old + x);
+      hn::StoreU(hn::DemoteTo(df, hn::Mul(as, vn)), df, mean + old + x);
+      if (more) {
+        hn::StoreU(hn::Add(as, hn::Sub(hn::LoadU(d, s + in + x), hn::LoadU(d, s + old + x))), d, accS + x);
+        hn::StoreU(hn::Add(ae, hn::Sub(hn::LoadU(d, e + in + x), hn::LoadU(d, e + old + x))), d, accE + x);
+      }
+    }
+  }
+  slideLevelFrom(xEnd, s, e, tw, th, h, invN, flat, accS, accE, out, mean);
+}
+
+// v clamped to [-b, b] exactly as clampTo does (NaN passes through).
+template <class D, class V>
+HWY_INLINE V clampVec(D, V v, V b) {
+  return hn::IfThenElse(hn::Gt(v, b), b, hn::IfThenElse(hn::Lt(v, hn::Neg(b)), hn::Neg(b), v));
+}
+
+// kMode 0: Norm, 1: squared distance, 2: mean-removed.
+template <int kMode>
+void finishRow(const float* num, const float* a, const float* b, int n, const Norms& k, float* out) {
+  const hn::ScalableTag<float> d;
+  const int N = static_cast<int>(hn::Lanes(d));
+  const auto bound = hn::Set(d, k.bound), floored = hn::Set(d, k.floored);
+  const auto se = hn::Set(d, k.sqrtEps), energy = hn::Set(d, k.energy), two = hn::Set(d, 2.0f);
+  const auto resid = hn::Set(d, k.resid), level = hn::Set(d, k.level);
+  int x = 0;
+  for (; x + N <= n; x += N) {
+    const auto av = hn::LoadU(d, a + x);
+    const auto r = hn::Sqrt(av);
+    auto v = hn::LoadU(d, num + x);
+    if constexpr (kMode == 2) v = hn::Add(v, hn::Mul(hn::Sub(level, hn::LoadU(d, b + x)), resid));
+    v = clampVec(d, v, hn::Mul(bound, r));
+    const auto den = hn::Mul(floored, hn::IfThenElse(hn::Gt(r, se), r, se));
+    if constexpr (kMode == 1) {
+      auto dd = hn::Add(hn::Sub(av, hn::Mul(two, v)), energy);
+      v = hn::IfThenElseZero(hn::Gt(dd, hn::Zero(d)), dd);
+    }
+    hn::StoreU(hn::Div(v, den), d, out + x);
+  }
+  if constexpr (kMode == 0) finishNormFrom(x, num, a, b, n, k, out);
+  if constexpr (kMode == 1) finishSqrFrom(x, num, a, b, n, k, out);
+  if constexpr (kMode == 2) finishLevelFrom(x, num, a, b, n, k, out);
+}
+
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
+
+#if HWY_ONCE
+namespace lumi {
+namespace match {
+
+SlideEnergyFn pickSlideEnergy() {
+  LUMI_SIMD_TABLE(SlideEnergyFn, table, slideEnergy);
+  return pick(table, &slideEnergyScalar);
+}
+SlideLevelFn pickSlideLevel() {
+  LUMI_SIMD_TABLE(SlideLevelFn, table, slideLevel);
+  return pick(table, &slideLevelScalar);
+}
+FinishRowFn pickFinishNorm() {
+  LUMI_SIMD_TABLE(FinishRowFn, table, finishRow<0>);
+  return pick(table, &finishNormScalar);
+}
+FinishRowFn pickFinishSqr() {
+  LUMI_SIMD_TABLE(FinishRowFn, table, finishRow<1>);
+  return pick(table, &finishSqrScalar);
+}
+FinishRowFn pickFinishLevel() {
+  LUMI_SIMD_TABLE(FinishRowFn, table, finishRow<2>);
+  return pick(table, &finishLevelScalar);
+}
+
+}  // namespace match
+}  // namespace lumi
+#endif  // HWY_ONCE
