@@ -1,0 +1,336 @@
+// Remapping through two float coordinate maps with nearest, linear or cubic interpolation.
+//
+// Vector kernels: nearest and linear for 8u and 32f one-channel images. They load a vector of
+// map points, test them against the box, convert and round them lane-wise exactly as the
+// scalar twins do, and fetch the source pixels with gathers: 32f by element index, 8u as 32-bit
+// words at byte offsets (the pixel and its right neighbour in the low bytes). A word may reach
+// three bytes past the pixel, so a vector any of whose words would pass the image's last byte
+// is done by the scalar twin. Lanes outside the box fetch from the box corner and store back
+// the destination's own value. Integer results equal the scalar twins bit for bit; 32f linear
+// results may differ from them by fused multiply-adds, within 2^-21 of the largest of the four
+// source magnitudes.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "src/geometry/remap.cpp"
+#include "hwy/foreach_target.h"
+#include "hwy/highway.h"
+#include "core/simd.h"
+#include "geometry/remap_kernels.h"
+#include "lumi/remap.h"
+
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+namespace {
+
+// Lane-wise roundEven of non-negative floats.
+template <class DF, class DI>
+HWY_INLINE hn::Vec<DI> roundEvenV(DF df, DI di, hn::Vec<DF> v) {
+  const auto i = hn::ConvertTo(di, v);  // truncates
+  const auto f = hn::Sub(v, hn::ConvertTo(df, i));
+  const auto half = hn::Set(df, 0.5f);
+  const auto one = hn::Set(di, 1);
+  const auto odd = hn::RebindMask(df, hn::Eq(hn::And(i, one), one));
+  const auto up = hn::Or(hn::Gt(f, half), hn::And(hn::Eq(f, half), odd));
+  return hn::IfThenElse(hn::RebindMask(di, up), hn::Add(i, one), i);
+}
+
+// The box test of a vector of points; points outside are moved to the box corner.
+template <class DF>
+HWY_INLINE hn::Mask<DF> clampToBox(DF df, const remap::Box& b, hn::Vec<DF>& x, hn::Vec<DF>& y) {
+  const auto fx0 = hn::Set(df, b.fx0), fy0 = hn::Set(df, b.fy0);
+  const auto in = hn::And(hn::And(hn::Ge(x, fx0), hn::Le(x, hn::Set(df, b.fx1))),
+                          hn::And(hn::Ge(y, fy0), hn::Le(y, hn::Set(df, b.fy1))));
+  x = hn::IfThenElse(in, x, fx0);
+  y = hn::IfThenElse(in, y, fy0);
+  return in;
+}
+
+// Linear cell of a vector of points (see linearCell).
+template <class DF, class DI>
+HWY_INLINE void linearCellV(DF df, DI di, const remap::Box& b, hn::Vec<DF> x, hn::Vec<DF> y,
+                            hn::Vec<DI>& ix, hn::Vec<DI>& iy, hn::Vec<DF>& fx, hn::Vec<DF>& fy) {
+  const auto one = hn::Set(di, 1);
+  ix = hn::ConvertTo(di, x);
+  iy = hn::ConvertTo(di, y);
+  ix = hn::IfThenElse(hn::Eq(ix, hn::Set(di, b.x1)), hn::Sub(ix, one), ix);
+  iy = hn::IfThenElse(hn::Eq(iy, hn::Set(di, b.y1)), hn::Sub(iy, one), iy);
+  fx = hn::Sub(x, hn::ConvertTo(df, ix));
+  fy = hn::Sub(y, hn::ConvertTo(df, iy));
+}
+
+void nearestRow8u(const uint8_t* src, int step, const remap::Box& b, const float* mx,
+                  const float* my, uint8_t* dst, int width) {
+  const hn::ScalableTag<float> df;
+  const hn::RebindToSigned<decltype(df)> di;
+  const hn::Rebind<uint8_t, decltype(di)> d8;
+  const int N = static_cast<int>(hn::Lanes(df));
+  const auto vstep = hn::Set(di, step);
+  // 32-bit words read up to offset + 3.
+  const std::ptrdiff_t lim = b.limit - 4;
+  const auto limit = hn::Set(di, static_cast<int32_t>(lim < -1 ? -1 : lim));
+  int x = 0;
+  if (b.gather32) {
+    for (; x + N <= width; x += N) {
+      auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
+      const auto in = clampToBox(df, b, vx, vy);
+      if (hn::AllFalse(df, in)) continue;
+      const auto off = hn::Add(hn::Mul(roundEvenV(df, di, vy), vstep), roundEvenV(df, di, vx));
+      if (!hn::AllFalse(di, hn::Gt(off, limit))) {
+        remap::nearestRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, N);
+        continue;
+      }
+      const auto v = hn::And(hn::GatherOffset(di, reinterpret_cast<const int32_t*>(src), off), hn::Set(di, 0xFF));
+      const auto old = hn::PromoteTo(di, hn::LoadU(d8, dst + x));
+      hn::StoreU(hn::DemoteTo(d8, hn::IfThenElse(hn::RebindMask(di, in), v, old)), d8, dst + x);
+    }
+  }
+  remap::nearestRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
+}
+
+void nearestRow32f(const float* src, int step, const remap::Box& b, const float* mx,
+                   const float* my, float* dst, int width) {
+  const hn::ScalableTag<float> df;
+  const hn::RebindToSigned<decltype(df)> di;
+  const int N = static_cast<int>(hn::Lanes(df));
+  int x = 0;
+  if (b.gather32 && step % 4 == 0) {
+    const auto vstep = hn::Set(di, step / 4);
+    for (; x + N <= width; x += N) {
+      auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
+      const auto in = clampToBox(df, b, vx, vy);
+      if (hn::AllFalse(df, in)) continue;
+      const auto idx = hn::Add(hn::Mul(roundEvenV(df, di, vy), vstep), roundEvenV(df, di, vx));
+      const auto v = hn::GatherIndex(df, src, idx);
+      hn::StoreU(hn::IfThenElse(in, v, hn::LoadU(df, dst + x)), df, dst + x);
+    }
+  }
+  remap::nearestRowScalar<float, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
+}
+
+void linearRow8u(const uint8_t* src, int step, const remap::Box& b, const float* mx,
+                 const float* my, uint8_t* dst, int width) {
+  const hn::ScalableTag<float> df;
+  const hn::RebindToSigned<decltype(df)> di;
+  const hn::Rebind<uint8_t, decltype(di)> d8;
+  const int N = static_cast<int>(hn::Lanes(df));
+  const auto vstep = hn::Set(di, step);
+  // The lower word is read at offset + step, up to offset + step + 3.
+  const std::ptrdiff_t lim = b.limit - step - 4;
+  const auto limit = hn::Set(di, static_cast<int32_t>(lim < -1 ? -1 : lim));
+  const auto k1 = hn::Set(di, remap::kOne), k33 = hn::Set(di, 33), kFF = hn::Set(di, 0xFF);
+  const auto scale = hn::Set(df, static_cast<float>(remap::kOne));
+  int x = 0;
+  if (b.gather32) {
+    for (; x + N <= width; x += N) {
+      auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
+      const auto in = clampToBox(df, b, vx, vy);
+      if (hn::AllFalse(df, in)) continue;
+      hn::Vec<decltype(di)> ix, iy;
+      hn::Vec<decltype(df)> fx, fy;
+      linearCellV(df, di, b, vx, vy, ix, iy, fx, fy);
+      const auto off = hn::Add(hn::Mul(iy, vstep), ix);
+      if (!hn::AllFalse(di, hn::Gt(off, limit))) {
+        remap::linearRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, N);
+        continue;
+      }
+      const auto wx = roundEvenV(df, di, hn::Mul(fx, scale));
+      const auto wy = roundEvenV(df, di, hn::Mul(fy, scale));
+      const auto* base = reinterpret_cast<const int32_t*>(src);
+      const auto g0 = hn::GatherOffset(di, base, off);
+      const auto g1 = hn::GatherOffset(di, base, hn::Add(off, vstep));
+      const auto wx0 = hn::Sub(k1, wx);
+      const auto h0 = hn::ShiftRight<8>(hn::Add(hn::Mul(wx0, hn::And(g0, kFF)),
+                                                hn::Mul(wx, hn::And(hn::ShiftRight<8>(g0), kFF))));
+      const auto h1 = hn::ShiftRight<8>(hn::Add(hn::Mul(wx0, hn::And(g1, kFF)),
+                                                hn::Mul(wx, hn::And(hn::ShiftRight<8>(g1), kFF))));
+      const auto v = hn::ShiftRight<20>(hn::Add(hn::Add(hn::Mul(h0, hn::Sub(k1, wy)), hn::Mul(h1, wy)), k33));
+      const auto old = hn::PromoteTo(di, hn::LoadU(d8, dst + x));
+      hn::StoreU(hn::DemoteTo(d8, hn::IfThenElse(hn::RebindMask(di, in), v, old)), d8, dst + x);
+    }
+  }
+  remap::linearRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
+}
+
+void linearRow32f(const float* src, int step, const remap::Box& b, const float* mx,
+                  const float* my, float* dst, int width) {
+  const hn::ScalableTag<float> df;
+  const hn::RebindToSigned<decltype(df)> di;
+  const int N = static_cast<int>(hn::Lanes(df));
+  const auto one = hn::Set(df, 1.0f);
+  const auto ione = hn::Set(di, 1);
+  int x = 0;
+  if (b.gather32 && step % 4 == 0) {
+    const auto vstep = hn::Set(di, step / 4);
+    for (; x + N <= width; x += N) {
+      auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
+      const auto in = clampToBox(df, b, vx, vy);
+      if (hn::AllFalse(df, in)) continue;
+      hn::Vec<decltype(di)> ix, iy;
+      hn::Vec<decltype(df)> fx, fy;
+      linearCellV(df, di, b, vx, vy, ix, iy, fx, fy);
+      const auto i0 = hn::Add(hn::Mul(iy, vstep), ix), i1 = hn::Add(i0, vstep);
+      const auto p00 = hn::GatherIndex(df, src, i0), p01 = hn::GatherIndex(df, src, hn::Add(i0, ione));
+      const auto p10 = hn::GatherIndex(df, src, i1), p11 = hn::GatherIndex(df, src, hn::Add(i1, ione));
+      const auto gx = hn::Sub(one, fx);
+      const auto h0 = hn::MulAdd(p01, fx, hn::Mul(p00, gx));
+      const auto h1 = hn::MulAdd(p11, fx, hn::Mul(p10, gx));
+      const auto v = hn::MulAdd(h1, fy, hn::Mul(h0, hn::Sub(one, fy)));
+      hn::StoreU(hn::IfThenElse(in, v, hn::LoadU(df, dst + x)), df, dst + x);
+    }
+  }
+  remap::linearRowScalar<float, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
+}
+
+}  // namespace
+#endif  // LUMI_TABLE_TARGET
+LUMI_SIMD_END
+
+#if HWY_ONCE
+namespace lumi {
+namespace remap {
+namespace {
+
+template <class T>
+using RowFn = void (*)(const T*, int, const Box&, const float*, const float*, T*, int);
+
+// The row kernel of a type, layout and mode (1, 2 or 4, already adjusted to the source).
+template <class T, class L>
+RowFn<T> pickRow(int mode) {
+  if constexpr (std::is_same_v<L, C1> && (std::is_same_v<T, Lum8u> || std::is_same_v<T, Lum32f>)) {
+    if (mode == lumInterpNearest) {
+      if constexpr (std::is_same_v<T, Lum8u>) {
+        LUMI_SIMD_TABLE(RowFn<T>, table, nearestRow8u);
+        return pick(table, &nearestRowScalar<T, L>);
+      } else {
+        LUMI_SIMD_TABLE(RowFn<T>, table, nearestRow32f);
+        return pick(table, &nearestRowScalar<T, L>);
+      }
+    }
+    if (mode == lumInterpLinear) {
+      if constexpr (std::is_same_v<T, Lum8u>) {
+        LUMI_SIMD_TABLE(RowFn<T>, table, linearRow8u);
+        return pick(table, &linearRowScalar<T, L>);
+      } else {
+        LUMI_SIMD_TABLE(RowFn<T>, table, linearRow32f);
+        return pick(table, &linearRowScalar<T, L>);
+      }
+    }
+  }
+  if (mode == lumInterpNearest) return &nearestRowScalar<T, L>;
+  if (mode == lumInterpLinear) return &linearRowScalar<T, L>;
+  return &cubicRowScalar<T, L>;
+}
+
+// Checks in the documented order; on success fills the box and the mode adjusted to the
+// source. Returns lumStatusNoIntersectionWarn for a ROI origin outside the image.
+LumStatus prepare(LumiSize srcSize, int srcStep, LumiRect srcRoi, int xMapStep, int yMapStep,
+                  int dstStep, LumiSize dstSize, int interpolation, std::size_t pixelBytes, Box* b,
+                  int* mode) {
+  if (srcSize.width < 1 || srcSize.height < 1 || srcRoi.x < 0 || srcRoi.y < 0 || srcRoi.width < 1 ||
+      srcRoi.height < 1 || badSize(dstSize))
+    return lumStatusSizeErr;
+  if (interpolation != lumInterpNearest && interpolation != lumInterpLinear && interpolation != lumInterpCubic)
+    return lumStatusInterpolationErr;
+  if (badStep(srcStep, dstStep, xMapStep, yMapStep)) return lumStatusStepErr;
+  if (srcRoi.x >= srcSize.width || srcRoi.y >= srcSize.height) return lumStatusNoIntersectionWarn;
+  const int w = srcSize.width - srcRoi.x < srcRoi.width ? srcSize.width - srcRoi.x : srcRoi.width;
+  const int h = srcSize.height - srcRoi.y < srcRoi.height ? srcSize.height - srcRoi.y : srcRoi.height;
+  b->x0 = srcRoi.x;
+  b->y0 = srcRoi.y;
+  b->x1 = srcRoi.x + w - 1;
+  b->y1 = srcRoi.y + h - 1;
+  b->fx0 = static_cast<float>(b->x0);
+  b->fy0 = static_cast<float>(b->y0);
+  b->fx1 = static_cast<float>(b->x1);
+  b->fy1 = static_cast<float>(b->y1);
+  b->limit = static_cast<std::ptrdiff_t>(srcStep) * (srcSize.height - 1) +
+             static_cast<std::ptrdiff_t>(pixelBytes) * srcSize.width;
+  b->gather32 = static_cast<long long>(srcStep) * srcSize.height + static_cast<long long>(pixelBytes) * srcSize.width < INT_MAX;
+  *mode = interpolation;
+  if (w == 1 || h == 1)
+    *mode = lumInterpNearest;
+  else if (*mode == lumInterpCubic && (w < 4 || h < 4))
+    *mode = lumInterpLinear;
+  return lumStatusOk;
+}
+
+// Destination rows in bands; each plane (one for interleaved layouts) through the same row
+// kernel.
+template <class T, class L, int kPlanes>
+LumStatus remapImpl(const T* const* src, LumiSize srcSize, int srcStep, LumiRect srcRoi,
+                    const Lum32f* mx, int xMapStep, const Lum32f* my, int yMapStep, T* const* dst,
+                    int dstStep, LumiSize dstSize, int interpolation) {
+  Box b;
+  int mode;
+  if (LumStatus st = prepare(srcSize, srcStep, srcRoi, xMapStep, yMapStep, dstStep, dstSize,
+                             interpolation, sizeof(T) * L::kCh, &b, &mode))
+    return st;
+  const RowFn<T> f = pickRow<T, L>(mode);
+  const long long taps = mode == lumInterpNearest ? 1 : (mode == lumInterpLinear ? 4 : 16);
+  forRows(dstSize.height, forkByWork(dstSize, taps * kPlanes, 1 << 16), [&](int y0, int y1) {
+    for (int p = 0; p < kPlanes; ++p)
+      for (int y = y0; y < y1; ++y)
+        f(src[p], srcStep, b, rowAt(mx, xMapStep, y), rowAt(my, yMapStep, y), rowAt(dst[p], dstStep, y), dstSize.width);
+  });
+  return lumStatusOk;
+}
+
+template <class T, class L>
+LumStatus remapPacked(const T* src, LumiSize srcSize, int srcStep, LumiRect srcRoi, const Lum32f* mx,
+                      int xMapStep, const Lum32f* my, int yMapStep, T* dst, int dstStep,
+                      LumiSize dstSize, int interpolation) {
+  if (anyNull(src, mx, my, dst)) return lumStatusNullPtrErr;
+  return remapImpl<T, L, 1>(&src, srcSize, srcStep, srcRoi, mx, xMapStep, my, yMapStep, &dst, dstStep,
+                            dstSize, interpolation);
+}
+
+template <class T, int kPlanes>
+LumStatus remapPlanar(const T* const* src, LumiSize srcSize, int srcStep, LumiRect srcRoi,
+                      const Lum32f* mx, int xMapStep, const Lum32f* my, int yMapStep, T* const* dst,
+                      int dstStep, LumiSize dstSize, int interpolation) {
+  if (anyNull(src, mx, my, dst)) return lumStatusNullPtrErr;
+  for (int p = 0; p < kPlanes; ++p)
+    if (anyNull(src[p], dst[p])) return lumStatusNullPtrErr;
+  return remapImpl<T, C1, kPlanes>(src, srcSize, srcStep, srcRoi, mx, xMapStep, my, yMapStep, dst,
+                                   dstStep, dstSize, interpolation);
+}
+
+}  // namespace
+}  // namespace remap
+}  // namespace lumi
+
+using namespace lumi;
+
+#define LUMI_REMAP(NAME, T, L)                                                                     \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi,           \
+                          const Lum32f* pxMap, int xMapStep, const Lum32f* pyMap, int yMapStep,    \
+                          T* pDst, int dstStep, LumiSize dstRoiSize, int interpolation) {          \
+    return remap::remapPacked<T, L>(pSrc, srcSize, srcStep, srcRoi, pxMap, xMapStep, pyMap,        \
+                                    yMapStep, pDst, dstStep, dstRoiSize, interpolation);           \
+  }
+#define LUMI_REMAP_P(NAME, T, N)                                                                   \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi,  \
+                          const Lum32f* pxMap, int xMapStep, const Lum32f* pyMap, int yMapStep,    \
+                          T* const pDst[N], int dstStep, LumiSize dstRoiSize, int interpolation) { \
+    return remap::remapPlanar<T, N>(pSrc, srcSize, srcStep, srcRoi, pxMap, xMapStep, pyMap,        \
+                                    yMapStep, pDst, dstStep, dstRoiSize, interpolation);           \
+  }
+
+LUMI_REMAP(lumiRemap_8u_C1R, Lum8u, C1)
+LUMI_REMAP(lumiRemap_8u_C3R, Lum8u, C3)
+LUMI_REMAP(lumiRemap_8u_C4R, Lum8u, C4)
+LUMI_REMAP(lumiRemap_8u_AC4R, Lum8u, AC4)
+LUMI_REMAP(lumiRemap_16u_C1R, Lum16u, C1)
+LUMI_REMAP(lumiRemap_16u_C3R, Lum16u, C3)
+LUMI_REMAP(lumiRemap_16u_C4R, Lum16u, C4)
+LUMI_REMAP(lumiRemap_16u_AC4R, Lum16u, AC4)
+LUMI_REMAP(lumiRemap_32f_C1R, Lum32f, C1)
+LUMI_REMAP(lumiRemap_32f_C3R, Lum32f, C3)
+LUMI_REMAP(lumiRemap_32f_C4R, Lum32f, C4)
+LUMI_REMAP(lumiRemap_32f_AC4R, Lum32f, AC4)
+LUMI_REMAP_P(lumiRemap_8u_P3R, Lum8u, 3)
+LUMI_REMAP_P(lumiRemap_8u_P4R, Lum8u, 4)
+LUMI_REMAP_P(lumiRemap_16u_P3R, Lum16u, 3)
+LUMI_REMAP_P(lumiRemap_16u_P4R, Lum16u, 4)
+LUMI_REMAP_P(lumiRemap_32f_P3R, Lum32f, 3)
+LUMI_REMAP_P(lumiRemap_32f_P4R, Lum32f, 4)
+#endif  // HWY_ONCE
