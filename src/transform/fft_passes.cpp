@@ -1,0 +1,257 @@
+// The row and column passes of the 2-D transforms (see fft_spec.h). Rows go straight through
+// the 1-D engine when they are contiguous single-channel rows; otherwise one channel of the row
+// is gathered into the work buffer first. Columns 0 and W-1 (even W) of the packed layout are
+// real columns; the column pairs between them are complex columns, gathered kGroup at a time.
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+#include "transform/fft_spec.h"
+
+namespace lumi {
+namespace fft2d {
+
+float Record::forwardScale() const {
+  const double n = static_cast<double>(width) * height;
+  if (flag == lumFftDivFwdByN) return static_cast<float>(1.0 / n);
+  if (flag == lumFftDivBySqrtN) return static_cast<float>(1.0 / std::sqrt(n));
+  return 1.0f;
+}
+float Record::inverseScale() const {
+  const double n = static_cast<double>(width) * height;
+  if (flag == lumFftDivInvByN) return static_cast<float>(1.0 / n);
+  if (flag == lumFftDivBySqrtN) return static_cast<float>(1.0 / std::sqrt(n));
+  return 1.0f;
+}
+
+namespace {
+
+inline void scaleRow(float* p, int n, float k) {
+  if (k != 1.0f)
+    for (int i = 0; i < n; ++i) p[i] *= k;
+}
+
+// Column x of every row into col (ch: elements per pixel).
+void gatherColumn(const float* src, int step, int ch, int H, int x, float* col) {
+  const std::ptrdiff_t off = elemsOf(x, ch);
+  for (int r = 0; r < H; ++r) col[r] = rowAt(src, step, r)[off];
+}
+void scatterColumn(const float* col, float* dst, int step, int ch, int H, int x, float k) {
+  const std::ptrdiff_t off = elemsOf(x, ch);
+  for (int r = 0; r < H; ++r) rowAt(dst, step, r)[off] = col[r] * k;
+}
+
+// `count` complex columns from column x0 (Re at x0 + 2c, Im at x0 + 2c + 1 for c < count) of
+// every row, side by side: element r of column c at cols[r * count + c].
+void gatherPairs(const float* src, int step, int ch, int H, int x0, int count, Lum32fc* cols) {
+  const std::ptrdiff_t off = elemsOf(x0, ch);
+  for (int r = 0; r < H; ++r) {
+    const float* p = rowAt(src, step, r) + off;
+    Lum32fc* o = cols + static_cast<std::ptrdiff_t>(r) * count;
+    if (ch == 1) {
+      std::memcpy(o, p, sizeof(Lum32fc) * count);
+    } else {
+      for (int c = 0; c < count; ++c) o[c] = Lum32fc{p[2 * c * ch], p[(2 * c + 1) * ch]};
+    }
+  }
+}
+void scatterPairs(const Lum32fc* cols, float* dst, int step, int ch, int H, int x0, int count,
+                  float k) {
+  const std::ptrdiff_t off = elemsOf(x0, ch);
+  for (int r = 0; r < H; ++r) {
+    float* p = rowAt(dst, step, r) + off;
+    const Lum32fc* in = cols + static_cast<std::ptrdiff_t>(r) * count;
+    if (ch == 1 && k == 1.0f) {
+      std::memcpy(p, in, sizeof(Lum32fc) * count);
+    } else {
+      for (int c = 0; c < count; ++c) {
+        p[2 * c * ch] = in[c].re * k;
+        p[(2 * c + 1) * ch] = in[c].im * k;
+      }
+    }
+  }
+}
+
+// The column pass of the packed layout: from src (read only) into dst, scaled by k.
+void packedColumns(const Record& R, const float* src, int srcStep, int sch, float* dst,
+                   int dstStep, int dch, bool inv, float k, const Scratch& s) {
+  const int W = R.width, H = R.height;
+  float* col = reinterpret_cast<float*>(s.cols);
+  const signal::RealFft& real = R.colsReal();
+  auto realColumn = [&](int x) {
+    gatherColumn(src, srcStep, sch, H, x, col);
+    if (inv)
+      real.inverse(col, col, s.work);
+    else
+      real.forward(col, col, s.work);
+    scatterColumn(col, dst, dstStep, dch, H, x, k);
+  };
+  realColumn(0);
+  if (W % 2 == 0) realColumn(W - 1);
+  const int pairs = (W - 1) / 2;
+  for (int j = 0; j < pairs; j += kGroup) {
+    const int n = std::min(kGroup, pairs - j);
+    gatherPairs(src, srcStep, sch, H, 2 * j + 1, n, s.cols);
+    if (inv)
+      R.colC->inverseBatch(s.cols, n, s.work);
+    else
+      R.colC->forwardBatch(s.cols, n, s.work);
+    scatterPairs(s.cols, dst, dstStep, dch, H, 2 * j + 1, n, k);
+  }
+}
+
+}  // namespace
+
+template <class S>
+void forwardReal(const Record& R, const S* src, int srcStep, int sch, float* dst, int dstStep,
+                 int dch, const Scratch& s) {
+  const int W = R.width, H = R.height;
+  const float k = R.forwardScale();
+  const float rowK = H == 1 ? k : 1.0f;
+  const signal::RealFft& rows = *R.rowR;
+  for (int r = 0; r < H; ++r) {
+    const S* in = rowAt(src, srcStep, r);
+    float* out = rowAt(dst, dstStep, r);
+    if constexpr (std::is_same_v<S, float>) {
+      if (sch == 1 && dch == 1) {
+        rows.forward(in, out, s.work);
+        scaleRow(out, W, rowK);
+        continue;
+      }
+    }
+    for (int x = 0; x < W; ++x) s.row[x] = static_cast<float>(in[elemsOf(x, sch)]);
+    rows.forward(s.row, s.row, s.work);
+    for (int x = 0; x < W; ++x) out[elemsOf(x, dch)] = s.row[x] * rowK;
+  }
+  if (H > 1) packedColumns(R, dst, dstStep, dch, dst, dstStep, dch, false, k, s);
+}
+template void forwardReal<float>(const Record&, const float*, int, int, float*, int, int,
+                                 const Scratch&);
+template void forwardReal<Lum8u>(const Record&, const Lum8u*, int, int, float*, int, int,
+                                 const Scratch&);
+
+void inverseReal(const Record& R, const float* src, int srcStep, int sch, float* dst, int dstStep,
+                 int dch, const Scratch& s) {
+  const int W = R.width, H = R.height;
+  const float k = R.inverseScale();
+  const float* in = src;
+  int inStep = srcStep, inCh = sch;
+  if (H > 1) {  // columns first, from the source into the destination
+    packedColumns(R, src, srcStep, sch, dst, dstStep, dch, true, 1.0f, s);
+    in = dst;
+    inStep = dstStep;
+    inCh = dch;
+  }
+  const signal::RealFft& rows = *R.rowR;
+  for (int r = 0; r < H; ++r) {
+    const float* p = rowAt(in, inStep, r);
+    float* out = rowAt(dst, dstStep, r);
+    if (inCh == 1 && dch == 1) {
+      rows.inverse(p, out, s.work);
+      scaleRow(out, W, k);
+      continue;
+    }
+    for (int x = 0; x < W; ++x) s.row[x] = p[elemsOf(x, inCh)];
+    rows.inverse(s.row, s.row, s.work);
+    for (int x = 0; x < W; ++x) out[elemsOf(x, dch)] = s.row[x] * k;
+  }
+}
+
+void transformComplex(const Record& R, const Lum32fc* src, int srcStep, Lum32fc* dst, int dstStep,
+                      bool inv, const Scratch& s) {
+  const int W = R.width, H = R.height;
+  const float k = inv ? R.inverseScale() : R.forwardScale();
+  const signal::ComplexFft& rows = R.rowsComplex();
+  for (int r = 0; r < H; ++r) {
+    Lum32fc* out = rowAt(dst, dstStep, r);
+    rows.transform(rowAt(src, srcStep, r), out, inv, s.work);
+    if (H == 1) scaleRow(reinterpret_cast<float*>(out), 2 * W, k);
+  }
+  if (H == 1) return;
+  float* d = reinterpret_cast<float*>(dst);
+  for (int j = 0; j < W; j += kGroup) {
+    const int n = std::min(kGroup, W - j);
+    gatherPairs(d, dstStep, 1, H, 2 * j, n, s.cols);
+    if (inv)
+      R.colC->inverseBatch(s.cols, n, s.work);
+    else
+      R.colC->forwardBatch(s.cols, n, s.work);
+    scatterPairs(s.cols, d, dstStep, 1, H, 2 * j, n, k);
+  }
+}
+
+// ---- records ---------------------------------------------------------------------------------
+
+namespace {
+std::size_t round64(std::size_t n) { return (n + 63) & ~static_cast<std::size_t>(63); }
+}  // namespace
+
+void destroyRecord(Record* r) {
+  if (!r) return;
+  if (r->colC) signal::ComplexFft::destroy(r->colC);
+  if (r->rowC) signal::ComplexFft::destroy(r->rowC);
+  if (r->rowR) signal::RealFft::destroy(r->rowR);
+  if (r->colR) signal::RealFft::destroy(r->colR);
+  lumsFree(reinterpret_cast<Lum8u*>(r));
+}
+
+LumStatus createRecord(Record** out, int tag, int width, int height, int sizeX, int sizeY,
+                       int flag, int hint) {
+  const bool real = tag != kTagFftC && tag != kTagDftC;
+  const bool plane = tag == kTagFftR32s || tag == kTagDftR32s;
+  const std::size_t W = static_cast<std::size_t>(width), H = static_cast<std::size_t>(height);
+  const std::size_t colsBytes = round64(H * kGroup * sizeof(Lum32fc));
+  const std::size_t rowBytes = real ? round64(W * sizeof(float)) : 0;
+  const std::size_t planeBytes = plane ? round64(W * H * sizeof(float)) : 0;
+  const std::size_t limit = 0x7fffffff;
+  // Sizes whose work buffer no int can describe fail before any engine is built.
+  if (H > limit / 64 || W > limit / 8 || (plane && W * H > limit / 4) ||
+      colsBytes + rowBytes + planeBytes > limit)
+    return lumStatusMemAllocErr;
+
+  Record* r = reinterpret_cast<Record*>(lumsMalloc_8u(static_cast<int>(sizeof(LumiFFTSpec))));
+  if (!r) return lumStatusMemAllocErr;
+  std::memset(static_cast<void*>(r), 0, sizeof(LumiFFTSpec));
+  r->tag = tag;
+  r->sizeX = sizeX;
+  r->sizeY = sizeY;
+  r->hint = hint;
+  r->flag = flag;
+  r->width = width;
+  r->height = height;
+  bool ok;
+  if (real) {
+    r->rowR = signal::RealFft::create(width);
+    if (height != width) r->colR = signal::RealFft::create(height);
+    r->colC = signal::ComplexFft::create(height);
+    ok = r->rowR && (height == width || r->colR) && r->colC;
+  } else {
+    r->colC = signal::ComplexFft::create(height);
+    if (height != width) r->rowC = signal::ComplexFft::create(width);
+    ok = r->colC && (height == width || r->rowC);
+  }
+  if (!ok) {
+    destroyRecord(r);
+    return lumStatusMemAllocErr;
+  }
+  std::size_t work = 0;
+  for (int n = 1; n <= kGroup; ++n) work = std::max(work, r->colC->batchWorkBytes(n));
+  work = std::max(work, r->colC->workBytes());
+  if (r->rowC) work = std::max(work, r->rowC->workBytes());
+  if (r->rowR) work = std::max(work, r->rowR->workBytes());
+  if (r->colR) work = std::max(work, r->colR->workBytes());
+  r->rowOff = colsBytes;
+  r->planeOff = colsBytes + rowBytes;
+  r->workOff = colsBytes + rowBytes + planeBytes;
+  const std::size_t total = 63 + r->workOff + round64(work);
+  if (total > limit) {
+    destroyRecord(r);
+    return lumStatusMemAllocErr;
+  }
+  r->bufSize = static_cast<int32_t>(total);
+  *out = r;
+  return lumStatusOk;
+}
+
+}  // namespace fft2d
+}  // namespace lumi
