@@ -1,0 +1,344 @@
+// 8x8 block DCTs: float and 16-bit fixed point, the reduced inverses of sparse blocks and the
+// zigzag scan.
+//
+// Float blocks: the scaled butterflies of dct8x8_aan-inl.h down the columns, then along the
+// rows, then one multiplication per coefficient by the factor table (the inverse multiplies
+// first). The vector kernel runs one column per lane and transposes between the passes; it does
+// the same multiplications and additions in the same order as the plain kernel (no fused
+// multiply-adds), so both give the same floats bit for bit.
+//
+// 16-bit blocks: separable sums with the cosine constants quantised to 14 fraction bits,
+// K(u, x) = round(16384 sqrt(2) C(u) cos((2x + 1) u pi / 16)), that is +-16384, 22725, 21407,
+// 19266, 12873, 8867 and 4520; F(u, v) = (sum_y K(v, y) sum_x K(u, x) f(x, y)) / 2^31 (the
+// 2-D factor 1/8 and the constants' 2^28), held exactly in 64 bits between the passes and
+// rounded once, ties up, then saturated to 16 bits. The inverse is the transpose; the reduced
+// inverses sum only the top-left 2x2 or 4x4 coefficients.
+#include <cstring>
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "src/transform/dct8x8.cpp"
+#include "hwy/foreach_target.h"
+#include "hwy/highway.h"
+#include "core/simd.h"
+#include "lumi/dct.h"
+#include "transform/dct8x8.h"
+
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+
+#include "transform/dct8x8_aan-inl.h"
+
+// Columns of up to eight lanes; 8 / N column groups.
+using DB = hn::CappedTag<float, 8>;
+
+HWY_INLINE void transpose8(const float* HWY_RESTRICT in, float* HWY_RESTRICT out) {
+  for (int r = 0; r < 8; ++r)
+    for (int c = 0; c < 8; ++c) out[c * 8 + r] = in[r * 8 + c];
+}
+
+// The butterflies down every column of in (row order) into out.
+template <bool kFwd>
+HWY_INLINE void columnPass(const float* HWY_RESTRICT in, float* HWY_RESTRICT out) {
+  const DB d;
+  using V = hn::Vec<DB>;
+  constexpr size_t N = hn::MaxLanes(d);
+  for (size_t g = 0; g < 8; g += N) {
+    V v[8];
+    for (int r = 0; r < 8; ++r) v[r] = hn::LoadU(d, in + r * 8 + g);
+    if constexpr (kFwd)
+      aanFwd8<V>(v, hn::Set(d, dct::kC4), hn::Set(d, dct::kS8), hn::Set(d, dct::kK0541),
+                 hn::Set(d, dct::kK1306));
+    else
+      aanInv8<V>(v, hn::Set(d, dct::kR2), hn::Set(d, dct::kK1847), hn::Set(d, dct::kK1082),
+                 hn::Set(d, dct::kK2613));
+    for (int r = 0; r < 8; ++r) hn::StoreU(v[r], d, out + r * 8 + g);
+  }
+}
+
+// out[i] = a[i] * b[i] over 64 floats.
+HWY_INLINE void mul64(const float* HWY_RESTRICT a, const float* HWY_RESTRICT b,
+                      float* HWY_RESTRICT out) {
+  const DB d;
+  constexpr size_t N = hn::MaxLanes(d);
+  for (size_t i = 0; i < 64; i += N)
+    hn::StoreU(hn::Mul(hn::LoadU(d, a + i), hn::LoadU(d, b + i)), d, out + i);
+}
+
+void blockFwd(const float* src, float* dst) {
+  HWY_ALIGN float t[64], u[64];
+  columnPass<true>(src, t);
+  transpose8(t, u);
+  columnPass<true>(u, t);  // the row pass, transposed
+  mul64(t, dct::kScale.fwd, u);  // the table is symmetric
+  transpose8(u, dst);
+}
+
+void blockInv(const float* src, float* dst) {
+  HWY_ALIGN float t[64], u[64];
+  mul64(src, dct::kScale.inv, t);
+  columnPass<false>(t, u);
+  transpose8(u, t);
+  columnPass<false>(t, u);
+  transpose8(u, dst);
+}
+
+#endif
+LUMI_SIMD_END
+
+#if HWY_ONCE
+namespace lumi {
+namespace dct {
+namespace {
+
+#include "transform/dct8x8_aan-inl.h"
+
+// ---- float: the plain twins ---------------------------------------------------------------
+template <bool kFwd>
+void butterflies(float* v) {
+  if constexpr (kFwd)
+    aanFwd8<float>(v, kC4, kS8, kK0541, kK1306);
+  else
+    aanInv8<float>(v, kR2, kK1847, kK1082, kK2613);
+}
+// Columns then rows of b, in place.
+template <bool kFwd>
+void separable(float* b) {
+  float v[8];
+  for (int c = 0; c < 8; ++c) {
+    for (int r = 0; r < 8; ++r) v[r] = b[r * 8 + c];
+    butterflies<kFwd>(v);
+    for (int r = 0; r < 8; ++r) b[r * 8 + c] = v[r];
+  }
+  for (int r = 0; r < 8; ++r) butterflies<kFwd>(b + r * 8);
+}
+void blockFwdScalar(const float* src, float* dst) {
+  float b[64];
+  std::memcpy(b, src, sizeof b);
+  separable<true>(b);
+  for (int i = 0; i < 64; ++i) dst[i] = b[i] * kScale.fwd[i];
+}
+void blockInvScalar(const float* src, float* dst) {
+  float b[64];
+  for (int i = 0; i < 64; ++i) b[i] = src[i] * kScale.inv[i];
+  separable<false>(b);
+  std::memcpy(dst, b, sizeof b);
+}
+
+// ---- 16-bit fixed point -----------------------------------------------------------------------
+struct IntTable {
+  int32_t k[8][8];  // k[u][x]
+};
+constexpr IntTable makeIntTable() {
+  // round(16384 sqrt(2) cos(k pi / 16)) for k = 0..8; the u = 0 row is 16384 (C(0) = 1/sqrt(2))
+  constexpr int32_t c[9] = {23170, 22725, 21407, 19266, 16384, 12873, 8867, 4520, 0};
+  IntTable t{};
+  for (int u = 0; u < 8; ++u)
+    for (int x = 0; x < 8; ++x) {
+      if (u == 0) {
+        t.k[u][x] = 16384;
+        continue;
+      }
+      int a = ((2 * x + 1) * u) % 32;  // cos(a pi / 16)
+      if (a > 16) a = 32 - a;
+      t.k[u][x] = a <= 8 ? c[a] : -c[16 - a];
+    }
+  return t;
+}
+constexpr IntTable kInt = makeIntTable();
+
+inline Lum16s roundShift31(int64_t s) {
+  return saturate<Lum16s>((s + (int64_t{1} << 30)) >> 31);
+}
+
+// Forward: row sums then column sums, one rounding; in[y * 8 + x] read through get(x, y).
+template <class Get>
+void intFwd(Get get, Lum16s* out) {
+  int64_t r[8][8];  // r[y][u]
+  for (int y = 0; y < 8; ++y)
+    for (int u = 0; u < 8; ++u) {
+      int64_t s = 0;
+      for (int x = 0; x < 8; ++x) s += int64_t{kInt.k[u][x]} * get(x, y);
+      r[y][u] = s;
+    }
+  for (int v = 0; v < 8; ++v)
+    for (int u = 0; u < 8; ++u) {
+      int64_t s = 0;
+      for (int y = 0; y < 8; ++y) s += kInt.k[v][y] * r[y][u];
+      out[v * 8 + u] = roundShift31(s);
+    }
+}
+
+// Inverse from the top-left m x m coefficients (m = 8, 4 or 2); put(x, y, value).
+template <int m, class Put>
+void intInv(const Lum16s* in, Put put) {
+  int64_t r[8][8];  // r[v][x]
+  for (int v = 0; v < m; ++v)
+    for (int x = 0; x < 8; ++x) {
+      int64_t s = 0;
+      for (int u = 0; u < m; ++u) s += int64_t{kInt.k[u][x]} * in[v * 8 + u];
+      r[v][x] = s;
+    }
+  for (int y = 0; y < 8; ++y)
+    for (int x = 0; x < 8; ++x) {
+      int64_t s = 0;
+      for (int v = 0; v < m; ++v) s += kInt.k[v][y] * r[v][x];
+      put(x, y, roundShift31(s));
+    }
+}
+
+template <int m>
+LumStatus inv16s(const Lum16s* src, Lum16s* dst) {
+  if (anyNull(src, dst)) return lumStatusNullPtrErr;
+  Lum16s out[64];
+  intInv<m>(src, [&](int x, int y, Lum16s v) { out[y * 8 + x] = v; });
+  std::memcpy(dst, out, sizeof out);
+  return lumStatusOk;
+}
+
+LumStatus fwd16s(const Lum16s* src, int srcStep, Lum16s* dst) {
+  if (anyNull(src, dst)) return lumStatusNullPtrErr;
+  if (badStep(srcStep)) return lumStatusStepErr;
+  Lum16s out[64];
+  intFwd([&](int x, int y) { return rowAt(src, srcStep, y)[x]; }, out);
+  std::memcpy(dst, out, sizeof out);
+  return lumStatusOk;
+}
+
+LumStatus inv16sR(const Lum16s* src, Lum16s* dst, int dstStep) {
+  if (anyNull(src, dst)) return lumStatusNullPtrErr;
+  if (badStep(dstStep)) return lumStatusStepErr;
+  Lum16s in[64];
+  std::memcpy(in, src, sizeof in);
+  intInv<8>(in, [&](int x, int y, Lum16s v) { rowAt(dst, dstStep, y)[x] = v; });
+  return lumStatusOk;
+}
+
+// 8-bit pixels plus addVal (16-bit wrapping), then the forward transform.
+LumStatus fwd8u(const Lum8u* src, int srcStep, Lum16s* dst, Lum16s addVal) {
+  if (anyNull(src, dst)) return lumStatusNullPtrErr;
+  if (badStep(srcStep)) return lumStatusStepErr;
+  Lum16s in[64];
+  for (int y = 0; y < 8; ++y)
+    for (int x = 0; x < 8; ++x)
+      in[y * 8 + x] = static_cast<Lum16s>(static_cast<uint16_t>(rowAt(src, srcStep, y)[x] + addVal));
+  intFwd([&](int x, int y) { return in[y * 8 + x]; }, dst);
+  return lumStatusOk;
+}
+
+// The inverse, plus addVal (16-bit wrapping), clamped to [lo, hi] (a value below lo becomes
+// lo, then one above hi becomes hi).
+LumStatus inv8u(const Lum16s* src, Lum8u* dst, int dstStep, Lum16s addVal, int lo, int hi) {
+  if (anyNull(src, dst)) return lumStatusNullPtrErr;
+  if (badStep(dstStep)) return lumStatusStepErr;
+  Lum16s in[64];
+  std::memcpy(in, src, sizeof in);
+  intInv<8>(in, [&](int x, int y, Lum16s v) {
+    int s = static_cast<Lum16s>(static_cast<uint16_t>(v + addVal));
+    s = s < lo ? lo : s;
+    s = s > hi ? hi : s;
+    rowAt(dst, dstStep, y)[x] = static_cast<Lum8u>(s);
+  });
+  return lumStatusOk;
+}
+
+// ---- zigzag -------------------------------------------------------------------------------
+constexpr uint8_t kScan[64] = {0,  1,  8,  16, 9,  2,  3,  10, 17, 24, 32, 25, 18, 11, 4,  5,
+                               12, 19, 26, 33, 40, 48, 41, 34, 27, 20, 13, 6,  7,  14, 21, 28,
+                               35, 42, 49, 56, 57, 50, 43, 36, 29, 22, 15, 23, 30, 37, 44, 51,
+                               58, 59, 52, 45, 38, 31, 39, 46, 53, 60, 61, 54, 47, 55, 62, 63};
+template <bool kFwd>
+LumStatus zigzag(const Lum16s* src, Lum16s* dst) {
+  if (anyNull(src, dst)) return lumStatusNullPtrErr;
+  Lum16s out[64];
+  for (int i = 0; i < 64; ++i) {
+    if (kFwd)
+      out[i] = src[kScan[i]];
+    else
+      out[kScan[i]] = src[i];
+  }
+  std::memcpy(dst, out, sizeof out);
+  return lumStatusOk;
+}
+
+template <bool kFwd>
+LumStatus block32f(const float* src, float* dst) {
+  if (anyNull(src, dst)) return lumStatusNullPtrErr;
+  (kFwd ? pickBlockFwd() : pickBlockInv())(src, dst);
+  return lumStatusOk;
+}
+
+}  // namespace
+
+BlockFn pickBlockFwd() {
+  LUMI_SIMD_TABLE(BlockFn, table, blockFwd);
+  return pick(table, &blockFwdScalar);
+}
+BlockFn pickBlockInv() {
+  LUMI_SIMD_TABLE(BlockFn, table, blockInv);
+  return pick(table, &blockInvScalar);
+}
+
+}  // namespace dct
+}  // namespace lumi
+
+#define LUMI_DCT8_32F(NAME, FWD) \
+  LUMI_API LumStatus NAME(const Lum32f* s, Lum32f* d) { return lumi::dct::block32f<FWD>(s, d); }
+#define LUMI_DCT8_32F_I(NAME, FWD) \
+  LUMI_API LumStatus NAME(Lum32f* sd) { return lumi::dct::block32f<FWD>(sd, sd); }
+#define LUMI_DCT8_16S_FWD(NAME) \
+  LUMI_API LumStatus NAME(const Lum16s* s, Lum16s* d) { return lumi::dct::fwd16s(s, 16, d); }
+#define LUMI_DCT8_16S_FWD_I(NAME) \
+  LUMI_API LumStatus NAME(Lum16s* sd) { return lumi::dct::fwd16s(sd, 16, sd); }
+#define LUMI_DCT8_16S_FWD_R(NAME)                         \
+  LUMI_API LumStatus NAME(const Lum16s* s, int ss, Lum16s* d) { \
+    return lumi::dct::fwd16s(s, ss, d);                   \
+  }
+#define LUMI_DCT8_16S_INV(NAME, M) \
+  LUMI_API LumStatus NAME(const Lum16s* s, Lum16s* d) { return lumi::dct::inv16s<M>(s, d); }
+#define LUMI_DCT8_16S_INV_I(NAME, M) \
+  LUMI_API LumStatus NAME(Lum16s* sd) { return lumi::dct::inv16s<M>(sd, sd); }
+#define LUMI_DCT8_16S_INV_R(NAME)                         \
+  LUMI_API LumStatus NAME(const Lum16s* s, Lum16s* d, int ds) { \
+    return lumi::dct::inv16sR(s, d, ds);                  \
+  }
+#define LUMI_DCT8_8U_FWD(NAME)                                   \
+  LUMI_API LumStatus NAME(const Lum8u* s, int ss, Lum16s* d) {   \
+    return lumi::dct::fwd8u(s, ss, d, 0);                        \
+  }
+#define LUMI_DCT8_8U_FWD_LS(NAME)                                          \
+  LUMI_API LumStatus NAME(const Lum8u* s, int ss, Lum16s* d, Lum16s add) { \
+    return lumi::dct::fwd8u(s, ss, d, add);                                \
+  }
+#define LUMI_DCT8_8U_INV(NAME)                                 \
+  LUMI_API LumStatus NAME(const Lum16s* s, Lum8u* d, int ds) { \
+    return lumi::dct::inv8u(s, d, ds, 0, 0, 255);              \
+  }
+#define LUMI_DCT8_8U_INV_LS(NAME)                                                        \
+  LUMI_API LumStatus NAME(const Lum16s* s, Lum8u* d, int ds, Lum16s add, Lum8u lo,      \
+                          Lum8u hi) {                                                  \
+    return lumi::dct::inv8u(s, d, ds, add, lo, hi);                                      \
+  }
+#define LUMI_ZIGZAG(NAME, FWD) \
+  LUMI_API LumStatus NAME(const Lum16s* s, Lum16s* d) { return lumi::dct::zigzag<FWD>(s, d); }
+
+LUMI_DCT8_32F(lumiDCT8x8Fwd_32f_C1, true)
+LUMI_DCT8_32F(lumiDCT8x8Inv_32f_C1, false)
+LUMI_DCT8_32F_I(lumiDCT8x8Fwd_32f_C1I, true)
+LUMI_DCT8_32F_I(lumiDCT8x8Inv_32f_C1I, false)
+LUMI_DCT8_16S_FWD(lumiDCT8x8Fwd_16s_C1)
+LUMI_DCT8_16S_FWD_I(lumiDCT8x8Fwd_16s_C1I)
+LUMI_DCT8_16S_FWD_R(lumiDCT8x8Fwd_16s_C1R)
+LUMI_DCT8_16S_INV(lumiDCT8x8Inv_16s_C1, 8)
+LUMI_DCT8_16S_INV_I(lumiDCT8x8Inv_16s_C1I, 8)
+LUMI_DCT8_16S_INV_R(lumiDCT8x8Inv_16s_C1R)
+LUMI_DCT8_16S_INV(lumiDCT8x8Inv_2x2_16s_C1, 2)
+LUMI_DCT8_16S_INV_I(lumiDCT8x8Inv_2x2_16s_C1I, 2)
+LUMI_DCT8_16S_INV(lumiDCT8x8Inv_4x4_16s_C1, 4)
+LUMI_DCT8_16S_INV_I(lumiDCT8x8Inv_4x4_16s_C1I, 4)
+LUMI_DCT8_8U_FWD(lumiDCT8x8Fwd_8u16s_C1R)
+LUMI_DCT8_8U_FWD_LS(lumiDCT8x8FwdLS_8u16s_C1R)
+LUMI_DCT8_8U_INV(lumiDCT8x8Inv_16s8u_C1R)
+LUMI_DCT8_8U_INV_LS(lumiDCT8x8InvLSClip_16s8u_C1R)
+LUMI_ZIGZAG(lumiZigzagFwd8x8_16s_C1, true)
+LUMI_ZIGZAG(lumiZigzagInv8x8_16s_C1, false)
+#endif  // HWY_ONCE
