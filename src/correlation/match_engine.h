@@ -104,9 +104,13 @@ struct Store32f {
 // 8u results: v x 2^-sf, ties to even whatever the caller's rounding mode, saturated; NaN
 // (only from NaN or infinite input) gives 0.
 struct Store8uSfs {
+  explicit Store8uSfs(int scaleFactor)
+      : sf(ScaleFactor::resolve(scaleFactor, 8, 9)), normal(sf.normalFactor()), factor(sf.factor()) {}
   ScaleFactor sf;
+  bool normal;    // 2^-sf is a normal double: multiplying by it is exact
+  double factor;
   void operator()(Lum8u* p, float v) const {
-    double s = sf.scale(static_cast<double>(v));
+    const double s = normal ? static_cast<double>(v) * factor : sf.scale(static_cast<double>(v));
     if (!(s > 0.0)) {
       *p = 0;
       return;
@@ -453,5 +457,5 @@ LumStatus run(const S* src, int srcStep, LumiSize srcRoi, const S* tpl, int tplS
     return ::lumi::match::run<Lum8u, Lum8u, ::lumi::L, ::lumi::match::Range::RANGE,            \
                               ::lumi::match::Measure::MEASURE>(                                \
         pSrc, srcStep, srcRoiSize, pTpl, tplStep, tplRoiSize, pDst, dstStep,                   \
-        ::lumi::match::Store8uSfs{::lumi::ScaleFactor::resolve(scaleFactor, 8, 9)});           \
+        ::lumi::match::Store8uSfs(scaleFactor));                                               \
   }
