@@ -1,7 +1,8 @@
 // Vector kernels of the 1-D FFT engines, included once per SIMD target by fft.cpp (hence the
 // toggle guard). Complex values stay interleaved (re, im) in the vectors; a complex product
 // by a twiddle is a * (wr, wr) + swap(a) * (-wi, wi), both halves read from the pass table.
-// At most eight floats (four complex points) per vector on every target.
+// Passes of large stride use the widest vectors of the target, the others at most eight
+// floats (four complex points).
 #if defined(LUMI_SIGNAL_FFT_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef LUMI_SIGNAL_FFT_INL_H_
 #undef LUMI_SIGNAL_FFT_INL_H_
@@ -22,66 +23,94 @@ LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
 namespace fftv {
 
+// Narrow vectors hold at most four complex points (eight floats), wide ones all the target has
+// (eight points on AVX-512); a pass takes the widest its stride fills.
 using DF = hn::CappedTag<float, 8>;
+using DW = hn::ScalableTag<float>;
 using DD = hn::Repartition<double, DF>;  // one complex point per lane
 using V = hn::Vec<DF>;
 using signal::FftPass;
 using signal::passPoints;
 
+template <class D>
 struct Signs {
-  V odd, even;  // -0.0 in the imaginary (odd) or real (even) lanes
-  explicit Signs(DF d)
+  hn::Vec<D> odd, even;  // -0.0 in the imaginary (odd) or real (even) lanes
+  explicit Signs(D d)
       : odd(hn::OddEven(hn::Set(d, -0.0f), hn::Zero(d))),
         even(hn::OddEven(hn::Zero(d), hn::Set(d, -0.0f))) {}
 };
 
-HWY_INLINE V load(DF d, const Lum32fc* p) { return hn::LoadU(d, reinterpret_cast<const float*>(p)); }
-HWY_INLINE void store(DF d, V v, Lum32fc* p) { hn::StoreU(v, d, reinterpret_cast<float*>(p)); }
+template <class D>
+HWY_INLINE hn::Vec<D> load(D d, const Lum32fc* p) {
+  return hn::LoadU(d, reinterpret_cast<const float*>(p));
+}
+template <class D>
+HWY_INLINE void store(D d, hn::Vec<D> v, Lum32fc* p) {
+  hn::StoreU(v, d, reinterpret_cast<float*>(p));
+}
 
 // The pair of floats at t repeated over the vector.
-HWY_INLINE V broadcastPair(DF d, const float* t) {
+template <class D>
+HWY_INLINE hn::Vec<D> broadcastPair(D d, const float* t) {
   double pair;
   std::memcpy(&pair, t, sizeof(pair));
-  return hn::BitCast(d, hn::Set(DD(), pair));
+  return hn::BitCast(d, hn::Set(hn::Repartition<double, D>(), pair));
 }
 
 // a w (forward) or a conj(w) (inverse), with wr = (wr, wr), wi = (-wi, wi).
-template <bool kInv>
-HWY_INLINE V mulTw(DF d, V a, V wr, V wi) {
-  const V cross = hn::Mul(hn::Reverse2(d, a), wi);
-  return kInv ? hn::Sub(hn::Mul(a, wr), cross) : hn::Add(hn::Mul(a, wr), cross);
+template <bool kInv, class D, class VD = hn::Vec<D>>
+HWY_INLINE VD mulTw(D d, VD a, VD wr, VD wi) {
+  const VD cross = hn::Mul(hn::Reverse2(d, a), wi);
+  return kInv ? hn::MulSub(a, wr, cross) : hn::MulAdd(a, wr, cross);
 }
 
 // The radix-R butterfly on vectors of points, the same sums as the scalar butterfly.
-template <int R, bool kInv>
-HWY_INLINE void butterflyV(DF d, const Signs& sg, const V* a, V* b) {
-  auto rot = [&](V v) { return hn::Xor(hn::Reverse2(d, v), kInv ? sg.even : sg.odd); };
+template <int R, bool kInv, class D, class VD = hn::Vec<D>>
+HWY_INLINE void butterflyV(D d, const Signs<D>& sg, const VD* a, VD* b) {
+  auto rot = [&](VD v) { return hn::Xor(hn::Reverse2(d, v), kInv ? sg.even : sg.odd); };
   if constexpr (R == 2) {
     b[0] = hn::Add(a[0], a[1]);
     b[1] = hn::Sub(a[0], a[1]);
   } else if constexpr (R == 3) {
-    const V t = hn::Add(a[1], a[2]);
-    const V u = hn::Add(a[0], hn::Mul(t, hn::Set(d, -0.5f)));
-    const V v = rot(hn::Mul(hn::Sub(a[1], a[2]), hn::Set(d, 0.86602540378443865f)));
+    const VD t = hn::Add(a[1], a[2]);
+    const VD u = hn::MulAdd(t, hn::Set(d, -0.5f), a[0]);
+    const VD v = rot(hn::Mul(hn::Sub(a[1], a[2]), hn::Set(d, 0.86602540378443865f)));
     b[0] = hn::Add(a[0], t);
     b[1] = hn::Add(u, v);
     b[2] = hn::Sub(u, v);
   } else if constexpr (R == 4) {
-    const V t0 = hn::Add(a[0], a[2]), t1 = hn::Sub(a[0], a[2]);
-    const V t2 = hn::Add(a[1], a[3]), t3 = rot(hn::Sub(a[1], a[3]));
+    const VD t0 = hn::Add(a[0], a[2]), t1 = hn::Sub(a[0], a[2]);
+    const VD t2 = hn::Add(a[1], a[3]), t3 = rot(hn::Sub(a[1], a[3]));
     b[0] = hn::Add(t0, t2);
     b[2] = hn::Sub(t0, t2);
     b[1] = hn::Add(t1, t3);
     b[3] = hn::Sub(t1, t3);
+  } else if constexpr (R == 8) {
+    const VD h = hn::Set(d, 0.70710678118654752f);
+    VD t[4], u[4], e[4], o[4];
+    LUMI_FFT_UNROLL
+    for (int j = 0; j < 4; ++j) t[j] = hn::Add(a[j], a[j + 4]);
+    u[0] = hn::Sub(a[0], a[4]);
+    const VD d1 = hn::Sub(a[1], a[5]), d3 = hn::Sub(a[3], a[7]);
+    u[1] = hn::Mul(hn::Add(d1, rot(d1)), h);
+    u[2] = rot(hn::Sub(a[2], a[6]));
+    u[3] = hn::Mul(hn::Sub(rot(d3), d3), h);
+    butterflyV<4, kInv>(d, sg, t, e);
+    butterflyV<4, kInv>(d, sg, u, o);
+    LUMI_FFT_UNROLL
+    for (int k = 0; k < 4; ++k) {
+      b[2 * k] = e[k];
+      b[2 * k + 1] = o[k];
+    }
   } else {
-    const V c1 = hn::Set(d, 0.30901699437494742f), c2 = hn::Set(d, -0.80901699437494742f);
-    const V s1 = hn::Set(d, 0.95105651629515357f), s2 = hn::Set(d, 0.58778525229247313f);
-    const V b1 = hn::Add(a[1], a[4]), b2 = hn::Add(a[2], a[3]);
-    const V d1 = hn::Sub(a[1], a[4]), d2 = hn::Sub(a[2], a[3]);
-    const V t1 = hn::Add(a[0], hn::Add(hn::Mul(b1, c1), hn::Mul(b2, c2)));
-    const V t2 = hn::Add(a[0], hn::Add(hn::Mul(b1, c2), hn::Mul(b2, c1)));
-    const V u1 = rot(hn::Add(hn::Mul(d1, s1), hn::Mul(d2, s2)));
-    const V u2 = rot(hn::Sub(hn::Mul(d1, s2), hn::Mul(d2, s1)));
+    const VD c1 = hn::Set(d, 0.30901699437494742f), c2 = hn::Set(d, -0.80901699437494742f);
+    const VD s1 = hn::Set(d, 0.95105651629515357f), s2 = hn::Set(d, 0.58778525229247313f);
+    const VD b1 = hn::Add(a[1], a[4]), b2 = hn::Add(a[2], a[3]);
+    const VD d1 = hn::Sub(a[1], a[4]), d2 = hn::Sub(a[2], a[3]);
+    const VD t1 = hn::MulAdd(b2, c2, hn::MulAdd(b1, c1, a[0]));
+    const VD t2 = hn::MulAdd(b2, c1, hn::MulAdd(b1, c2, a[0]));
+    const VD u1 = rot(hn::MulAdd(d2, s2, hn::Mul(d1, s1)));
+    const VD u2 = rot(hn::NegMulAdd(d2, s1, hn::Mul(d1, s2)));
     b[0] = hn::Add(a[0], hn::Add(b1, b2));
     b[1] = hn::Add(t1, u1);
     b[4] = hn::Sub(t1, u1);
@@ -91,31 +120,37 @@ HWY_INLINE void butterflyV(DF d, const Signs& sg, const V* a, V* b) {
 }
 
 // A pass whose stride s is at least one vector of points: vectors run along q, the twiddles
-// of group p are broadcast.
-template <int R, bool kInv>
-void passStrided(const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc* HWY_RESTRICT y,
+// of group p are broadcast (group 0 has none).
+template <int R, bool kInv, class D>
+void passStrided(D d, const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc* HWY_RESTRICT y,
                  std::ptrdiff_t s) {
-  const DF d;
-  const Signs sg(d);
+  using VD = hn::Vec<D>;
+  const Signs<D> sg(d);
   const std::ptrdiff_t L = static_cast<std::ptrdiff_t>(hn::Lanes(d) / 2), m = ps.m;
-  const std::ptrdiff_t qv = s - s % L;
-  V a[R], b[R], wr[R], wi[R];
-  for (std::ptrdiff_t p = 0; p < m; ++p) {
-    const float* t = ps.tw + 4 * p * (R - 1);
+  const std::ptrdiff_t qv = s - s % L, sm = s * m;
+  VD a[R], b[R];
+  for (std::ptrdiff_t q = 0; q < qv; q += L) {
     LUMI_FFT_UNROLL
-    for (int k = 1; k < R; ++k) {
-      wr[k] = broadcastPair(d, t + 4 * (k - 1));
-      wi[k] = broadcastPair(d, t + 4 * (k - 1) + 2);
-    }
+    for (int j = 0; j < R; ++j) a[j] = load(d, x + q + sm * j);
+    butterflyV<R, kInv>(d, sg, a, b);
+    LUMI_FFT_UNROLL
+    for (int k = 0; k < R; ++k) store(d, b[k], y + q + s * k);
+  }
+  for (std::ptrdiff_t p = 1; p < m; ++p) {
+    const float* t = ps.tw + 4 * p * (R - 1);
     const Lum32fc* xp = x + s * p;
     Lum32fc* yp = y + s * R * p;
     for (std::ptrdiff_t q = 0; q < qv; q += L) {
       LUMI_FFT_UNROLL
-      for (int j = 0; j < R; ++j) a[j] = load(d, xp + q + s * m * j);
+      for (int j = 0; j < R; ++j) a[j] = load(d, xp + q + sm * j);
       butterflyV<R, kInv>(d, sg, a, b);
       store(d, b[0], yp + q);
       LUMI_FFT_UNROLL
-      for (int k = 1; k < R; ++k) store(d, mulTw<kInv>(d, b[k], wr[k], wi[k]), yp + q + s * k);
+      for (int k = 1; k < R; ++k) {
+        const float* tk = t + 4 * (k - 1);
+        store(d, mulTw<kInv>(d, b[k], broadcastPair(d, tk), broadcastPair(d, tk + 2)),
+              yp + q + s * k);
+      }
     }
   }
   if (qv < s) passPoints<R>(ps, x, y, s, kInv, 0, m, qv, s);
@@ -123,14 +158,14 @@ void passStrided(const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc* HWY_
 
 // The first pass of a single vector (stride 1): vectors run along p with per-lane twiddles,
 // and the R results of each point are interleaved on the way out.
-template <int R, bool kInv>
-void passFirst(const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc* HWY_RESTRICT y) {
-  const DF d;
-  const DD dd;
-  const Signs sg(d);
+template <int R, bool kInv, class D>
+void passFirst(D d, const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc* HWY_RESTRICT y) {
+  using VD = hn::Vec<D>;
+  const hn::Repartition<double, D> dd;
+  const Signs<D> sg(d);
   const std::ptrdiff_t L = static_cast<std::ptrdiff_t>(hn::Lanes(d) / 2), m = ps.m;
   const std::ptrdiff_t pv = m - m % L;
-  V a[R], b[R];
+  VD a[R], b[R];
   for (std::ptrdiff_t p = 0; p < pv; p += L) {
     LUMI_FFT_UNROLL
     for (int j = 0; j < R; ++j) a[j] = load(d, x + p + m * j);
@@ -150,11 +185,9 @@ void passFirst(const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc* HWY_RE
       hn::StoreInterleaved4(hn::BitCast(dd, b[0]), hn::BitCast(dd, b[1]), hn::BitCast(dd, b[2]),
                             hn::BitCast(dd, b[3]), dd, out);
     } else {
-      HWY_ALIGN Lum32fc tmp[R][8];
-      LUMI_FFT_UNROLL
+      HWY_ALIGN Lum32fc tmp[R][16];
       for (int k = 0; k < R; ++k) store(d, b[k], tmp[k]);
       for (std::ptrdiff_t i = 0; i < L; ++i)
-        LUMI_FFT_UNROLL
         for (int k = 0; k < R; ++k) y[R * (p + i) + k] = tmp[k][i];
     }
   }
@@ -164,9 +197,11 @@ void passFirst(const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc* HWY_RE
 template <int R, bool kInv>
 void passOf(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count) {
   const std::ptrdiff_t s = static_cast<std::ptrdiff_t>(ps.s) * count;
-  const std::ptrdiff_t L = static_cast<std::ptrdiff_t>(hn::Lanes(DF()) / 2);
-  if (s >= L) passStrided<R, kInv>(ps, x, y, s);
-  else if (s == 1 && ps.twr) passFirst<R, kInv>(ps, x, y);
+  const std::ptrdiff_t wide = static_cast<std::ptrdiff_t>(hn::Lanes(DW()) / 2);
+  const std::ptrdiff_t narrow = static_cast<std::ptrdiff_t>(hn::Lanes(DF()) / 2);
+  if (s % wide == 0) passStrided<R, kInv>(DW(), ps, x, y, s);
+  else if (s >= narrow) passStrided<R, kInv>(DF(), ps, x, y, s);
+  else if (s == 1 && ps.twr) passFirst<R, kInv>(DF(), ps, x, y);
   else passPoints<R>(ps, x, y, s, kInv, 0, ps.m, 0, s);
 }
 
@@ -176,6 +211,7 @@ void passDir(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count) {
     case 2: passOf<2, kInv>(ps, x, y, count); break;
     case 3: passOf<3, kInv>(ps, x, y, count); break;
     case 4: passOf<4, kInv>(ps, x, y, count); break;
+    case 8: passOf<8, kInv>(ps, x, y, count); break;
     default: passOf<5, kInv>(ps, x, y, count); break;
   }
 }
@@ -204,7 +240,7 @@ inline void fftTwistForward(const Lum32fc* z, float* packed, const float* tw, in
                             int hi) {
   using namespace fftv;
   const DF d;
-  const Signs sg(d);
+  const Signs<DF> sg(d);
   const int L = static_cast<int>(hn::Lanes(d) / 2);
   const V half = hn::Set(d, 0.5f);
   const float* zf = reinterpret_cast<const float*>(z);
@@ -228,7 +264,7 @@ inline void fftTwistInverse(const float* packed, Lum32fc* z, const float* tw, in
                             int hi) {
   using namespace fftv;
   const DF d;
-  const Signs sg(d);
+  const Signs<DF> sg(d);
   const int L = static_cast<int>(hn::Lanes(d) / 2);
   float* zf = reinterpret_cast<float*>(z);
   int k = lo;

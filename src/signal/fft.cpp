@@ -1,4 +1,4 @@
-// 1-D FFT engines: plans (factorisation into passes of radix 4, 2, 3 and 5, twiddle tables,
+// 1-D FFT engines: plans (factorisation into passes of radix 8, 4, 2, 3 and 5, twiddle tables,
 // the chirp route for other lengths), the complex driver and the real transform through the
 // half-length complex one.
 #undef HWY_TARGET_INCLUDE
@@ -37,11 +37,18 @@ inline void unitRoot(long long num, long long den, double* c, double* s) {
   *s = -std::sin(a);
 }
 
-// The radices of n taken from {4, 2, 3, 5} (fours first), or false for another prime factor.
+// The radices of n: the power of two as one 4 (or a 2), then 8s and a last 4 or 2 (fewest
+// passes, and a first pass whose results interleave in fours), then 3s and 5s; false when
+// another prime factor is left.
 bool factorise(int n, int* radix, int* count) {
-  int k = 0;
-  while (n % 4 == 0) radix[k++] = 4, n /= 4;
-  while (n % 2 == 0) radix[k++] = 2, n /= 2;
+  int k = 0, e = 0;
+  while (n % 2 == 0) ++e, n /= 2;
+  if (e == 1) radix[k++] = 2;
+  if (e >= 2) {
+    radix[k++] = 4;
+    for (e -= 2; e >= 3; e -= 3) radix[k++] = 8;
+    if (e) radix[k++] = e == 2 ? 4 : 2;
+  }
   while (n % 3 == 0) radix[k++] = 3, n /= 3;
   while (n % 5 == 0) radix[k++] = 5, n /= 5;
   *count = k;

@@ -1,7 +1,7 @@
 // The plan of the 1-D FFT engines and the plain scalar passes every vector kernel is held to.
 //
-// A complex transform of n = r0 r1 ... points runs as a Stockham sequence of passes, each from
-// one buffer to the other (no bit reversal). Pass i of radix r sees sub-transforms of
+// A complex transform of n = r0 r1 ... points (radices 2, 3, 4, 5, 8) runs as a Stockham
+// sequence of passes, each from one buffer to the other (no bit reversal). Pass i of radix r sees sub-transforms of
 // n_i = n / (r0 ... r(i-1)) points, m = n_i / r of them per group, at stride s = n / n_i:
 //   y[q + s (r p + k)] = w_(n_i)^(p k) sum_j x[q + s (p + j m)] w_r^(j k),  p < m, q < s, k < r,
 // with w_N = e^(-2 pi i / N) forward and its conjugate inverse. `count` side-by-side vectors
@@ -76,8 +76,24 @@ inline void butterfly(const Lum32fc* a, Lum32fc* b, bool inverse) {
     b[2] = sub(t0, t2);
     b[1] = add(t1, t3);
     b[3] = sub(t1, t3);
+  } else if constexpr (R == 8) {
+    // Two radix-4 butterflies on the sums and on the differences turned by w_8^j.
+    const float h = 0.70710678118654752f;  // 1 / sqrt 2
+    Lum32fc t[4], u[4], e[4], o[4];
+    for (int j = 0; j < 4; ++j) t[j] = add(a[j], a[j + 4]);
+    u[0] = sub(a[0], a[4]);
+    const Lum32fc d1 = sub(a[1], a[5]), d3 = sub(a[3], a[7]);
+    u[1] = scale(add(d1, rot(d1)), h);  // w_8 = (1 - i) / sqrt 2 forward
+    u[2] = rot(sub(a[2], a[6]));        // w_8^2 = -i
+    u[3] = scale(sub(rot(d3), d3), h);  // w_8^3 = (-1 - i) / sqrt 2
+    butterfly<4>(t, e, inverse);
+    butterfly<4>(u, o, inverse);
+    for (int k = 0; k < 4; ++k) {
+      b[2 * k] = e[k];
+      b[2 * k + 1] = o[k];
+    }
   } else {
-    static_assert(R == 5, "radix 2, 3, 4 or 5");
+    static_assert(R == 5, "radix 2, 3, 4, 5 or 8");
     const float c1 = 0.30901699437494742f, c2 = -0.80901699437494742f;  // cos 2pi/5, cos 4pi/5
     const float s1 = 0.95105651629515357f, s2 = 0.58778525229247313f;   // sin 2pi/5, sin 4pi/5
     const Lum32fc b1 = add(a[1], a[4]), b2 = add(a[2], a[3]);
@@ -122,6 +138,7 @@ inline void fftPassScalar(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int c
     case 2: passPoints<2>(ps, x, y, s, inverse, 0, m, 0, s); break;
     case 3: passPoints<3>(ps, x, y, s, inverse, 0, m, 0, s); break;
     case 4: passPoints<4>(ps, x, y, s, inverse, 0, m, 0, s); break;
+    case 8: passPoints<8>(ps, x, y, s, inverse, 0, m, 0, s); break;
     default: passPoints<5>(ps, x, y, s, inverse, 0, m, 0, s); break;
   }
 }
