@@ -22,20 +22,28 @@ LumStatus forwardAxis(int w, double f, int dstN, int mode, double shift, Axis* a
 void shiftAxis(int w, double fr, int dstN, int mode, double shift, Axis* a);
 
 // Row kernels, vector or plain (see resize_kernels.h for what each computes).
-using LinH8Fn = void (*)(const Lum8u*, const int32_t*, const int16_t*, int, int, int16_t*);
+using LinH8Fn = void (*)(const Lum8u*, const int32_t*, const int16_t*, int, int, int, int16_t*);
 using LinV8Fn = void (*)(const int16_t*, const int16_t*, int, int, Lum8u*, bool);
-using LinHfFn = void (*)(const float*, const int32_t*, const float*, int, int, float*);
+using LinHfFn = void (*)(const float*, const int32_t*, const float*, int, int, int, float*);
 using LinVfFn = void (*)(const float*, const float*, float, float, int, float*, bool);
 template <class T>
-using CubHFn = void (*)(const T*, const int32_t*, const float*, int, int, float*);
+using CubHFn = void (*)(const T*, const int32_t*, const float*, int, int, int, float*);
 template <class T>
 using CubVFn = void (*)(const float* const*, const float*, int, T*, bool);
-LinH8Fn pickLinH8(int pitch);
+// The horizontal choosers also give the bytes their vector kernel reads from a tap on (span,
+// 0 when it reads no further than the taps) for safePrefix.
+LinH8Fn pickLinH8(int pitch, int* span);
 LinV8Fn pickLinV8();
 LinHfFn pickLinHf(int pitch);
 LinVfFn pickLinVf();
 template <class T>
-CubHFn<T> pickCubH(int pitch);
+CubHFn<T> pickCubH(int pitch, int* span);
+template <>
+CubHFn<Lum8u> pickCubH<Lum8u>(int pitch, int* span);
+template <>
+CubHFn<Lum16u> pickCubH<Lum16u>(int pitch, int* span);
+template <>
+CubHFn<Lum32f> pickCubH<Lum32f>(int pitch, int* span);
 template <class T>
 CubVFn<T> pickCubV();
 
@@ -91,6 +99,8 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
   constexpr int kCh = L::kCh;
   constexpr bool kAlpha = L::kUse != L::kCh;
   const int n = static_cast<int>(elemsOf(ax.count, kCh));
+  const std::ptrdiff_t limit = elemsOf(ax.extent - ax.origin, kCh);
+  int span = 0;
   auto srow = [&](int r) { return rowAt(src, sstep, r); };
   switch (mode) {
     case kNearest:
@@ -98,12 +108,13 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
       break;
     case kLinear:
       if constexpr (std::is_same_v<T, Lum8u>) {
-        const LinH8Fn hf = pickLinH8(kCh);
+        const LinH8Fn hf = pickLinH8(kCh, &span);
         const LinV8Fn vf = pickLinV8();
+        const int safe = safePrefix(tx.off, n, span, limit);
         RowRing<int16_t, 2> ring(scratch, slotBytes);
         for (int j = y0; j < y1; ++j) {
           const int b = ty.off[j];
-          auto fill = [&](int r, int16_t* h) { hf(srow(r), tx.off, tx.wq, n, kCh, h); };
+          auto fill = [&](int r, int16_t* h) { hf(srow(r), tx.off, tx.wq, n, kCh, safe, h); };
           const int16_t* h0 = ring.get(b, fill);
           const int16_t* h1 = ring.get(b + 1, fill);
           vf(h0, h1, ty.wq[2 * j + 1], n, rowAt(dst, dstep, j), kAlpha);
@@ -123,7 +134,7 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
         RowRing<float, 2> ring(scratch, slotBytes);
         for (int j = y0; j < y1; ++j) {
           const int b = ty.off[j];
-          auto fill = [&](int r, float* h) { hf(srow(r), tx.off, tx.wf, n, kCh, h); };
+          auto fill = [&](int r, float* h) { hf(srow(r), tx.off, tx.wf, n, kCh, n, h); };
           const float* h0 = ring.get(b, fill);
           const float* h1 = ring.get(b + 1, fill);
           vf(h0, h1, ty.wf[2 * j], ty.wf[2 * j + 1], n, rowAt(dst, dstep, j), kAlpha);
@@ -131,12 +142,13 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
       }
       break;
     case kCubic: {
-      const CubHFn<T> hf = pickCubH<T>(kCh);
+      const CubHFn<T> hf = pickCubH<T>(kCh, &span);
       const CubVFn<T> vf = pickCubV<T>();
+      const int safe = safePrefix(tx.off, n, span, limit);
       RowRing<float, 4> ring(scratch, slotBytes);
       for (int j = y0; j < y1; ++j) {
         const int b = ty.off[j];
-        auto fill = [&](int r, float* h) { hf(srow(r), tx.off, tx.wf, n, kCh, h); };
+        auto fill = [&](int r, float* h) { hf(srow(r), tx.off, tx.wf, n, kCh, safe, h); };
         const float* rows[4];
         for (int k = 0; k < 4; ++k) rows[k] = ring.get(b + k, fill);
         vf(rows, ty.wf + 3 * j, n, rowAt(dst, dstep, j), kAlpha);

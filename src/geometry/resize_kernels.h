@@ -229,6 +229,15 @@ inline void buildTaps(const Axis& a, int mode, int ch, Lum8u* mem, Taps* t) {
   }
 }
 
+// The first element whose vector read [off, off + span) would pass `limit` (elements from the ROI
+// origin to the end of the image row), or n.
+inline int safePrefix(const int32_t* off, int n, int span, std::ptrdiff_t limit) {
+  if (span == 0) return n;
+  for (int e = 0; e < n; ++e)
+    if (off[e] + span > limit) return e;
+  return n;
+}
+
 // ---- rounding of the float modes ----------------------------------------------------------------
 // trunc(v + 0.5000001) saturated to T; the clamp comes first, so huge values convert safely.
 template <class T>
@@ -246,11 +255,12 @@ inline T roundStore(float v) {
 
 // ---- plain row kernels ----------------------------------------------------------------------
 // n elements per row; pitch = elements between horizontally neighbouring pixels; keepAlpha skips
-// every fourth element on the store (AC4).
+// every fourth element on the store (AC4). `safe`: the vector kernels of 8u rows read a few
+// bytes past a tap; elements from `safe` on are done one by one (see safePrefix).
 
 // Linear 8u along a row: h = (p0 (16384 - w) + p1 w) >> 8.
 inline void linH8Scalar(const Lum8u* s, const int32_t* off, const int16_t* wq, int n, int pitch,
-                        int16_t* h) {
+                        int /*safe*/, int16_t* h) {
   for (int e = 0; e < n; ++e) {
     const Lum8u* p = s + off[e];
     h[e] = static_cast<int16_t>((p[0] * wq[2 * e] + p[pitch] * wq[2 * e + 1]) >> 8);
@@ -284,7 +294,7 @@ inline void linV16Scalar(const uint32_t* h0, const uint32_t* h1, int wy, int n, 
 }
 // Linear 32f: h = p0 (1 - f) + p1 f, then h0 (1 - fy) + h1 fy.
 inline void linHfScalar(const float* s, const int32_t* off, const float* wf, int n, int pitch,
-                        float* h) {
+                        int /*safe*/, float* h) {
   for (int e = 0; e < n; ++e) {
     const float* p = s + off[e];
     h[e] = p[0] * wf[2 * e] + p[pitch] * wf[2 * e + 1];
@@ -300,7 +310,8 @@ inline void linVfScalar(const float* h0, const float* h1, float w0, float w1, in
 
 // Cubic along a row into floats (Newton form, coefficients per element).
 template <class T>
-inline void cubHScalar(const T* s, const int32_t* off, const float* k, int n, int pitch, float* r) {
+inline void cubHScalar(const T* s, const int32_t* off, const float* k, int n, int pitch,
+                       int /*safe*/, float* r) {
   for (int e = 0; e < n; ++e) {
     const T* p = s + off[e];
     const geometry::CubicCoeffs<float> c{k[3 * e], k[3 * e + 1], k[3 * e + 2]};
