@@ -67,7 +67,7 @@ double tolerance(int W, int H, double rms, double scale) {
   return kTol * std::sqrt(n) * rms * std::log2(2 * n) * scale + 1e-30;
 }
 
-const LumiSize kSizes[] = {{1, 1}, {2, 2}, {1, 7}, {6, 1}, {5, 4}, {4, 5}, {6, 6}, {13, 11}, {2, 9}, {16, 8}, {30, 17}, {64, 64}};
+const LumiSize kSizes[] = {{1, 1}, {2, 2}, {1, 7}, {6, 1}, {5, 4}, {4, 5}, {6, 6}, {13, 11}, {2, 9}, {16, 8}, {30, 17}, {35, 6}, {64, 64}};
 const LumiSize kSmall[] = {{1, 1}, {2, 2}, {1, 7}, {6, 1}, {5, 4}, {4, 5}, {6, 6}, {13, 11}, {2, 9}, {16, 8}};
 const LumiSize kPow2[] = {{1, 1}, {2, 2}, {1, 8}, {4, 1}, {8, 4}, {2, 16}, {32, 64}, {64, 16}};
 

@@ -31,72 +31,84 @@ inline void scaleRow(float* p, int n, float k) {
     for (int i = 0; i < n; ++i) p[i] *= k;
 }
 
-// Column x of every row into col (ch: elements per pixel).
-void gatherColumn(const float* src, int step, int ch, int H, int x, float* col) {
-  const std::ptrdiff_t off = elemsOf(x, ch);
-  for (int r = 0; r < H; ++r) col[r] = rowAt(src, step, r)[off];
-}
-void scatterColumn(const float* col, float* dst, int step, int ch, int H, int x, float k) {
-  const std::ptrdiff_t off = elemsOf(x, ch);
-  for (int r = 0; r < H; ++r) rowAt(dst, step, r)[off] = col[r] * k;
-}
+constexpr int kAhead = 8;  // rows prefetched ahead: column sweeps stride by whole rows
 
-// `count` complex columns from column x0 (Re at x0 + 2c, Im at x0 + 2c + 1 for c < count) of
-// every row, side by side: element r of column c at cols[r * count + c].
-void gatherPairs(const float* src, int step, int ch, int H, int x0, int count, Lum32fc* cols) {
-  const std::ptrdiff_t off = elemsOf(x0, ch);
+// One sweep over the rows of a column group: `count` complex columns from column x0 (Re at
+// x0 + 2c, Im at x0 + 2c + 1) into cols, side by side (element r of column c at
+// cols[r * count + c]), and the real columns the group carries (col0: column 0, colLast:
+// column W-1, when not null) into their own vectors.
+struct Group {
+  int x0, count;
+  float* col0;
+  float* colLast;
+  int xLast;
+};
+
+void gather(const float* src, int step, int ch, int H, const Group& g, Lum32fc* cols) {
+  const std::ptrdiff_t off = elemsOf(g.x0, ch), offLast = elemsOf(g.xLast, ch);
   for (int r = 0; r < H; ++r) {
-    const float* p = rowAt(src, step, r) + off;
-    Lum32fc* o = cols + static_cast<std::ptrdiff_t>(r) * count;
-    if (ch == 1) {
-      std::memcpy(o, p, sizeof(Lum32fc) * count);
+    const float* row = rowAt(src, step, r);
+    __builtin_prefetch(rowAt(src, step, r + kAhead) + off);
+    const float* p = row + off;
+    Lum32fc* o = cols + static_cast<std::ptrdiff_t>(r) * g.count;
+    if (ch == 1 && g.count == kGroup) {
+      float* of = reinterpret_cast<float*>(o);
+      for (int i = 0; i < 2 * kGroup; ++i) of[i] = p[i];
     } else {
-      for (int c = 0; c < count; ++c) o[c] = Lum32fc{p[2 * c * ch], p[(2 * c + 1) * ch]};
+      for (int c = 0; c < g.count; ++c) o[c] = Lum32fc{p[2 * c * ch], p[(2 * c + 1) * ch]};
     }
+    if (g.col0) g.col0[r] = row[0];
+    if (g.colLast) g.colLast[r] = row[offLast];
   }
 }
-void scatterPairs(const Lum32fc* cols, float* dst, int step, int ch, int H, int x0, int count,
-                  float k) {
-  const std::ptrdiff_t off = elemsOf(x0, ch);
+void scatter(const Lum32fc* cols, float* dst, int step, int ch, int H, const Group& g, float k) {
+  const std::ptrdiff_t off = elemsOf(g.x0, ch), offLast = elemsOf(g.xLast, ch);
   for (int r = 0; r < H; ++r) {
-    float* p = rowAt(dst, step, r) + off;
-    const Lum32fc* in = cols + static_cast<std::ptrdiff_t>(r) * count;
-    if (ch == 1 && k == 1.0f) {
-      std::memcpy(p, in, sizeof(Lum32fc) * count);
+    float* row = rowAt(dst, step, r);
+    __builtin_prefetch(rowAt(dst, step, r + kAhead) + off, 1);
+    float* p = row + off;
+    const Lum32fc* in = cols + static_cast<std::ptrdiff_t>(r) * g.count;
+    if (ch == 1 && g.count == kGroup) {
+      const float* f = reinterpret_cast<const float*>(in);
+      for (int i = 0; i < 2 * kGroup; ++i) p[i] = f[i] * k;
     } else {
-      for (int c = 0; c < count; ++c) {
+      for (int c = 0; c < g.count; ++c) {
         p[2 * c * ch] = in[c].re * k;
         p[(2 * c + 1) * ch] = in[c].im * k;
       }
     }
+    if (g.col0) row[0] = g.col0[r] * k;
+    if (g.colLast) row[offLast] = g.colLast[r] * k;
   }
 }
 
-// The column pass of the packed layout: from src (read only) into dst, scaled by k.
+// The column pass of the packed layout: from src (read only) into dst, scaled by k. Column 0
+// rides along with the first group, column W-1 (even W) with the last.
 void packedColumns(const Record& R, const float* src, int srcStep, int sch, float* dst,
                    int dstStep, int dch, bool inv, float k, const Scratch& s) {
   const int W = R.width, H = R.height;
-  float* col = reinterpret_cast<float*>(s.cols);
   const signal::RealFft& real = R.colsReal();
-  auto realColumn = [&](int x) {
-    gatherColumn(src, srcStep, sch, H, x, col);
-    if (inv)
-      real.inverse(col, col, s.work);
-    else
-      real.forward(col, col, s.work);
-    scatterColumn(col, dst, dstStep, dch, H, x, k);
-  };
-  realColumn(0);
-  if (W % 2 == 0) realColumn(W - 1);
   const int pairs = (W - 1) / 2;
-  for (int j = 0; j < pairs; j += kGroup) {
-    const int n = std::min(kGroup, pairs - j);
-    gatherPairs(src, srcStep, sch, H, 2 * j + 1, n, s.cols);
-    if (inv)
-      R.colC->inverseBatch(s.cols, n, s.work);
-    else
-      R.colC->forwardBatch(s.cols, n, s.work);
-    scatterPairs(s.cols, dst, dstStep, dch, H, 2 * j + 1, n, k);
+  const int groups = pairs > 0 ? (pairs + kGroup - 1) / kGroup : 1;
+  for (int gi = 0; gi < groups; ++gi) {
+    const int j = gi * kGroup;
+    Group g{2 * j + 1, std::min(kGroup, pairs - j), gi == 0 ? s.real : nullptr,
+            gi == groups - 1 && W % 2 == 0 ? s.real + H : nullptr, W - 1};
+    gather(src, srcStep, sch, H, g, s.cols);
+    for (float* col : {g.col0, g.colLast}) {
+      if (!col) continue;
+      if (inv)
+        real.inverse(col, col, s.work);
+      else
+        real.forward(col, col, s.work);
+    }
+    if (g.count > 0) {
+      if (inv)
+        R.colC->inverseBatch(s.cols, g.count, s.work);
+      else
+        R.colC->forwardBatch(s.cols, g.count, s.work);
+    }
+    scatter(s.cols, dst, dstStep, dch, H, g, k);
   }
 }
 
@@ -171,12 +183,13 @@ void transformComplex(const Record& R, const Lum32fc* src, int srcStep, Lum32fc*
   float* d = reinterpret_cast<float*>(dst);
   for (int j = 0; j < W; j += kGroup) {
     const int n = std::min(kGroup, W - j);
-    gatherPairs(d, dstStep, 1, H, 2 * j, n, s.cols);
+    const Group g{2 * j, n, nullptr, nullptr, 0};
+    gather(d, dstStep, 1, H, g, s.cols);
     if (inv)
       R.colC->inverseBatch(s.cols, n, s.work);
     else
       R.colC->forwardBatch(s.cols, n, s.work);
-    scatterPairs(s.cols, d, dstStep, 1, H, 2 * j, n, k);
+    scatter(s.cols, d, dstStep, 1, H, g, k);
   }
 }
 
@@ -200,7 +213,7 @@ LumStatus createRecord(Record** out, int tag, int width, int height, int sizeX, 
   const bool real = tag != kTagFftC && tag != kTagDftC;
   const bool plane = tag == kTagFftR32s || tag == kTagDftR32s;
   const std::size_t W = static_cast<std::size_t>(width), H = static_cast<std::size_t>(height);
-  const std::size_t colsBytes = round64(H * kGroup * sizeof(Lum32fc));
+  const std::size_t colsBytes = round64(H * kGroup * sizeof(Lum32fc)) + round64(2 * H * sizeof(float));
   const std::size_t rowBytes = real ? round64(W * sizeof(float)) : 0;
   const std::size_t planeBytes = plane ? round64(W * H * sizeof(float)) : 0;
   const std::size_t limit = 0x7fffffff;
@@ -240,6 +253,7 @@ LumStatus createRecord(Record** out, int tag, int width, int height, int sizeX, 
   if (r->rowC) work = std::max(work, r->rowC->workBytes());
   if (r->rowR) work = std::max(work, r->rowR->workBytes());
   if (r->colR) work = std::max(work, r->colR->workBytes());
+  r->realOff = round64(H * kGroup * sizeof(Lum32fc));
   r->rowOff = colsBytes;
   r->planeOff = colsBytes + rowBytes;
   r->workOff = colsBytes + rowBytes + planeBytes;

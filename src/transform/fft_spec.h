@@ -26,11 +26,12 @@ enum Tag : int32_t {
   kTagDftR32s = 30,  // real DFT of the integer members
 };
 
-constexpr int kGroup = 8;  // complex columns per batch (one 64-byte line of a C1 row)
+constexpr int kGroup = 16;  // complex columns per batch (two 64-byte lines of a C1 row)
 
 // The work buffer, carved from one block at 64-byte boundaries.
 struct Scratch {
-  Lum32fc* cols;  // kGroup complex columns side by side (H x kGroup), or two real columns
+  Lum32fc* cols;  // kGroup complex columns side by side (H x kGroup)
+  float* real;    // columns 0 and W-1 of the packed layout (2 x H)
   float* row;     // one row of one channel (W floats)
   float* plane;   // integer members: one channel of the image in float (W x H)
   void* work;     // the engines' work area
@@ -48,7 +49,7 @@ struct Record {
   signal::ComplexFft* rowC;  // rows of the complex record (null when rows and columns match)
   signal::RealFft* rowR;     // rows of the real records
   signal::RealFft* colR;     // columns 0 and W-1 of the real records (null when they match)
-  std::size_t rowOff, planeOff, workOff;  // offsets in the aligned work buffer
+  std::size_t realOff, rowOff, planeOff, workOff;  // offsets in the aligned work buffer
 
   const signal::ComplexFft& rowsComplex() const { return rowC ? *rowC : *colC; }
   const signal::RealFft& colsReal() const { return colR ? *colR : *rowR; }
@@ -57,7 +58,8 @@ struct Record {
     auto base = reinterpret_cast<std::uintptr_t>(buffer);
     base = (base + 63) & ~static_cast<std::uintptr_t>(63);
     Lum8u* b = reinterpret_cast<Lum8u*>(base);
-    return Scratch{reinterpret_cast<Lum32fc*>(b), reinterpret_cast<float*>(b + rowOff),
+    return Scratch{reinterpret_cast<Lum32fc*>(b), reinterpret_cast<float*>(b + realOff),
+                   reinterpret_cast<float*>(b + rowOff),
                    reinterpret_cast<float*>(b + planeOff), b + workOff};
   }
   // The normalisation of the forward and the inverse transform.
