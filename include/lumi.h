@@ -21,5 +21,13 @@
 #include "lumi/filter_rank.h"
 #include "lumi/morphology.h"
 #include "lumi/filter_wiener.h"
+#include "lumi/correlation.h"
+#include "lumi/resize.h"
+#include "lumi/warp_query.h"
+#include "lumi/warp.h"
+#include "lumi/remap.h"
+#include "lumi/fft.h"
+#include "lumi/dct.h"
+#include "lumi/wavelet.h"
 
 #endif
