@@ -170,17 +170,27 @@ LumStatus dctImpl(const float* src, int srcStep, float* dst, int dstStep, const 
   const bool fork = !s->is8x8 && static_cast<long long>(s->width) * s->height >= kForkArea &&
                     regionThreads() > 1;
   if (fork) {  // every thread its own buffer: the caller's serves one thread only
-    const std::size_t bytes = static_cast<std::size_t>(s->bufSize);
-    for (int c = 0; c < L::kUse; ++c) {
-      LumStatus st = forRowsWithScratch(s->height, true, bytes, [&](int y0, int y1, Lum8u* b) {
-        rowPass<kFwd, L>(*s, src, srcStep, dst, dstStep, c, y0, y1, align16(b));
-      });
-      if (st == lumStatusOk)
-        st = forRowsWithScratch(groups, true, bytes, [&](int g0, int g1, Lum8u* b) {
-          colPass<kFwd, L>(*s, dst, dstStep, c, g0, g1, align16(b));
-        });
-      if (st != lumStatusOk) return st;
+    const int n = std::min(regionThreads(), s->height);
+    const std::size_t slice = (static_cast<std::size_t>(s->bufSize) + 63) & ~std::size_t{63};
+    if (slice * n > 0x7fffffffu) return lumStatusMemAllocErr;
+    Lum8u* all = lumsMalloc_8u(static_cast<int>(slice * n));
+    if (!all) return lumStatusMemAllocErr;
+    // one region: rows in bands, a barrier, then column groups in bands
+#pragma omp parallel num_threads(n)
+    {
+      const int t = omp_get_thread_num(), nt = omp_get_num_threads();
+      float* work = align16(all + slice * t);
+      int a0, a1, g0, g1;
+      rowBand(s->height, t, nt, &a0, &a1);
+      rowBand(groups, t, nt, &g0, &g1);
+      for (int c = 0; c < L::kUse; ++c) {
+        rowPass<kFwd, L>(*s, src, srcStep, dst, dstStep, c, a0, a1, work);
+#pragma omp barrier
+        colPass<kFwd, L>(*s, dst, dstStep, c, g0, g1, work);
+#pragma omp barrier
+      }
     }
+    lumsFree(all);
     return lumStatusOk;
   }
   Lum8u* own = nullptr;

@@ -3,15 +3,17 @@
 //
 // Float blocks: the scaled butterflies of dct8x8_aan-inl.h down the columns, then along the
 // rows, then one multiplication per coefficient by the factor table (the inverse multiplies
-// first). The vector kernel runs one column per lane and transposes between the passes; it does
-// the same multiplications and additions in the same order as the plain kernel (no fused
-// multiply-adds), so both give the same floats bit for bit.
+// first). The vector kernel keeps the block in sixteen four-lane registers, one column per lane,
+// and transposes between the passes; it does the same multiplications and additions in the
+// same order as the plain kernel (no fused multiply-adds), so both give the same floats bit for
+// bit.
 //
 // 16-bit blocks: separable sums with the cosine constants quantised to 14 fraction bits,
 // K(u, x) = round(16384 sqrt(2) C(u) cos((2x + 1) u pi / 16)), that is +-16384, 22725, 21407,
 // 19266, 12873, 8867 and 4520; F(u, v) = (sum_y K(v, y) sum_x K(u, x) f(x, y)) / 2^31 (the
-// 2-D factor 1/8 and the constants' 2^28), held exactly in 64 bits between the passes and
-// rounded once, ties up, then saturated to 16 bits. The inverse is the transpose; the reduced
+// 2-D factor 1/8 and the constants' 2^28), held exactly in 64 bits between the passes (the
+// even/odd symmetries of K save most products) and rounded once, ties up, then saturated to 16
+// bits. The inverse is the transpose; the reduced
 // inverses sum only the top-left 2x2 or 4x4 coefficients.
 #include <cstring>
 
@@ -28,59 +30,79 @@ LUMI_SIMD_BEGIN
 
 #include "transform/dct8x8_aan-inl.h"
 
-// Columns of up to eight lanes; 8 / N column groups.
-using DB = hn::CappedTag<float, 8>;
+// Four-lane vectors: a block is 16 of them, rows split into columns 0-3 and 4-7.
+using D4 = hn::FixedTag<float, 4>;
+using V4 = hn::Vec<D4>;
 
-HWY_INLINE void transpose8(const float* HWY_RESTRICT in, float* HWY_RESTRICT out) {
-  for (int r = 0; r < 8; ++r)
-    for (int c = 0; c < 8; ++c) out[c * 8 + r] = in[r * 8 + c];
+HWY_INLINE void transpose4(V4& a, V4& b, V4& c, V4& e) {
+  const D4 d;
+  const V4 t0 = hn::InterleaveLower(d, a, b), t1 = hn::InterleaveLower(d, c, e);
+  const V4 t2 = hn::InterleaveUpper(d, a, b), t3 = hn::InterleaveUpper(d, c, e);
+  a = hn::ConcatLowerLower(d, t1, t0);
+  b = hn::ConcatUpperUpper(d, t1, t0);
+  c = hn::ConcatLowerLower(d, t3, t2);
+  e = hn::ConcatUpperUpper(d, t3, t2);
 }
 
-// The butterflies down every column of in (row order) into out.
-template <bool kFwd>
-HWY_INLINE void columnPass(const float* HWY_RESTRICT in, float* HWY_RESTRICT out) {
-  const DB d;
-  using V = hn::Vec<DB>;
-  constexpr size_t N = hn::MaxLanes(d);
-  for (size_t g = 0; g < 8; g += N) {
-    V v[8];
-    for (int r = 0; r < 8; ++r) v[r] = hn::LoadU(d, in + r * 8 + g);
-    if constexpr (kFwd)
-      aanFwd8<V>(v, hn::Set(d, dct::kC4), hn::Set(d, dct::kS8), hn::Set(d, dct::kK0541),
-                 hn::Set(d, dct::kK1306));
-    else
-      aanInv8<V>(v, hn::Set(d, dct::kR2), hn::Set(d, dct::kK1847), hn::Set(d, dct::kK1082),
-                 hn::Set(d, dct::kK2613));
-    for (int r = 0; r < 8; ++r) hn::StoreU(v[r], d, out + r * 8 + g);
+// lo[r], hi[r]: columns 0-3 and 4-7 of row r. Afterwards lo[c], hi[c] hold rows 0-3 and 4-7 of
+// column c, i.e. the transposed block in the same form.
+HWY_INLINE void transpose8(V4* lo, V4* hi) {
+  transpose4(lo[0], lo[1], lo[2], lo[3]);
+  transpose4(lo[4], lo[5], lo[6], lo[7]);
+  transpose4(hi[0], hi[1], hi[2], hi[3]);
+  transpose4(hi[4], hi[5], hi[6], hi[7]);
+  for (int i = 0; i < 4; ++i) {  // the off-diagonal 4x4 blocks change places
+    const V4 t = hi[i];
+    hi[i] = lo[4 + i];
+    lo[4 + i] = t;
   }
 }
 
-// out[i] = a[i] * b[i] over 64 floats.
-HWY_INLINE void mul64(const float* HWY_RESTRICT a, const float* HWY_RESTRICT b,
-                      float* HWY_RESTRICT out) {
-  const DB d;
-  constexpr size_t N = hn::MaxLanes(d);
-  for (size_t i = 0; i < 64; i += N)
-    hn::StoreU(hn::Mul(hn::LoadU(d, a + i), hn::LoadU(d, b + i)), d, out + i);
+template <bool kFwd>
+HWY_INLINE void butterflies(V4* v) {
+  const D4 d;
+  if constexpr (kFwd)
+    aanFwd8<V4>(v, hn::Set(d, dct::kC4), hn::Set(d, dct::kS8), hn::Set(d, dct::kK0541),
+                hn::Set(d, dct::kK1306));
+  else
+    aanInv8<V4>(v, hn::Set(d, dct::kR2), hn::Set(d, dct::kK1847), hn::Set(d, dct::kK1082),
+                hn::Set(d, dct::kK2613));
 }
 
-void blockFwd(const float* src, float* dst) {
-  HWY_ALIGN float t[64], u[64];
-  columnPass<true>(src, t);
-  transpose8(t, u);
-  columnPass<true>(u, t);  // the row pass, transposed
-  mul64(t, dct::kScale.fwd, u);  // the table is symmetric
-  transpose8(u, dst);
+// Columns, then rows (as the columns of the transposed block); the forward transform scales
+// after, the inverse before (the factor table is symmetric).
+template <bool kFwd>
+HWY_INLINE void block(const float* src, float* dst) {  // src == dst allowed
+  const D4 d;
+  const float* sc = kFwd ? dct::kScale.fwd : dct::kScale.inv;
+  V4 lo[8], hi[8];
+  for (int r = 0; r < 8; ++r) {
+    lo[r] = hn::LoadU(d, src + 8 * r);
+    hi[r] = hn::LoadU(d, src + 8 * r + 4);
+    if constexpr (!kFwd) {
+      lo[r] = hn::Mul(lo[r], hn::LoadU(d, sc + 8 * r));
+      hi[r] = hn::Mul(hi[r], hn::LoadU(d, sc + 8 * r + 4));
+    }
+  }
+  butterflies<kFwd>(lo);
+  butterflies<kFwd>(hi);
+  transpose8(lo, hi);
+  butterflies<kFwd>(lo);
+  butterflies<kFwd>(hi);
+  if constexpr (kFwd)
+    for (int c = 0; c < 8; ++c) {
+      lo[c] = hn::Mul(lo[c], hn::LoadU(d, sc + 8 * c));
+      hi[c] = hn::Mul(hi[c], hn::LoadU(d, sc + 8 * c + 4));
+    }
+  transpose8(lo, hi);
+  for (int r = 0; r < 8; ++r) {
+    hn::StoreU(lo[r], d, dst + 8 * r);
+    hn::StoreU(hi[r], d, dst + 8 * r + 4);
+  }
 }
 
-void blockInv(const float* src, float* dst) {
-  HWY_ALIGN float t[64], u[64];
-  mul64(src, dct::kScale.inv, t);
-  columnPass<false>(t, u);
-  transpose8(u, t);
-  columnPass<false>(t, u);
-  transpose8(u, dst);
-}
+void blockFwd(const float* src, float* dst) { block<true>(src, dst); }
+void blockInv(const float* src, float* dst) { block<false>(src, dst); }
 
 #endif
 LUMI_SIMD_END
@@ -150,40 +172,60 @@ inline Lum16s roundShift31(int64_t s) {
   return saturate<Lum16s>((s + (int64_t{1} << 30)) >> 31);
 }
 
-// Forward: row sums then column sums, one rounding; in[y * 8 + x] read through get(x, y).
+// y(u) = sum_x K(u, x) x(x), through the symmetries of K: K(u, 7 - x) = (-1)^u K(u, x), and for
+// even u the same again within the first half. Exact in 64 bits, so equal to the plain sums.
+inline void sums8(const int64_t* x, int64_t* y) {
+  const auto& k = kInt.k;
+  int64_t s[4], d[4];
+  for (int i = 0; i < 4; ++i) s[i] = x[i] + x[7 - i], d[i] = x[i] - x[7 - i];
+  const int64_t ee0 = s[0] + s[3], ee1 = s[1] + s[2], eo0 = s[0] - s[3], eo1 = s[1] - s[2];
+  y[0] = k[0][0] * ee0 + k[0][1] * ee1;
+  y[4] = k[4][0] * ee0 + k[4][1] * ee1;
+  y[2] = k[2][0] * eo0 + k[2][1] * eo1;
+  y[6] = k[6][0] * eo0 + k[6][1] * eo1;
+  for (int u = 1; u < 8; u += 2) y[u] = k[u][0] * d[0] + k[u][1] * d[1] + k[u][2] * d[2] + k[u][3] * d[3];
+}
+// The transpose: x(n) = sum_u K(u, n) y(u).
+inline void sumsT8(const int64_t* y, int64_t* x) {
+  const auto& k = kInt.k;
+  const int64_t a0 = k[0][0] * y[0] + k[4][0] * y[4], a1 = k[0][1] * y[0] + k[4][1] * y[4];
+  const int64_t b0 = k[2][0] * y[2] + k[6][0] * y[6], b1 = k[2][1] * y[2] + k[6][1] * y[6];
+  const int64_t e[4] = {a0 + b0, a1 + b1, a1 - b1, a0 - b0};
+  for (int n = 0; n < 4; ++n) {
+    const int64_t o = k[1][n] * y[1] + k[3][n] * y[3] + k[5][n] * y[5] + k[7][n] * y[7];
+    x[n] = e[n] + o;
+    x[7 - n] = e[n] - o;
+  }
+}
+
+// Forward: row sums then column sums, one rounding; in(x, y) read through get(x, y).
 template <class Get>
 void intFwd(Get get, Lum16s* out) {
-  int64_t r[8][8];  // r[y][u]
-  for (int y = 0; y < 8; ++y)
-    for (int u = 0; u < 8; ++u) {
-      int64_t s = 0;
-      for (int x = 0; x < 8; ++x) s += int64_t{kInt.k[u][x]} * get(x, y);
-      r[y][u] = s;
-    }
-  for (int v = 0; v < 8; ++v)
-    for (int u = 0; u < 8; ++u) {
-      int64_t s = 0;
-      for (int y = 0; y < 8; ++y) s += kInt.k[v][y] * r[y][u];
-      out[v * 8 + u] = roundShift31(s);
-    }
+  int64_t r[8][8], c[8], t[8];  // r[u][y]: row sums, transposed
+  for (int y = 0; y < 8; ++y) {
+    for (int x = 0; x < 8; ++x) c[x] = get(x, y);
+    sums8(c, t);
+    for (int u = 0; u < 8; ++u) r[u][y] = t[u];
+  }
+  for (int u = 0; u < 8; ++u) {
+    sums8(r[u], t);
+    for (int v = 0; v < 8; ++v) out[v * 8 + u] = roundShift31(t[v]);
+  }
 }
 
 // Inverse from the top-left m x m coefficients (m = 8, 4 or 2); put(x, y, value).
 template <int m, class Put>
 void intInv(const Lum16s* in, Put put) {
-  int64_t r[8][8];  // r[v][x]
-  for (int v = 0; v < m; ++v)
-    for (int x = 0; x < 8; ++x) {
-      int64_t s = 0;
-      for (int u = 0; u < m; ++u) s += int64_t{kInt.k[u][x]} * in[v * 8 + u];
-      r[v][x] = s;
-    }
-  for (int y = 0; y < 8; ++y)
-    for (int x = 0; x < 8; ++x) {
-      int64_t s = 0;
-      for (int v = 0; v < m; ++v) s += kInt.k[v][y] * r[v][x];
-      put(x, y, roundShift31(s));
-    }
+  int64_t r[8][8] = {}, c[8] = {}, t[8];  // r[x][v]: row sums, transposed
+  for (int v = 0; v < m; ++v) {
+    for (int u = 0; u < m; ++u) c[u] = in[v * 8 + u];
+    sumsT8(c, t);
+    for (int x = 0; x < 8; ++x) r[x][v] = t[x];
+  }
+  for (int x = 0; x < 8; ++x) {
+    sumsT8(r[x], t);
+    for (int y = 0; y < 8; ++y) put(x, y, roundShift31(t[y]));
+  }
 }
 
 template <int m>
