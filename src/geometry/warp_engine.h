@@ -359,33 +359,42 @@ inline void cubicPixel(const Source<T>& s, double x, double y, T* d) {
   }
 }
 
-// A span of n destination pixels from the positions X, Y.
-template <class T, class L, int kMode>
-void sampleSpan(const Source<T>& s, T* d, int n, const double* X, const double* Y) {
-  for (int k = 0; k < n; ++k, d += L::kCh) {
-    if constexpr (kMode == kNearest) nearestPixel<T, L::kCh, L::kUse>(s, X[k], Y[k], d);
-    if constexpr (kMode == kLinear) linearPixel<T, L::kCh, L::kUse>(s, X[k], Y[k], d);
-    if constexpr (kMode == kCubic) cubicPixel<T, L::kCh, L::kUse>(s, X[k], Y[k], d);
-  }
-}
-
-// The affine linear span with its positions computed inline (x0 + k dx, y0 + k dy): the plain
-// twin of the vector kernels, which compute the same positions in the same order.
-template <class T, int kCh, int kUse>
-void affineLinearSpanScalar(const T* src, int srcStep, int w, int h, T* d, int n, double x0,
-                            double y0, double dx, double dy) {
-  const Source<T> s{src, srcStep, w, h};
-  for (int k = 0; k < n; ++k, d += kCh) {
-    const double kk = k;
-    linearPixel<T, kCh, kUse>(s, x0 + kk * dx, y0 + kk * dy, d);
-  }
-}
+// One span of n destination pixels: positions either x0 + k dx, y0 + k dy (affine maps, the
+// kernel computes them) or read from X, Y (every other map fills them first).
 template <class T>
-using AffineSpanFn = void (*)(const T* src, int srcStep, int w, int h, T* d, int n, double x0,
-                              double y0, double dx, double dy);
-// The vector affine linear span for T and layout L, or the plain twin (warp_kernels.cpp).
+struct SpanArgs {
+  const T* src;
+  int step, w, h;  // the whole source image
+  double x0, y0, dx, dy;
+  const double* X;
+  const double* Y;
+};
+template <class T>
+using SpanFn = void (*)(const SpanArgs<T>& a, T* d, int n);
+
+// The plain twin of the vector span kernels (warp_kernels.cpp): the same positions in the same
+// order, the pixel functions above.
+template <class T, int kCh, int kUse, int kMode, bool kArrays>
+void spanScalar(const SpanArgs<T>& a, T* d, int n) {
+  const Source<T> s{a.src, a.step, a.w, a.h};
+  for (int k = 0; k < n; ++k, d += kCh) {
+    double x, y;
+    if constexpr (kArrays) {
+      x = a.X[k];
+      y = a.Y[k];
+    } else {
+      const double kk = k;
+      x = a.x0 + kk * a.dx;
+      y = a.y0 + kk * a.dy;
+    }
+    if constexpr (kMode == kNearest) nearestPixel<T, kCh, kUse>(s, x, y, d);
+    if constexpr (kMode == kLinear) linearPixel<T, kCh, kUse>(s, x, y, d);
+    if constexpr (kMode == kCubic) cubicPixel<T, kCh, kUse>(s, x, y, d);
+  }
+}
+// The span kernel for T, layout L, the mode and the position source (warp_kernels.cpp).
 template <class T, class L>
-AffineSpanFn<T> pickAffineLinearSpan();
+SpanFn<T> pickSpan(int mode, bool arrays);
 
 // ---- edge blending -------------------------------------------------------------------------
 // A pixel whose source position lies d < 0.5 inside the source ROI keeps (0.5 + d) of the
@@ -428,37 +437,29 @@ LumStatus walk(const Planes<T>& im, const Frame& f, const LumiRect& roi, int mod
   const bool parallel = forkByWork(LumiSize{width, rows}, taps * im.n, kForkWork);
   const std::size_t posBytes = sizeof(double) * 2 * static_cast<std::size_t>(width);
   const std::size_t oldBytes = smooth ? static_cast<std::size_t>(bytesOf(width, L::kCh, sizeof(T))) : 0;
-  AffineSpanFn<T> fast = nullptr;
-  if constexpr (Map::kAffine) {
-    if (mode == kLinear) fast = pickAffineLinearSpan<T, L>();
-  }
+  const SpanFn<T> fn = pickSpan<T, L>(mode, !Map::kAffine);
   return forRowsWithScratch(rows, parallel, posBytes + oldBytes, [&](int b0, int b1, Lum8u* scratch) {
     double* X = reinterpret_cast<double*>(scratch);
     double* Y = X + width;
     T* old = reinterpret_cast<T*>(scratch + posBytes);
+    SpanArgs<T> a{nullptr, f.srcStep, f.srcSize.width, f.srcSize.height, 0, 0, 0, 0, X, Y};
     for (int r = b0; r < b1; ++r) {
       const int y = ry0 + r;
       int xs, xe;
       if (!spanAt(poly, y, f.dstRoi, &xs, &xe)) continue;
       const int n = xe - xs + 1;
-      if (!fast || smooth) map.span(y, xs, n, X, Y);
+      if (!Map::kAffine || smooth) map.span(y, xs, n, X, Y);
+      if constexpr (Map::kAffine) {
+        a.x0 = map.a[0][0] * xs + map.a[0][1] * y + map.a[0][2];
+        a.y0 = map.a[1][0] * xs + map.a[1][1] * y + map.a[1][2];
+        a.dx = map.a[0][0];
+        a.dy = map.a[1][0];
+      }
       for (int p = 0; p < im.n; ++p) {
-        const Source<T> s{im.src[p], f.srcStep, f.srcSize.width, f.srcSize.height};
+        a.src = im.src[p];
         T* d = rowAt(im.dst[p], f.dstStep, y) + elemsOf(xs, L::kCh);
         if (smooth) std::memcpy(old, d, static_cast<std::size_t>(bytesOf(n, L::kCh, sizeof(T))));
-        if (fast) {
-          if constexpr (Map::kAffine) {
-            const double sx = map.a[0][0] * xs + map.a[0][1] * y + map.a[0][2];
-            const double sy = map.a[1][0] * xs + map.a[1][1] * y + map.a[1][2];
-            fast(s.p, s.step, s.w, s.h, d, n, sx, sy, map.a[0][0], map.a[1][0]);
-          }
-        } else if (mode == kNearest) {
-          sampleSpan<T, L, kNearest>(s, d, n, X, Y);
-        } else if (mode == kLinear) {
-          sampleSpan<T, L, kLinear>(s, d, n, X, Y);
-        } else {
-          sampleSpan<T, L, kCubic>(s, d, n, X, Y);
-        }
+        fn(a, d, n);
         if (smooth) blendSpan<T, L::kCh, L::kUse>(d, old, n, X, Y, roi);
       }
     }
