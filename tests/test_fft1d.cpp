@@ -15,9 +15,11 @@ using lumi::signal::ComplexFft;
 using lumi::signal::RealFft;
 using cd = std::complex<double>;
 
-// Every radix as a first pass (2: 30, 3: 75, 4, 5: 125) and later, strides that leave a part of a
-// vector (75), prime lengths (7, 17, 97: the chirp route), 1000 and 600 as the 2-D DFTs see them.
-const int kLengths[] = {1, 2, 3, 5, 7, 8, 12, 16, 17, 30, 64, 75, 97, 125, 128, 600, 1000, 1024, 4096};
+// Every radix as a first pass (2: 30, 3: 75, 4, 5: 125, 7: 49) and later (8: 128, 1024),
+// strides that leave a part of a vector (49, 75), prime lengths above 7 (17, 97: the chirp
+// route), 1000 and 600 as the 2-D DFTs see them.
+const int kLengths[] = {1,  2,  3,  5,   7,   8,   12,  16,  17,   30,  49,
+                        56, 64, 75, 97, 125, 128, 600, 1000, 1024, 4096};
 
 // Direct DFT, sign -1 forward, +1 inverse, unscaled.
 std::vector<cd> dft(const std::vector<cd>& x, int sign) {

@@ -102,6 +102,30 @@ HWY_INLINE void butterflyV(D d, const Signs<D>& sg, const VD* a, VD* b) {
       b[2 * k] = e[k];
       b[2 * k + 1] = o[k];
     }
+  } else if constexpr (R == 7) {
+    const float C[4] = {1.0f, 0.62348980185873353f, -0.22252093395631440f, -0.90096886790241913f};
+    const float S[4] = {0.0f, 0.78183148246802981f, 0.97492791218182361f, 0.43388373911755812f};
+    VD sp[4], df[4];
+    b[0] = a[0];
+    LUMI_FFT_UNROLL
+    for (int j = 1; j <= 3; ++j) {
+      sp[j] = hn::Add(a[j], a[7 - j]);
+      df[j] = hn::Sub(a[j], a[7 - j]);
+      b[0] = hn::Add(b[0], sp[j]);
+    }
+    LUMI_FFT_UNROLL
+    for (int k = 1; k <= 3; ++k) {
+      VD t = a[0], u = hn::Zero(d);
+      LUMI_FFT_UNROLL
+      for (int j = 1; j <= 3; ++j) {
+        const int m = j * k % 7;
+        t = hn::MulAdd(sp[j], hn::Set(d, m <= 3 ? C[m] : C[7 - m]), t);
+        u = hn::MulAdd(df[j], hn::Set(d, m <= 3 ? S[m] : -S[7 - m]), u);
+      }
+      u = rot(u);
+      b[k] = hn::Add(t, u);
+      b[7 - k] = hn::Sub(t, u);
+    }
   } else {
     const VD c1 = hn::Set(d, 0.30901699437494742f), c2 = hn::Set(d, -0.80901699437494742f);
     const VD s1 = hn::Set(d, 0.95105651629515357f), s2 = hn::Set(d, 0.58778525229247313f);
@@ -211,6 +235,7 @@ void passDir(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count) {
     case 2: passOf<2, kInv>(ps, x, y, count); break;
     case 3: passOf<3, kInv>(ps, x, y, count); break;
     case 4: passOf<4, kInv>(ps, x, y, count); break;
+    case 7: passOf<7, kInv>(ps, x, y, count); break;
     case 8: passOf<8, kInv>(ps, x, y, count); break;
     default: passOf<5, kInv>(ps, x, y, count); break;
   }

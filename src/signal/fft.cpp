@@ -1,4 +1,4 @@
-// 1-D FFT engines: plans (factorisation into passes of radix 8, 4, 2, 3 and 5, twiddle tables,
+// 1-D FFT engines: plans (factorisation into passes of radix 8, 4, 2, 3, 5 and 7, twiddle tables,
 // the chirp route for other lengths), the complex driver and the real transform through the
 // half-length complex one.
 #undef HWY_TARGET_INCLUDE
@@ -37,7 +37,7 @@ inline void unitRoot(long long num, long long den, double* c, double* s) {
   *s = -std::sin(a);
 }
 
-// The radices of n: the power of two 2^e as 4s and 8s, then 3s and 5s; false when another
+// The radices of n: the power of two 2^e as 4s and 8s, then 3s, 5s and 7s; false when another
 // prime factor is left. Two passes of radix 4 come first (the first one's results interleave
 // in fours, and 16 points fill the widest vectors), then 8s, a last 4 or 2 for what is left:
 // 2^9 as 4 4 8 4, 2^10 as 4 4 8 8, 2^12 as 4 4 8 8 4 (these beat all-8 and all-4 orders).
@@ -55,6 +55,7 @@ bool factorise(int n, int* radix, int* count) {
   }
   while (n % 3 == 0) radix[k++] = 3, n /= 3;
   while (n % 5 == 0) radix[k++] = 5, n /= 5;
+  while (n % 7 == 0) radix[k++] = 7, n /= 7;
   *count = k;
   return n == 1;
 }

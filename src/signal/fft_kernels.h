@@ -1,6 +1,6 @@
 // The plan of the 1-D FFT engines and the plain scalar passes every vector kernel is held to.
 //
-// A complex transform of n = r0 r1 ... points (radices 2, 3, 4, 5, 8) runs as a Stockham
+// A complex transform of n = r0 r1 ... points (radices 2, 3, 4, 5, 7, 8) runs as a Stockham
 // sequence of passes, each from one buffer to the other (no bit reversal). Pass i of radix r sees sub-transforms of
 // n_i = n / (r0 ... r(i-1)) points, m = n_i / r of them per group, at stride s = n / n_i:
 //   y[q + s (r p + k)] = w_(n_i)^(p k) sum_j x[q + s (p + j m)] w_r^(j k),  p < m, q < s, k < r,
@@ -34,7 +34,7 @@ struct FftPlan {
   int n = 0;
   int passes = 0;  // 0: n = 1, or the chirp route below
   FftPass pass[kMaxPasses];
-  // Lengths with a prime factor above 5: the chirp (Bluestein) route through a power-of-two
+  // Lengths with a prime factor above 7: the chirp (Bluestein) route through a power-of-two
   // transform of bluesteinM >= 2n - 1 points.
   int bluesteinM = 0;
   ComplexFft* inner = nullptr;
@@ -92,8 +92,30 @@ inline void butterfly(const Lum32fc* a, Lum32fc* b, bool inverse) {
       b[2 * k] = e[k];
       b[2 * k + 1] = o[k];
     }
+  } else if constexpr (R == 7) {
+    // Sums and differences of mirrored inputs, weighted by cos and sin of 2 pi jk / 7.
+    const float C[4] = {1.0f, 0.62348980185873353f, -0.22252093395631440f, -0.90096886790241913f};
+    const float S[4] = {0.0f, 0.78183148246802981f, 0.97492791218182361f, 0.43388373911755812f};
+    Lum32fc sp[4], df[4];
+    b[0] = a[0];
+    for (int j = 1; j <= 3; ++j) {
+      sp[j] = add(a[j], a[7 - j]);
+      df[j] = sub(a[j], a[7 - j]);
+      b[0] = add(b[0], sp[j]);
+    }
+    for (int k = 1; k <= 3; ++k) {
+      Lum32fc t = a[0], u{0.0f, 0.0f};
+      for (int j = 1; j <= 3; ++j) {
+        const int m = j * k % 7;
+        t = add(t, scale(sp[j], m <= 3 ? C[m] : C[7 - m]));
+        u = add(u, scale(df[j], m <= 3 ? S[m] : -S[7 - m]));
+      }
+      u = rot(u);
+      b[k] = add(t, u);
+      b[7 - k] = sub(t, u);
+    }
   } else {
-    static_assert(R == 5, "radix 2, 3, 4, 5 or 8");
+    static_assert(R == 5, "radix 2, 3, 4, 5, 7 or 8");
     const float c1 = 0.30901699437494742f, c2 = -0.80901699437494742f;  // cos 2pi/5, cos 4pi/5
     const float s1 = 0.95105651629515357f, s2 = 0.58778525229247313f;   // sin 2pi/5, sin 4pi/5
     const Lum32fc b1 = add(a[1], a[4]), b2 = add(a[2], a[3]);
@@ -138,6 +160,7 @@ inline void fftPassScalar(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int c
     case 2: passPoints<2>(ps, x, y, s, inverse, 0, m, 0, s); break;
     case 3: passPoints<3>(ps, x, y, s, inverse, 0, m, 0, s); break;
     case 4: passPoints<4>(ps, x, y, s, inverse, 0, m, 0, s); break;
+    case 7: passPoints<7>(ps, x, y, s, inverse, 0, m, 0, s); break;
     case 8: passPoints<8>(ps, x, y, s, inverse, 0, m, 0, s); break;
     default: passPoints<5>(ps, x, y, s, inverse, 0, m, 0, s); break;
   }
