@@ -160,6 +160,12 @@ ComplexFft* ComplexFft::create(int n) {
   if (n < 1) return nullptr;
   int radix[64], np = 0;
   const bool direct = factorise(n, radix, &np);
+  // The tables and work buffers take at most 64 bytes a point (direct) or 400 (chirp route,
+  // with its inner transform of up to 4n points): lengths the address space cannot describe
+  // (a 32-bit build) are refused here, so no size below overflows.
+  const unsigned long long perPoint = direct ? 64 : 400;
+  if (static_cast<unsigned long long>(n) * perPoint > static_cast<unsigned long long>(PTRDIFF_MAX))
+    return nullptr;
   ComplexFft* self = new (std::nothrow) ComplexFft();
   if (!self) return nullptr;
   int m = 0;
@@ -282,6 +288,9 @@ void ComplexFft::inverse(Lum32fc* data, void* work) const { transform(data, data
 
 size_t ComplexFft::batchWorkBytes(int count) const {
   if (plan_->inner) return alignUp(static_cast<size_t>(plan_->n) * sizeof(Lum32fc)) + workBytes();
+  // 2 n count points: SIZE_MAX (no allocation succeeds) when that passes the address space
+  const unsigned long long b = 2ULL * (static_cast<unsigned long long>(plan_->n) * count * 8 + kAlign);
+  if (count < 1 || b > static_cast<unsigned long long>(PTRDIFF_MAX)) return SIZE_MAX;
   return 2 * alignUp(static_cast<size_t>(plan_->n) * count * sizeof(Lum32fc));
 }
 
