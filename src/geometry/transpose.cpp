@@ -23,18 +23,43 @@ using Lane = hwy::UnsignedFromSize<P>;
 template <int P>
 using Tag = hn::CappedTag<Lane<P>, 32 / P>;
 
+// One round of interleaves: b[2i], b[2i + 1] = lower and upper halves of a[i], a[i + K/2]
+// zipped. log2(K) rounds transpose K x K lanes within each block.
+template <int K, class D, class V>
+HWY_INLINE void interleaveRound(D d, const V* a, V* b) {
+#pragma GCC unroll 16
+  for (int i = 0; i < K / 2; ++i) {
+    b[2 * i] = hn::InterleaveLower(d, a[i], a[i + K / 2]);
+    b[2 * i + 1] = hn::InterleaveUpper(d, a[i], a[i + K / 2]);
+  }
+}
+
 // K rows of a micro tile (or two side by side) into registers, transposed block by block.
+// Fully unrolled, so that the arrays stay in registers.
 template <int P, class D, class V>
 HWY_INLINE void loadTransposed(D d, const uint8_t* src, int step, V* v) {
   constexpr int K = 16 / P;
-  for (int i = 0; i < K; ++i) v[i] = hn::LoadU(d, reinterpret_cast<const Lane<P>*>(src + static_cast<std::ptrdiff_t>(step) * i));
-  for (int half = K / 2; half >= 1; half /= 2) {  // log2(K) rounds
-    V t[K];
-    for (int i = 0; i < K / 2; ++i) {
-      t[2 * i] = hn::InterleaveLower(d, v[i], v[i + K / 2]);
-      t[2 * i + 1] = hn::InterleaveUpper(d, v[i], v[i + K / 2]);
-    }
-    for (int i = 0; i < K; ++i) v[i] = t[i];
+  V t[K];
+#pragma GCC unroll 16
+  for (int i = 0; i < K; ++i)
+    t[i] = hn::LoadU(d, reinterpret_cast<const Lane<P>*>(src + static_cast<std::ptrdiff_t>(step) * i));
+  if constexpr (K == 2) {
+    interleaveRound<K>(d, t, v);
+  } else if constexpr (K == 4) {
+    V u[K];
+    interleaveRound<K>(d, t, u);
+    interleaveRound<K>(d, u, v);
+  } else if constexpr (K == 8) {
+    V u[K], w[K];
+    interleaveRound<K>(d, t, u);
+    interleaveRound<K>(d, u, w);
+    interleaveRound<K>(d, w, v);
+  } else {
+    V u[K], w[K];
+    interleaveRound<K>(d, t, u);
+    interleaveRound<K>(d, u, w);
+    interleaveRound<K>(d, w, u);
+    interleaveRound<K>(d, u, v);
   }
 }
 
@@ -45,9 +70,11 @@ HWY_INLINE void storeTransposed(D d, const V* v, uint8_t* dst, int step) {
   constexpr size_t kBlocks = hn::MaxLanes(D()) * P / 16;
   auto rowOf = [&](int r) { return reinterpret_cast<Lane<P>*>(dst + static_cast<std::ptrdiff_t>(step) * r); };
   if constexpr (kBlocks == 1) {
+#pragma GCC unroll 16
     for (int i = 0; i < K; ++i) hn::StoreU(v[i], d, rowOf(i));
   } else {
     const hn::Half<D> dh;
+#pragma GCC unroll 16
     for (int i = 0; i < K; ++i) {
       hn::StoreU(hn::LowerHalf(dh, v[i]), dh, rowOf(i));
       hn::StoreU(hn::UpperHalf(dh, v[i]), dh, rowOf(K + i));
@@ -62,13 +89,31 @@ void transposeTile(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, i
     const Tag<P> d;
     constexpr int K = 16 / P;
     constexpr int W = static_cast<int>(hn::MaxLanes(d));  // pixels per row of a step
+    // Two blocks of wider pixels: the micro tiles of rows 0..K-1 and K..2K-1 are joined block
+    // by block into whole 2K x 2K rows (8u keeps K x 2K steps: 32 rows would not fit the
+    // registers).
+    constexpr bool kWide = W * P == 32 && P >= 2;
+    constexpr int R = kWide ? 2 * K : K;
     using V = hn::Vec<decltype(d)>;
-    const int fullRows = rows / K * K, fullCols = cols / W * W;
-    for (int y = 0; y < fullRows; y += K)
+    const int fullRows = rows / R * R, fullCols = cols / W * W;
+    for (int y = 0; y < fullRows; y += R)
       for (int x = 0; x < fullCols; x += W) {
-        V v[K];
-        loadTransposed<P>(d, src + static_cast<std::ptrdiff_t>(srcStep) * y + static_cast<std::ptrdiff_t>(x) * P, srcStep, v);
-        storeTransposed<P>(d, v, dst + static_cast<std::ptrdiff_t>(dstStep) * x + static_cast<std::ptrdiff_t>(y) * P, dstStep);
+        const uint8_t* s = src + static_cast<std::ptrdiff_t>(srcStep) * y + static_cast<std::ptrdiff_t>(x) * P;
+        uint8_t* o = dst + static_cast<std::ptrdiff_t>(dstStep) * x + static_cast<std::ptrdiff_t>(y) * P;
+        if constexpr (kWide) {
+          V v[K], w[K];
+          loadTransposed<P>(d, s, srcStep, v);
+          loadTransposed<P>(d, s + static_cast<std::ptrdiff_t>(srcStep) * K, srcStep, w);
+#pragma GCC unroll 16
+          for (int j = 0; j < K; ++j) {
+            hn::StoreU(hn::ConcatLowerLower(d, w[j], v[j]), d, reinterpret_cast<Lane<P>*>(o + static_cast<std::ptrdiff_t>(dstStep) * j));
+            hn::StoreU(hn::ConcatUpperUpper(d, w[j], v[j]), d, reinterpret_cast<Lane<P>*>(o + static_cast<std::ptrdiff_t>(dstStep) * (K + j)));
+          }
+        } else {
+          V v[K];
+          loadTransposed<P>(d, s, srcStep, v);
+          storeTransposed<P>(d, v, o, dstStep);
+        }
       }
     // The right strip (all rows) and the bottom strip (full columns only).
     transpose::tileScalar<P>(src + static_cast<std::ptrdiff_t>(fullCols) * P, srcStep,
