@@ -1,7 +1,7 @@
 // Mirroring about the horizontal axis (rows reversed), the vertical axis (each row reversed) or
 // both, out of place and in place. Rows are reversed a vector of whole pixels at a time:
 // one-, two-, four- and eight-byte pixels as lanes, sixteen-byte pixels as blocks, three-channel
-// pixels as three de-interleaved channel vectors. AC4 stores keep the destination's alpha.
+// pixels as 48-byte chunks rearranged by byte shuffles. AC4 stores keep the destination's alpha.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/geometry/mirror.cpp"
 #include "hwy/foreach_target.h"
@@ -29,6 +29,21 @@ HWY_INLINE hn::Vec<D> reverseLanes(D d, hn::Vec<D> v) {
   }
 }
 
+// Byte shuffles reversing the pixels of a 48-byte chunk of three-channel pixels of p bytes:
+// output block k takes from input block m the bytes idx[k][m] (0x80: none). Output byte j is
+// byte j % p of pixel n - 1 - j / p, n = 48 / p.
+struct Rev48 {
+  alignas(16) uint8_t idx[3][3][16];
+};
+constexpr Rev48 rev48(int p) {
+  Rev48 r{};
+  for (int j = 0; j < 48; ++j) {
+    const int from = p * (48 / p - 1 - j / p) + j % p;
+    for (int m = 0; m < 3; ++m) r.idx[j / 16][m][j % 16] = from / 16 == m ? static_cast<uint8_t>(from % 16) : 0x80;
+  }
+  return r;
+}
+
 // Pixels of kBytes (1, 2, 4, 8 or 16) as lanes of Unit; 16-byte pixels are whole blocks.
 template <int kBytes>
 using Unit = hwy::UnsignedFromSize<(kBytes > 8 ? 8 : kBytes)>;
@@ -47,13 +62,24 @@ HWY_INLINE int mirrorVectors(const T* HWY_RESTRICT src, T* HWY_RESTRICT dst, int
   constexpr int kBytes = static_cast<int>(sizeof(T)) * L::kCh;
   const hn::ScalableTag<T> dt;
   if constexpr (L::kCh == 3) {
-    const int N = static_cast<int>(hn::Lanes(dt));
+    // Chunks of 48 bytes (48 / kBytes pixels) in three blocks: each output block gathers its
+    // bytes from two or three input blocks by byte shuffles.
+    const hn::Full128<uint8_t> d8;
+    constexpr int kPix = 48 / kBytes;
+    static constexpr Rev48 kTab = rev48(kBytes);
+    auto tab = [&](int k, int m) { return hn::Load(d8, kTab.idx[k][m]); };
+    const auto t01 = tab(0, 1), t02 = tab(0, 2), t10 = tab(1, 0), t11 = tab(1, 1), t12 = tab(1, 2);
+    const auto t20 = tab(2, 0), t21 = tab(2, 1);
     int x = 0;
-    for (; x + N <= width; x += N) {
-      hn::Vec<decltype(dt)> a, b, c;
-      hn::LoadInterleaved3(dt, src + elemsOf(x, 3), a, b, c);
-      hn::StoreInterleaved3(reverseLanes(dt, a), reverseLanes(dt, b), reverseLanes(dt, c), dt,
-                            dst + elemsOf(width - x - N, 3));
+    for (; x + kPix <= width; x += kPix) {
+      const auto* s = reinterpret_cast<const uint8_t*>(src + elemsOf(x, 3));
+      auto* o = reinterpret_cast<uint8_t*>(dst + elemsOf(width - x - kPix, 3));
+      const auto in0 = hn::LoadU(d8, s), in1 = hn::LoadU(d8, s + 16), in2 = hn::LoadU(d8, s + 32);
+      hn::StoreU(hn::Or(hn::TableLookupBytesOr0(in1, t01), hn::TableLookupBytesOr0(in2, t02)), d8, o);
+      hn::StoreU(hn::Or(hn::Or(hn::TableLookupBytesOr0(in0, t10), hn::TableLookupBytesOr0(in1, t11)),
+                        hn::TableLookupBytesOr0(in2, t12)),
+                 d8, o + 16);
+      hn::StoreU(hn::Or(hn::TableLookupBytesOr0(in0, t20), hn::TableLookupBytesOr0(in1, t21)), d8, o + 32);
     }
     return x;
   } else {
