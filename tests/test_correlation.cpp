@@ -177,14 +177,19 @@ void referenceSweep(uint32_t salt) {
   for (int m = 0; m < 3; ++m)
     for (int r = 0; r < 3; ++r) {
       SCOPED_TRACE(std::string(kMeasureName[m]) + " " + kRangeName[r]);
+      // templates of up to 25 pixels are correlated directly, larger ones through the FFT
       checkAgainstReference<G>(Measure(m), Range(r), kC1, {23, 17}, {5, 4}, salt + 10 * m + r);
-      checkAgainstReference<G>(Measure(m), Range(r), kAC4, {23, 17}, {5, 4}, salt + 40 + 10 * m + r);
-      checkAgainstReference<G>(Measure(m), Range(r), kC1, {19, 9}, {4, 7}, salt + 80 + 10 * m + r);
+      checkAgainstReference<G>(Measure(m), Range(r), kC1, {23, 17}, {6, 5}, salt + 40 + 10 * m + r);
+      checkAgainstReference<G>(Measure(m), Range(r), kAC4, {23, 17}, {5, 4}, salt + 80 + 10 * m + r);
+      checkAgainstReference<G>(Measure(m), Range(r), kAC4, {19, 9}, {4, 7}, salt + 120 + 10 * m + r);
     }
-  // C3 and C4 on a smaller set: odd template, one range per measure
+  // C3 and C4 on a smaller set: both paths, odd and even templates
   checkAgainstReference<G>(kNorm, kSame, kC3, {13, 11}, {3, 5}, salt + 200);
-  checkAgainstReference<G>(kLevel, kValid, kC4, {13, 11}, {6, 3}, salt + 201);
-  checkAgainstReference<G>(kSqr, kFull, kC3, {13, 11}, {2, 2}, salt + 202);
+  checkAgainstReference<G>(kNorm, kFull, kC4, {13, 11}, {7, 4}, salt + 201);
+  checkAgainstReference<G>(kLevel, kValid, kC4, {13, 11}, {6, 3}, salt + 202);
+  checkAgainstReference<G>(kLevel, kSame, kC3, {13, 11}, {5, 6}, salt + 203);
+  checkAgainstReference<G>(kSqr, kFull, kC3, {13, 11}, {2, 2}, salt + 204);
+  checkAgainstReference<G>(kSqr, kValid, kC4, {13, 11}, {9, 3}, salt + 205);
 }
 
 TEST(Correlation, MatchesReference32f) { referenceSweep<k32f>(1000); }
@@ -192,14 +197,16 @@ TEST(Correlation, MatchesReference8u32f) { referenceSweep<k8u32f>(2000); }
 TEST(Correlation, MatchesReference8s32f) { referenceSweep<k8s32f>(3000); }
 TEST(Correlation, MatchesReference8uSfs) { referenceSweep<k8uSfs>(4000); }
 
-// Templates as large as the source and several tiles per row and column.
+// Templates as large as the source, one-pixel ones and several tiles per row and column.
 TEST(Correlation, SizesAndTiles) {
   for (int m = 0; m < 3; ++m) {
     checkAgainstReference<k32f>(Measure(m), kValid, kC1, {9, 6}, {9, 6}, 50 + m);
     checkAgainstReference<k32f>(Measure(m), kFull, kC1, {7, 5}, {7, 5}, 53 + m);
     checkAgainstReference<k32f>(Measure(m), kSame, kC1, {1, 1}, {1, 1}, 56 + m);
     checkAgainstReference<k8u32f>(Measure(m), kValid, kC1, {150, 40}, {3, 2}, 59 + m);
-    checkAgainstReference<k8u32f>(Measure(m), kFull, kC1, {37, 70}, {20, 1}, 62 + m);
+    checkAgainstReference<k8u32f>(Measure(m), kSame, kC1, {150, 40}, {9, 3}, 62 + m);
+    checkAgainstReference<k8u32f>(Measure(m), kFull, kC1, {37, 70}, {20, 2}, 65 + m);
+    checkAgainstReference<k8u32f>(Measure(m), kFull, kC1, {37, 70}, {20, 1}, 68 + m);
   }
 }
 

@@ -34,69 +34,6 @@
 namespace lumi {
 namespace match {
 
-enum class Range { kFull, kSame, kValid };
-enum class Measure { kNorm, kLevel, kSqrDist };
-
-// Both norms are floored at the single-precision value nearest 5e-4.
-constexpr float kEps = 0.0005f;
-// Relative spread (to the window's energy about the tile level) under which a window counts as
-// flat: far above the rounding of the running sums, far below any spread float data can hold.
-constexpr double kFlat = 1e-12;
-
-// Placement geometry and tiling of one call.
-struct Plan {
-  LumiSize src{0, 0}, tpl{0, 0}, dst{0, 0};
-  int ox = 0, oy = 0;  // placement (x, y) covers source columns x - ox .. x - ox + w - 1
-  int orderX = 1, orderY = 1;
-  int fftW = 2, fftH = 2;
-  int tileW = 1, tileH = 1;  // placements per tile
-  int tilesX = 1, tilesY = 1;
-  int tiles() const { return tilesX * tilesY; }
-  std::size_t fftArea() const { return static_cast<std::size_t>(fftW) * fftH; }
-};
-
-// FFT order of one dimension: the smallest k >= 1 with 2^k >= 2 x template extent, one more
-// when k < 7 and 2^k is still below the destination extent (larger tiles for small templates).
-inline int fftOrder(int tplExtent, long long dstExtent) {
-  int k = 1;
-  while ((1LL << k) < 2LL * tplExtent) ++k;
-  if (k < 7 && (1LL << k) < dstExtent) ++k;
-  return k;
-}
-
-// False when the destination or the FFT tile cannot be addressed (extents past INT_MAX).
-inline bool makePlan(Range range, LumiSize src, LumiSize tpl, Plan* p) {
-  p->src = src;
-  p->tpl = tpl;
-  long long dw, dh;
-  if (range == Range::kValid) {
-    dw = src.width - tpl.width + 1LL;
-    dh = src.height - tpl.height + 1LL;
-    p->ox = p->oy = 0;
-  } else if (range == Range::kFull) {
-    dw = src.width + tpl.width - 1LL;
-    dh = src.height + tpl.height - 1LL;
-    p->ox = tpl.width - 1;
-    p->oy = tpl.height - 1;
-  } else {
-    dw = src.width;
-    dh = src.height;
-    p->ox = (tpl.width - 1) / 2;
-    p->oy = (tpl.height - 1) / 2;
-  }
-  p->orderX = fftOrder(tpl.width, dw);
-  p->orderY = fftOrder(tpl.height, dh);
-  if (dw > INT_MAX || dh > INT_MAX || p->orderX > 30 || p->orderY > 30) return false;
-  p->dst = LumiSize{static_cast<int>(dw), static_cast<int>(dh)};
-  p->fftW = 1 << p->orderX;
-  p->fftH = 1 << p->orderY;
-  p->tileW = p->fftW - tpl.width + 1;
-  p->tileH = p->fftH - tpl.height + 1;
-  p->tilesX = static_cast<int>((dw + p->tileW - 1) / p->tileW);
-  p->tilesY = static_cast<int>((dh + p->tileH - 1) / p->tileH);
-  return static_cast<long long>(p->tilesX) * p->tilesY <= INT_MAX;
-}
-
 // ---- destination stores ------------------------------------------------------------------
 struct Store32f {
   void operator()(Lum32f* p, float v) const { *p = v; }
@@ -373,7 +310,7 @@ LumStatus run(const S* src, int srcStep, LumiSize srcRoi, const S* tpl, int tplS
   if ((kUse + 1) * area > 0x7fffffffu) return lumStatusMemAllocErr;
 
   TileCorrelator corr;
-  if (LumStatus st = corr.init(p.orderX, p.orderY, tplRoi.width, tplRoi.height)) return st;
+  if (LumStatus st = corr.init(p)) return st;
 
   // The template spectra of every channel, a tile to build them in and a work buffer.
   const std::size_t sharedBytes = (kUse + 1) * area + alignUp(corr.workBytes()) + 64;

@@ -110,6 +110,47 @@ void finishRow(const float* num, const float* a, const float* b, int n, const No
   if constexpr (kMode == 2) finishLevelFrom(x, num, a, b, n, k, out);
 }
 
+// Four vectors of placements at a time keep four sums in flight; each lane sums its taps in the
+// twin's order.
+void correlate(const float* tile, const float* tpl, std::size_t stride, int w, int h, int tw,
+               int th, float* out) {
+  const hn::ScalableTag<float> d;
+  const int N = static_cast<int>(hn::Lanes(d));
+  int xEnd = 0;
+  for (int y = 0; y < th; ++y) {
+    const float* row = tile + y * stride;
+    float* o = out + y * stride;
+    int x = 0;
+    for (; x + 4 * N <= tw; x += 4 * N) {
+      auto a0 = hn::Zero(d), a1 = hn::Zero(d), a2 = hn::Zero(d), a3 = hn::Zero(d);
+      for (int i = 0; i < h; ++i) {
+        const float* r = row + i * stride + x;
+        const float* t = tpl + i * stride;
+        for (int j = 0; j < w; ++j) {
+          const auto k = hn::Set(d, t[j]);
+          a0 = hn::Add(a0, hn::Mul(k, hn::LoadU(d, r + j)));
+          a1 = hn::Add(a1, hn::Mul(k, hn::LoadU(d, r + j + N)));
+          a2 = hn::Add(a2, hn::Mul(k, hn::LoadU(d, r + j + 2 * N)));
+          a3 = hn::Add(a3, hn::Mul(k, hn::LoadU(d, r + j + 3 * N)));
+        }
+      }
+      hn::StoreU(a0, d, o + x);
+      hn::StoreU(a1, d, o + x + N);
+      hn::StoreU(a2, d, o + x + 2 * N);
+      hn::StoreU(a3, d, o + x + 3 * N);
+    }
+    for (; x + N <= tw; x += N) {
+      auto a = hn::Zero(d);
+      for (int i = 0; i < h; ++i)
+        for (int j = 0; j < w; ++j)
+          a = hn::Add(a, hn::Mul(hn::Set(d, tpl[i * stride + j]), hn::LoadU(d, row + i * stride + x + j)));
+      hn::StoreU(a, d, o + x);
+    }
+    xEnd = x;
+  }
+  correlateFrom(xEnd, tile, tpl, stride, w, h, tw, th, out);
+}
+
 #endif  // LUMI_TABLE_TARGET
 LUMI_SIMD_END
 
@@ -136,6 +177,11 @@ FinishRowFn pickFinishSqr() {
 FinishRowFn pickFinishLevel() {
   LUMI_SIMD_TABLE(FinishRowFn, table, finishRow<2>);
   return pick(table, &finishLevelScalar);
+}
+
+CorrelateFn pickCorrelate() {
+  LUMI_SIMD_TABLE(CorrelateFn, table, correlate);
+  return pick(table, &correlateScalar);
 }
 
 }  // namespace match

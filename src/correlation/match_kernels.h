@@ -1,5 +1,5 @@
-// Per-tile kernels of template matching: the window sums of every placement and the
-// normalisation of the correlation values. Each has a plain scalar twin here and a vector
+// Per-tile kernels of template matching: the window sums of every placement, the normalisation
+// of the correlation values and the direct correlation of small templates. Each has a plain scalar twin here and a vector
 // version in match_kernels.cpp; the twins are also the tails of the vector kernels. Both do the
 // same IEEE operations in the same order, so their results agree bit for bit.
 #pragma once
@@ -131,12 +131,36 @@ inline void finishLevelScalar(const float* num, const float* a, const float* b, 
   finishLevelFrom(0, num, a, b, n, k, out);
 }
 
+// ---- direct correlation of small templates -----------------------------------------------------
+// out(x, y) = sum over i < h, j < w of tpl(j, i) x tile(x + j, y + i) for tw x th placements,
+// summed in float in that order; tile, template and out rows are `stride` floats apart.
+using CorrelateFn = void (*)(const float* tile, const float* tpl, std::size_t stride, int w,
+                             int h, int tw, int th, float* out);
+
+inline float correlateAt(const float* tile, const float* tpl, std::size_t stride, int w, int h) {
+  float acc = 0.0f;
+  for (int i = 0; i < h; ++i)
+    for (int j = 0; j < w; ++j) acc += tpl[i * stride + j] * tile[i * stride + j];
+  return acc;
+}
+inline void correlateFrom(int x0, const float* tile, const float* tpl, std::size_t stride, int w,
+                          int h, int tw, int th, float* out) {
+  for (int y = 0; y < th; ++y)
+    for (int x = x0; x < tw; ++x)
+      out[y * stride + x] = correlateAt(tile + y * stride + x, tpl, stride, w, h);
+}
+inline void correlateScalar(const float* tile, const float* tpl, std::size_t stride, int w, int h,
+                            int tw, int th, float* out) {
+  correlateFrom(0, tile, tpl, stride, w, h, tw, th, out);
+}
+
 // Choosers (match_kernels.cpp): the vector kernel the processor allows, else the twin.
 SlideEnergyFn pickSlideEnergy();
 SlideLevelFn pickSlideLevel();
 FinishRowFn pickFinishNorm();
 FinishRowFn pickFinishSqr();
 FinishRowFn pickFinishLevel();
+CorrelateFn pickCorrelate();
 
 }  // namespace match
 }  // namespace lumi
