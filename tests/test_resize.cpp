@@ -225,6 +225,39 @@ TEST(Resize, AllModesAgainstReference8u) { allModes<Lum8u>(); }
 TEST(Resize, AllModesAgainstReference16u) { allModes<Lum16u>(); }
 TEST(Resize, AllModesAgainstReference32f) { allModes<Lum32f>(); }
 
+// Halving by super-sampling: exact 2x2 means, rounded half up for integers (the vector path
+// takes whole blocks of pixels, the odd remainder goes one by one).
+template <class T>
+void exactHalves() {
+  Rng rng = makeRng(21);
+  for (int layout = 0; layout < 4; ++layout) {
+    const Layout L = kLayouts[layout];
+    GuardedImage<T> src(2 * 75 + 1, 12, L.ch);
+    src.fillRandom(rng);
+    GuardedImage<T> dst(75, 6, L.ch);
+    dst.fillRandom(rng);
+    const std::vector<T> before = dst.pixels();
+    ASSERT_EQ(fns<T>().resize[layout](src.ptr(), src.roi(), src.step(), {1, 0, 150, 12}, dst.ptr(), dst.step(), dst.roi(), 0.5, 0.5, lumInterpSuper), lumStatusOk);
+    for (int y = 0; y < 6; ++y)
+      for (int x = 0; x < 75; ++x)
+        for (int c = 0; c < L.ch; ++c) {
+          auto p = [&](int u, int v) { return src.at(1 + 2 * x + u, 2 * y + v, c); };
+          T want;
+          if (c >= L.use) want = before[(static_cast<std::size_t>(y) * 75 + x) * L.ch + c];
+          else if constexpr (std::is_floating_point_v<T>)
+            want = (0.5f * p(0, 0) + 0.5f * p(1, 0)) * 0.5f + 0.5f * (0.5f * p(0, 1) + 0.5f * p(1, 1));
+          else want = static_cast<T>((p(0, 0) + p(1, 0) + p(0, 1) + p(1, 1) + 2) >> 2);
+          ASSERT_EQ(dst.at(x, y, c), want) << L.name << " " << x << "," << y << "," << c;
+        }
+    ASSERT_TRUE(dst.guardsIntact());
+  }
+}
+TEST(Resize, SuperHalvesAreExactMeans) {
+  exactHalves<Lum8u>();
+  exactHalves<Lum16u>();
+  exactHalves<Lum32f>();
+}
+
 TEST(Resize, SmallImagesLowerTheMode) {
   checkResize<Lum8u>(0, {5, 9}, {0, 0, 5, 9}, 1.5, 1.3, 16, 4, 1);  // Lanczos -> cubic
   checkResize<Lum8u>(1, {3, 9}, {0, 0, 3, 9}, 2.0, 1.5, 4, 2, 2);   // cubic -> linear

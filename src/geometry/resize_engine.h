@@ -22,30 +22,38 @@ LumStatus forwardAxis(int w, double f, int dstN, int mode, double shift, Axis* a
 void shiftAxis(int w, double fr, int dstN, int mode, double shift, Axis* a);
 
 // Row kernels, vector or plain (see resize_kernels.h for what each computes).
-using LinH8Fn = void (*)(const Lum8u*, const int32_t*, const int16_t*, int, int, int, int16_t*);
+using LinH8Fn = void (*)(const Lum8u*, const int32_t*, const int16_t*, int, int, int, const Windows*,
+                         int16_t*);
 using LinV8Fn = void (*)(const int16_t*, const int16_t*, int, int, Lum8u*, bool);
-using LinHfFn = void (*)(const float*, const int32_t*, const float*, int, int, int, float*);
+using LinHfFn = void (*)(const float*, const int32_t*, const float*, int, int, int, const Windows*,
+                         float*);
 using LinVfFn = void (*)(const float*, const float*, float, float, int, float*, bool);
 template <class T>
-using CubHFn = void (*)(const T*, const int32_t*, const float*, int, int, int, float*);
+using CubHFn = void (*)(const T*, const int32_t*, const float*, int, int, int, const Windows*, float*);
 template <class T>
 using CubVFn = void (*)(const float* const*, const float*, int, T*, bool);
-// The horizontal choosers also give the bytes their vector kernel reads from a tap on (span,
-// 0 when it reads no further than the taps) for safePrefix.
-LinH8Fn pickLinH8(int pitch, int* span);
+// The horizontal choosers also give the elements their vector kernel reads from a tap on (span,
+// 0 when it reads no further than the taps) for safePrefix, and the window size their kernel
+// takes (0: none; see buildWindows).
+LinH8Fn pickLinH8(int pitch, int* span, int* window);
 LinV8Fn pickLinV8();
-LinHfFn pickLinHf(int pitch);
+LinHfFn pickLinHf(int pitch, int* window);
 LinVfFn pickLinVf();
 template <class T>
-CubHFn<T> pickCubH(int pitch, int* span);
+CubHFn<T> pickCubH(int pitch, int* span, int* window);
 template <>
-CubHFn<Lum8u> pickCubH<Lum8u>(int pitch, int* span);
+CubHFn<Lum8u> pickCubH<Lum8u>(int pitch, int* span, int* window);
 template <>
-CubHFn<Lum16u> pickCubH<Lum16u>(int pitch, int* span);
+CubHFn<Lum16u> pickCubH<Lum16u>(int pitch, int* span, int* window);
 template <>
-CubHFn<Lum32f> pickCubH<Lum32f>(int pitch, int* span);
+CubHFn<Lum32f> pickCubH<Lum32f>(int pitch, int* span, int* window);
 template <class T>
 CubVFn<T> pickCubV();
+
+template <class T>
+using Half2Fn = void (*)(const T*, const T*, int, T*);
+template <class T, class L>
+Half2Fn<T> pickHalf2();
 
 // Pixel-taps per call above which the rows are shared among threads.
 constexpr long long kForkWork = 1LL << 17;
@@ -95,12 +103,19 @@ struct RowRing {
 // One plane or pixel-order image: src and dst at the ROI origins, tables built.
 template <class T, class L>
 void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const Taps& ty,
-             int mode, const Axis& ax, int y0, int y1, Lum8u* scratch, std::size_t slotBytes) {
+             int mode, const Axis& ax, const Axis& ay, int y0, int y1, Lum8u* scratch,
+             std::size_t slotBytes) {
   constexpr int kCh = L::kCh;
   constexpr bool kAlpha = L::kUse != L::kCh;
   const int n = static_cast<int>(elemsOf(ax.count, kCh));
   const std::ptrdiff_t limit = elemsOf(ax.extent - ax.origin, kCh);
-  int span = 0;
+  int span = 0, window = 0;
+  Windows win;
+  // windows live in the scratch slots after the ring's
+  auto windows = [&](int slotsUsed, int taps) {
+    if (window > 0)
+      buildWindows(tx.off, n, taps, kCh, window, limit, scratch + slotBytes * slotsUsed, &win);
+  };
   auto srow = [&](int r) { return rowAt(src, sstep, r); };
   switch (mode) {
     case kNearest:
@@ -108,13 +123,14 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
       break;
     case kLinear:
       if constexpr (std::is_same_v<T, Lum8u>) {
-        const LinH8Fn hf = pickLinH8(kCh, &span);
+        const LinH8Fn hf = pickLinH8(kCh, &span, &window);
         const LinV8Fn vf = pickLinV8();
         const int safe = safePrefix(tx.off, n, span, limit);
+        windows(2, 2);
         RowRing<int16_t, 2> ring(scratch, slotBytes);
         for (int j = y0; j < y1; ++j) {
           const int b = ty.off[j];
-          auto fill = [&](int r, int16_t* h) { hf(srow(r), tx.off, tx.wq, n, kCh, safe, h); };
+          auto fill = [&](int r, int16_t* h) { hf(srow(r), tx.off, tx.wq, n, kCh, safe, &win, h); };
           const int16_t* h0 = ring.get(b, fill);
           const int16_t* h1 = ring.get(b + 1, fill);
           vf(h0, h1, ty.wq[2 * j + 1], n, rowAt(dst, dstep, j), kAlpha);
@@ -129,12 +145,13 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
           linV16Scalar(h0, h1, ty.wq[2 * j + 1], n, rowAt(dst, dstep, j), kAlpha);
         }
       } else {
-        const LinHfFn hf = pickLinHf(kCh);
+        const LinHfFn hf = pickLinHf(kCh, &window);
         const LinVfFn vf = pickLinVf();
+        windows(2, 2);
         RowRing<float, 2> ring(scratch, slotBytes);
         for (int j = y0; j < y1; ++j) {
           const int b = ty.off[j];
-          auto fill = [&](int r, float* h) { hf(srow(r), tx.off, tx.wf, n, kCh, n, h); };
+          auto fill = [&](int r, float* h) { hf(srow(r), tx.off, tx.wf, n, kCh, n, &win, h); };
           const float* h0 = ring.get(b, fill);
           const float* h1 = ring.get(b + 1, fill);
           vf(h0, h1, ty.wf[2 * j], ty.wf[2 * j + 1], n, rowAt(dst, dstep, j), kAlpha);
@@ -142,13 +159,14 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
       }
       break;
     case kCubic: {
-      const CubHFn<T> hf = pickCubH<T>(kCh, &span);
+      const CubHFn<T> hf = pickCubH<T>(kCh, &span, &window);
       const CubVFn<T> vf = pickCubV<T>();
       const int safe = safePrefix(tx.off, n, span, limit);
+      windows(4, 4);
       RowRing<float, 4> ring(scratch, slotBytes);
       for (int j = y0; j < y1; ++j) {
         const int b = ty.off[j];
-        auto fill = [&](int r, float* h) { hf(srow(r), tx.off, tx.wf, n, kCh, safe, h); };
+        auto fill = [&](int r, float* h) { hf(srow(r), tx.off, tx.wf, n, kCh, safe, &win, h); };
         const float* rows[4];
         for (int k = 0; k < 4; ++k) rows[k] = ring.get(b + k, fill);
         vf(rows, ty.wf + 3 * j, n, rowAt(dst, dstep, j), kAlpha);
@@ -170,6 +188,14 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
       break;
     }
     default: {  // super-sampling
+      if (halves(ax) && halves(ay)) {
+        const Half2Fn<T> f = pickHalf2<T, L>();
+        for (int j = y0; j < y1; ++j) {
+          const int r = ty.off[j];
+          f(srow(r), srow(r + 1), ax.count, rowAt(dst, dstep, j));
+        }
+        break;
+      }
       float* acc = reinterpret_cast<float*>(scratch);
       float* tmp = reinterpret_cast<float*>(scratch + slotBytes);
       for (int j = y0; j < y1; ++j) {
@@ -191,11 +217,11 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
   }
 }
 
-inline int ringSlots(int mode) {
+inline int ringSlots(int mode) {  // row buffers, and two slots for the windows
   switch (mode) {
     case kNearest: return 0;
-    case kLinear: return 2;
-    case kCubic: return 4;
+    case kLinear: return 4;
+    case kCubic: return 7;
     case kLanczos: return 6;
     default: return 2;
   }
@@ -220,7 +246,7 @@ LumStatus run(const T* const* src, int sstep, T* const* dst, int dstep, const Ax
   buildTaps(ay, mode, 1, mem + bx, &ty);
   // row buffers: 4-byte elements, padded for vector overrun
   const std::size_t slot =
-      ((static_cast<std::size_t>(elemsOf(ax.count, kCh)) + 64) * sizeof(float) + 63) & ~std::size_t{63};
+      ((static_cast<std::size_t>(elemsOf(ax.count, kCh)) + 96) * sizeof(float) + 63) & ~std::size_t{63};
   const int slots = ringSlots(mode);
   long long taps = 1;
   switch (mode) {
@@ -237,7 +263,7 @@ LumStatus run(const T* const* src, int sstep, T* const* dst, int dstep, const Ax
     T* d = dst[p];
     st = forRowsWithScratch(ay.count, parallel, std::max<std::size_t>(slot * slots, 64),
                             [&](int y0, int y1, Lum8u* scratch) {
-                              runRows<T, L>(s, sstep, d, dstep, tx, ty, mode, ax, y0, y1, scratch, slot);
+                              runRows<T, L>(s, sstep, d, dstep, tx, ty, mode, ax, ay, y0, y1, scratch, slot);
                             });
   }
   if (tables == nullptr) lumsFree(mem);

@@ -238,6 +238,42 @@ inline int safePrefix(const int32_t* off, int n, int span, std::ptrdiff_t limit)
   return n;
 }
 
+// Windows of the horizontal passes: per block of 16 elements, the first element `base` of a
+// window of `size` elements of the source row that holds every tap of the block (kNoWindow if
+// none does, or the window would pass `limit`), and each tap's place in it, tap by tap (16
+// places of tap 0, then 16 of tap 1, ...). The AVX-512 kernels fetch such blocks with two
+// loads and a permute instead of gathers.
+constexpr int kBlock = 16;
+constexpr int32_t kNoWindow = INT32_MIN;
+struct Windows {
+  int32_t* base = nullptr;
+  uint16_t* idx = nullptr;
+};
+inline std::size_t windowBytes(int n, int taps) {
+  const std::size_t blocks = static_cast<std::size_t>(n / kBlock) + 1;
+  return blocks * 4 + blocks * kBlock * taps * 2 + 128;
+}
+inline void buildWindows(const int32_t* off, int n, int taps, int pitch, int size,
+                         std::ptrdiff_t limit, Lum8u* mem, Windows* w) {
+  const int blocks = n / kBlock;
+  w->base = reinterpret_cast<int32_t*>(mem);
+  w->idx = reinterpret_cast<uint16_t*>(mem + ((static_cast<std::size_t>(blocks) * 4 + 63) & ~std::size_t{63}));
+  for (int b = 0; b < blocks; ++b) {
+    const int32_t* o = off + b * kBlock;
+    int32_t lo = o[0], hi = o[0];
+    for (int k = 1; k < kBlock; ++k) lo = std::min(lo, o[k]), hi = std::max(hi, o[k]);
+    hi += (taps - 1) * pitch;
+    if (hi - lo >= size || lo + size > limit) {
+      w->base[b] = kNoWindow;
+      continue;
+    }
+    w->base[b] = lo;
+    uint16_t* ix = w->idx + static_cast<std::ptrdiff_t>(b) * kBlock * taps;
+    for (int k = 0; k < kBlock; ++k)
+      for (int t = 0; t < taps; ++t) ix[t * kBlock + k] = static_cast<uint16_t>(o[k] + t * pitch - lo);
+  }
+}
+
 // ---- rounding of the float modes ----------------------------------------------------------------
 // trunc(v + 0.5000001) saturated to T; the clamp comes first, so huge values convert safely.
 template <class T>
@@ -260,7 +296,7 @@ inline T roundStore(float v) {
 
 // Linear 8u along a row: h = (p0 (16384 - w) + p1 w) >> 8.
 inline void linH8Scalar(const Lum8u* s, const int32_t* off, const int16_t* wq, int n, int pitch,
-                        int /*safe*/, int16_t* h) {
+                        int /*safe*/, const Windows* /*win*/, int16_t* h) {
   for (int e = 0; e < n; ++e) {
     const Lum8u* p = s + off[e];
     h[e] = static_cast<int16_t>((p[0] * wq[2 * e] + p[pitch] * wq[2 * e + 1]) >> 8);
@@ -294,7 +330,7 @@ inline void linV16Scalar(const uint32_t* h0, const uint32_t* h1, int wy, int n, 
 }
 // Linear 32f: h = p0 (1 - f) + p1 f, then h0 (1 - fy) + h1 fy.
 inline void linHfScalar(const float* s, const int32_t* off, const float* wf, int n, int pitch,
-                        int /*safe*/, float* h) {
+                        int /*safe*/, const Windows* /*win*/, float* h) {
   for (int e = 0; e < n; ++e) {
     const float* p = s + off[e];
     h[e] = p[0] * wf[2 * e] + p[pitch] * wf[2 * e + 1];
@@ -311,7 +347,7 @@ inline void linVfScalar(const float* h0, const float* h1, float w0, float w1, in
 // Cubic along a row into floats (Newton form, coefficients per element).
 template <class T>
 inline void cubHScalar(const T* s, const int32_t* off, const float* k, int n, int pitch,
-                       int /*safe*/, float* r) {
+                       int /*safe*/, const Windows* /*win*/, float* r) {
   for (int e = 0; e < n; ++e) {
     const T* p = s + off[e];
     const geometry::CubicCoeffs<float> c{k[3 * e], k[3 * e + 1], k[3 * e + 2]};
@@ -366,6 +402,31 @@ inline void supHScalar(const T* s, const Taps& t, int count, int ch, float* r) {
       r[i * ch + c] = v;
     }
   }
+}
+
+// Super-sampling by exactly one half with every 2x2 block inside the source: the general
+// kernel's arithmetic for weights of 1/2 (integers: (a + b + c + d + 2) >> 2, which is what
+// trunc(v + 0.5000001) gives for the exact quarter sums; floats: the same products and sums).
+inline bool halves(const Axis& a) {
+  return a.step == 2.0 && a.start == std::floor(a.start) && a.start >= -a.origin &&
+         a.start + 2.0 * a.count <= a.extent - a.origin;
+}
+template <class T, int kCh, int kUse>
+inline void half2Scalar(const T* r0, const T* r1, int count, T* d) {
+  for (int i = 0; i < count; ++i)
+    for (int c = 0; c < kUse; ++c) {
+      const std::ptrdiff_t a = elemsOf(2 * i, kCh) + c, b = a + kCh;
+      if constexpr (std::is_floating_point_v<T>) {
+        float h0 = 0.0f, h1 = 0.0f;
+        h0 += 0.5f * r0[a];
+        h0 += 0.5f * r0[b];
+        h1 += 0.5f * r1[a];
+        h1 += 0.5f * r1[b];
+        d[elemsOf(i, kCh) + c] = h0 * 0.5f + 0.5f * h1;
+      } else {
+        d[elemsOf(i, kCh) + c] = static_cast<T>((r0[a] + r0[b] + r1[a] + r1[b] + 2) >> 2);
+      }
+    }
 }
 
 }  // namespace resize

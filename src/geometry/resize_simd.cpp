@@ -17,22 +17,46 @@
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
 
+#if HWY_TARGET == HWY_AVX3
+// Taps t and t + 1 of a block of 16 elements out of its 64-byte window, as 32-bit lanes.
+HWY_INLINE void window8(const Lum8u* p, const uint16_t* ix, __m512i* a, __m512i* b) {
+  const __m512i lo = _mm512_cvtepu8_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)));
+  const __m512i hi = _mm512_cvtepu8_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p + 32)));
+  const __m512i v = _mm512_permutex2var_epi16(lo, _mm512_loadu_si512(ix), hi);
+  *a = _mm512_cvtepu16_epi32(_mm512_castsi512_si256(v));
+  *b = _mm512_cvtepu16_epi32(_mm512_extracti64x4_epi64(v, 1));
+}
+// Tap t of a block of 16 elements out of its 32-float window.
+HWY_INLINE __m512 windowF(const float* p, const uint16_t* ix) {
+  const __m512i i = _mm512_cvtepu16_epi32(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(ix)));
+  return _mm512_permutex2var_ps(_mm512_loadu_ps(p), i, _mm512_loadu_ps(p + 16));
+}
+#define LUMI_RESIZE_WINDOWS 1
+#else
+#define LUMI_RESIZE_WINDOWS 0
+#endif
+
 // Linear 8u along a row: pairs of taps from one (C1, C3) or two (C4) 32-bit gathers.
 template <int kPitch>
 void linH8(const Lum8u* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off,
-           const int16_t* HWY_RESTRICT wq, int n, int pitch, int safe, int16_t* HWY_RESTRICT h) {
+           const int16_t* HWY_RESTRICT wq, int n, int pitch, int safe,
+           const resize::Windows* win, int16_t* HWY_RESTRICT h) {
   const hn::ScalableTag<int32_t> d;
   const hn::RebindToUnsigned<decltype(d)> du;
   const hn::Rebind<int16_t, decltype(d)> d16;
+  using V = hn::Vec<decltype(d)>;
   const int N = static_cast<int>(hn::Lanes(d));
   const int32_t* base = reinterpret_cast<const int32_t*>(s);
   const auto m8 = hn::Set(d, 0xFF), m16 = hn::Set(d, 0xFFFF);
-  int e = 0;
-  for (; e + N <= safe; e += N) {
+  auto finish = [&](int e, V p0, V p1) {
+    const auto wp = hn::LoadU(d, reinterpret_cast<const int32_t*>(wq + 2 * e));
+    const auto hv = hn::Add(hn::Mul(p0, hn::And(wp, m16)), hn::Mul(p1, hn::ShiftRight<16>(wp)));
+    hn::StoreU(hn::DemoteTo(d16, hn::ShiftRight<8>(hv)), d16, h + e);
+  };
+  auto gathered = [&](int e) {
     const auto o = hn::LoadU(d, off + e);
     const auto v = hn::GatherOffset(d, base, o);
-    const auto p0 = hn::And(v, m8);
-    hn::Vec<decltype(d)> p1;
+    V p1;
     if constexpr (kPitch == 1) {
       p1 = hn::And(hn::ShiftRight<8>(v), m8);
     } else if constexpr (kPitch == 3) {
@@ -40,11 +64,27 @@ void linH8(const Lum8u* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off,
     } else {
       p1 = hn::And(hn::GatherOffset(d, base, hn::Add(o, hn::Set(d, kPitch))), m8);
     }
-    const auto wp = hn::LoadU(d, reinterpret_cast<const int32_t*>(wq + 2 * e));
-    const auto hv = hn::Add(hn::Mul(p0, hn::And(wp, m16)), hn::Mul(p1, hn::ShiftRight<16>(wp)));
-    hn::StoreU(hn::DemoteTo(d16, hn::ShiftRight<8>(hv)), d16, h + e);
+    finish(e, hn::And(v, m8), p1);
+  };
+  int e = 0;
+#if LUMI_RESIZE_WINDOWS
+  if (win != nullptr && win->base != nullptr) {
+    for (int b = 0; (b + 1) * resize::kBlock <= n; ++b, e += resize::kBlock) {
+      const int32_t lo = win->base[b];
+      if (lo != resize::kNoWindow) {
+        __m512i a, c;
+        window8(s + lo, win->idx + b * 2 * resize::kBlock, &a, &c);
+        finish(e, V{a}, V{c});
+      } else if (e + N <= safe) {
+        gathered(e);
+      } else {
+        resize::linH8Scalar(s, off + e, wq + 2 * e, resize::kBlock, pitch, 0, nullptr, h + e);
+      }
+    }
   }
-  if (e < n) resize::linH8Scalar(s, off + e, wq + 2 * e, n - e, pitch, 0, h + e);
+#endif
+  for (; e + N <= safe; e += N) gathered(e);
+  if (e < n) resize::linH8Scalar(s, off + e, wq + 2 * e, n - e, pitch, 0, nullptr, h + e);
 }
 
 // Linear 8u down the columns: (h0 16384 + (h1 - h0) wy + 2^19) >> 20, the same integer.
@@ -68,20 +108,37 @@ void linV8(const int16_t* HWY_RESTRICT h0, const int16_t* HWY_RESTRICT h1, int w
 
 template <int kPitch>
 void linHf(const float* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off,
-           const float* HWY_RESTRICT wf, int n, int pitch, int safe, float* HWY_RESTRICT h) {
+           const float* HWY_RESTRICT wf, int n, int pitch, int safe, const resize::Windows* win,
+           float* HWY_RESTRICT h) {
   const hn::ScalableTag<float> df;
   const hn::RebindToSigned<decltype(df)> di;
+  using V = hn::Vec<decltype(df)>;
   const int N = static_cast<int>(hn::Lanes(df));
-  int e = 0;
-  for (; e + N <= n; e += N) {
-    const auto o = hn::LoadU(di, off + e);
-    const auto p0 = hn::GatherIndex(df, s, o);
-    const auto p1 = hn::GatherIndex(df, s, hn::Add(o, hn::Set(di, kPitch)));
-    hn::Vec<decltype(df)> w0, w1;
+  auto finish = [&](int e, V p0, V p1) {
+    V w0, w1;
     hn::LoadInterleaved2(df, wf + 2 * e, w0, w1);
     hn::StoreU(hn::Add(hn::Mul(p0, w0), hn::Mul(p1, w1)), df, h + e);
+  };
+  auto gathered = [&](int e) {
+    const auto o = hn::LoadU(di, off + e);
+    finish(e, hn::GatherIndex(df, s, o), hn::GatherIndex(df, s, hn::Add(o, hn::Set(di, kPitch))));
+  };
+  int e = 0;
+#if LUMI_RESIZE_WINDOWS
+  if (win != nullptr && win->base != nullptr) {
+    for (int b = 0; (b + 1) * resize::kBlock <= n; ++b, e += resize::kBlock) {
+      const int32_t lo = win->base[b];
+      if (lo == resize::kNoWindow) {
+        gathered(e);
+        continue;
+      }
+      const uint16_t* ix = win->idx + b * 2 * resize::kBlock;
+      finish(e, V{windowF(s + lo, ix)}, V{windowF(s + lo, ix + resize::kBlock)});
+    }
   }
-  if (e < n) resize::linHfScalar(s, off + e, wf + 2 * e, n - e, pitch, 0, h + e);
+#endif
+  for (; e + N <= n; e += N) gathered(e);
+  if (e < n) resize::linHfScalar(s, off + e, wf + 2 * e, n - e, pitch, 0, nullptr, h + e);
 }
 
 void linVf(const float* HWY_RESTRICT h0, const float* HWY_RESTRICT h1, float w0, float w1, int n,
@@ -110,26 +167,28 @@ HWY_INLINE V newton(D df, V p0, V p1, V p2, V p3, V a, V b, V c) {
 // Cubic along a row: four taps per element (8u from 32-bit gathers, 32f gathered directly).
 template <class T, int kPitch>
 void cubH(const T* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off, const float* HWY_RESTRICT k,
-          int n, int pitch, int safe, float* HWY_RESTRICT r) {
+          int n, int pitch, int safe, const resize::Windows* win, float* HWY_RESTRICT r) {
   const hn::ScalableTag<float> df;
   const hn::RebindToSigned<decltype(df)> di;
   const hn::RebindToUnsigned<decltype(df)> du;
   const int N = static_cast<int>(hn::Lanes(df));
   using V = hn::Vec<decltype(df)>;
-  int e = 0;
-  for (; e + N <= safe; e += N) {
+  auto finish = [&](int e, V p0, V p1, V p2, V p3) {
+    V a, b, c;
+    hn::LoadInterleaved3(df, k + 3 * e, a, b, c);
+    hn::StoreU(newton(df, p0, p1, p2, p3, a, b, c), df, r + e);
+  };
+  auto gathered = [&](int e) {
     const auto o = hn::LoadU(di, off + e);
-    V p0, p1, p2, p3;
     if constexpr (std::is_same_v<T, float>) {
-      p0 = hn::GatherIndex(df, s, o);
-      p1 = hn::GatherIndex(df, s, hn::Add(o, hn::Set(di, kPitch)));
-      p2 = hn::GatherIndex(df, s, hn::Add(o, hn::Set(di, 2 * kPitch)));
-      p3 = hn::GatherIndex(df, s, hn::Add(o, hn::Set(di, 3 * kPitch)));
+      finish(e, hn::GatherIndex(df, s, o), hn::GatherIndex(df, s, hn::Add(o, hn::Set(di, kPitch))),
+             hn::GatherIndex(df, s, hn::Add(o, hn::Set(di, 2 * kPitch))),
+             hn::GatherIndex(df, s, hn::Add(o, hn::Set(di, 3 * kPitch))));
     } else {
       const int32_t* base = reinterpret_cast<const int32_t*>(s);
-      const auto m8 = hn::Set(di, 0xFF);
-      auto byteAt = [&](auto v, auto shift) {
-        return hn::ConvertTo(df, hn::BitCast(di, hn::And(hn::ShiftRight<decltype(shift)::value>(hn::BitCast(du, v)), hn::BitCast(du, m8))));
+      const auto m8 = hn::BitCast(du, hn::Set(di, 0xFF));
+      auto at = [&](auto v, auto shift) {
+        return hn::ConvertTo(df, hn::BitCast(di, hn::And(hn::ShiftRight<decltype(shift)::value>(hn::BitCast(du, v)), m8)));
       };
       using S0 = std::integral_constant<int, 0>;
       using S8 = std::integral_constant<int, 8>;
@@ -137,23 +196,43 @@ void cubH(const T* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off, const float*
       using S24 = std::integral_constant<int, 24>;
       if constexpr (kPitch == 1) {
         const auto v = hn::GatherOffset(di, base, o);
-        p0 = byteAt(v, S0()), p1 = byteAt(v, S8()), p2 = byteAt(v, S16()), p3 = byteAt(v, S24());
+        finish(e, at(v, S0()), at(v, S8()), at(v, S16()), at(v, S24()));
       } else if constexpr (kPitch == 3) {
         const auto v = hn::GatherOffset(di, base, o);
         const auto w = hn::GatherOffset(di, base, hn::Add(o, hn::Set(di, 6)));
-        p0 = byteAt(v, S0()), p1 = byteAt(v, S24()), p2 = byteAt(w, S0()), p3 = byteAt(w, S24());
+        finish(e, at(v, S0()), at(v, S24()), at(w, S0()), at(w, S24()));
       } else {
-        p0 = byteAt(hn::GatherOffset(di, base, o), S0());
-        p1 = byteAt(hn::GatherOffset(di, base, hn::Add(o, hn::Set(di, kPitch))), S0());
-        p2 = byteAt(hn::GatherOffset(di, base, hn::Add(o, hn::Set(di, 2 * kPitch))), S0());
-        p3 = byteAt(hn::GatherOffset(di, base, hn::Add(o, hn::Set(di, 3 * kPitch))), S0());
+        finish(e, at(hn::GatherOffset(di, base, o), S0()),
+               at(hn::GatherOffset(di, base, hn::Add(o, hn::Set(di, kPitch))), S0()),
+               at(hn::GatherOffset(di, base, hn::Add(o, hn::Set(di, 2 * kPitch))), S0()),
+               at(hn::GatherOffset(di, base, hn::Add(o, hn::Set(di, 3 * kPitch))), S0()));
       }
     }
-    V a, b, c;
-    hn::LoadInterleaved3(df, k + 3 * e, a, b, c);
-    hn::StoreU(newton(df, p0, p1, p2, p3, a, b, c), df, r + e);
+  };
+  int e = 0;
+#if LUMI_RESIZE_WINDOWS
+  if (win != nullptr && win->base != nullptr) {
+    for (int b = 0; (b + 1) * resize::kBlock <= n; ++b, e += resize::kBlock) {
+      const int32_t lo = win->base[b];
+      const uint16_t* ix = win->idx + b * 4 * resize::kBlock;
+      if (lo == resize::kNoWindow) {
+        if (e + N <= safe) gathered(e);
+        else resize::cubHScalar(s, off + e, k + 3 * e, resize::kBlock, pitch, 0, nullptr, r + e);
+      } else if constexpr (std::is_same_v<T, float>) {
+        finish(e, V{windowF(s + lo, ix)}, V{windowF(s + lo, ix + 16)}, V{windowF(s + lo, ix + 32)},
+               V{windowF(s + lo, ix + 48)});
+      } else {
+        __m512i q0, q1, q2, q3;
+        window8(s + lo, ix, &q0, &q1);
+        window8(s + lo, ix + 32, &q2, &q3);
+        finish(e, V{_mm512_cvtepi32_ps(q0)}, V{_mm512_cvtepi32_ps(q1)}, V{_mm512_cvtepi32_ps(q2)},
+               V{_mm512_cvtepi32_ps(q3)});
+      }
+    }
   }
-  if (e < n) resize::cubHScalar(s, off + e, k + 3 * e, n - e, pitch, 0, r + e);
+#endif
+  for (; e + N <= safe; e += N) gathered(e);
+  if (e < n) resize::cubHScalar(s, off + e, k + 3 * e, n - e, pitch, 0, nullptr, r + e);
 }
 
 template <class T>
@@ -184,6 +263,69 @@ void cubV(const float* const* rows, const float* k, int n, T* HWY_RESTRICT dst, 
   }
 }
 
+// 2x2 means: channels split by the interleaved loads, pairs of neighbouring pixels summed.
+template <class D, class V>
+HWY_INLINE void loadPix(D d, const hn::TFromD<D>* p, int ch, V* v) {
+  if (ch == 1) v[0] = hn::LoadU(d, p);
+  else if (ch == 3) hn::LoadInterleaved3(d, p, v[0], v[1], v[2]);
+  else hn::LoadInterleaved4(d, p, v[0], v[1], v[2], v[3]);
+}
+template <class D, class V>
+HWY_INLINE void storePix(D d, hn::TFromD<D>* p, int ch, V* v) {
+  if (ch == 1) hn::StoreU(v[0], d, p);
+  else if (ch == 3) hn::StoreInterleaved3(v[0], v[1], v[2], d, p);
+  else hn::StoreInterleaved4(v[0], v[1], v[2], v[3], d, p);
+}
+template <class T, int kCh, int kUse>
+void half2(const T* HWY_RESTRICT r0, const T* HWY_RESTRICT r1, int count, T* HWY_RESTRICT dst) {
+  int i = 0;
+  if constexpr (std::is_same_v<T, Lum8u>) {
+    const hn::ScalableTag<uint8_t> d8;
+    const hn::Repartition<uint16_t, decltype(d8)> d16;
+    const hn::RebindToSigned<decltype(d16)> di16;
+    const hn::Rebind<uint8_t, decltype(d16)> dh;
+    const int N = static_cast<int>(hn::Lanes(d16));  // outputs per step
+    const auto lowByte = hn::Set(d16, 0xFF), two = hn::Set(d16, 2);
+    for (; i + N <= count; i += N) {
+      hn::Vec<decltype(d8)> a[4], b[4];
+      loadPix(d8, r0 + elemsOf(2 * i, kCh), kCh, a);
+      loadPix(d8, r1 + elemsOf(2 * i, kCh), kCh, b);
+      hn::Vec<decltype(dh)> o[4];
+      if (kUse < kCh) loadPix(dh, dst + elemsOf(i, kCh), kCh, o);  // the alpha stays
+      for (int c = 0; c < kUse; ++c) {
+        const auto x = hn::BitCast(d16, a[c]), y = hn::BitCast(d16, b[c]);
+        const auto sum = hn::Add(hn::Add(hn::And(x, lowByte), hn::ShiftRight<8>(x)),
+                                 hn::Add(hn::And(y, lowByte), hn::ShiftRight<8>(y)));
+        o[c] = hn::DemoteTo(dh, hn::BitCast(di16, hn::ShiftRight<2>(hn::Add(sum, two))));
+      }
+      storePix(dh, dst + elemsOf(i, kCh), kCh, o);
+    }
+  } else {
+    const hn::ScalableTag<float> df;
+    const int N = static_cast<int>(hn::Lanes(df));
+    const auto half = hn::Set(df, 0.5f), zero = hn::Zero(df);
+    for (; i + N <= count; i += N) {
+      hn::Vec<decltype(df)> a0[4], a1[4], b0[4], b1[4], o[4];
+      loadPix(df, r0 + elemsOf(2 * i, kCh), kCh, a0);
+      loadPix(df, r0 + elemsOf(2 * i + N, kCh), kCh, a1);
+      loadPix(df, r1 + elemsOf(2 * i, kCh), kCh, b0);
+      loadPix(df, r1 + elemsOf(2 * i + N, kCh), kCh, b1);
+      if (kUse < kCh) loadPix(df, dst + elemsOf(i, kCh), kCh, o);
+      for (int c = 0; c < kUse; ++c) {
+        auto h0 = hn::Add(zero, hn::Mul(half, hn::ConcatEven(df, a1[c], a0[c])));
+        h0 = hn::Add(h0, hn::Mul(half, hn::ConcatOdd(df, a1[c], a0[c])));
+        auto h1 = hn::Add(zero, hn::Mul(half, hn::ConcatEven(df, b1[c], b0[c])));
+        h1 = hn::Add(h1, hn::Mul(half, hn::ConcatOdd(df, b1[c], b0[c])));
+        o[c] = hn::Add(hn::Mul(h0, half), hn::Mul(half, h1));
+      }
+      storePix(df, dst + elemsOf(i, kCh), kCh, o);
+    }
+  }
+  if (i < count)
+    resize::half2Scalar<T, kCh, kUse>(r0 + elemsOf(2 * i, kCh), r1 + elemsOf(2 * i, kCh), count - i,
+                                      dst + elemsOf(i, kCh));
+}
+
 #endif
 LUMI_SIMD_END
 
@@ -191,23 +333,34 @@ LUMI_SIMD_END
 namespace lumi {
 namespace resize {
 
-LinH8Fn pickLinH8(int pitch, int* span) {
+// The window size a chosen kernel takes: only the AVX-512 entries use windows.
+template <class F, std::size_t N>
+int windowOf(F f, F const (&table)[N], int size) {
+  return N > kAVX3 && f != nullptr && f == table[kAVX3] ? size : 0;
+}
+
+LinH8Fn pickLinH8(int pitch, int* span, int* window) {
   LUMI_SIMD_TABLE(LinH8Fn, t1, linH8<1>);
   LUMI_SIMD_TABLE(LinH8Fn, t3, linH8<3>);
   LUMI_SIMD_TABLE(LinH8Fn, t4, linH8<4>);
-  const LinH8Fn f = pick(pitch == 1 ? t1 : pitch == 3 ? t3 : t4, &linH8Scalar);
+  const auto& t = pitch == 1 ? t1 : pitch == 3 ? t3 : t4;
+  const LinH8Fn f = pick(t, &linH8Scalar);
   *span = f == &linH8Scalar ? 0 : pitch == 4 ? 8 : 4;
+  *window = windowOf(f, t, 64);
   return f;
 }
 LinV8Fn pickLinV8() {
   LUMI_SIMD_TABLE(LinV8Fn, t, linV8);
   return pick(t, &linV8Scalar);
 }
-LinHfFn pickLinHf(int pitch) {
+LinHfFn pickLinHf(int pitch, int* window) {
   LUMI_SIMD_TABLE(LinHfFn, t1, linHf<1>);
   LUMI_SIMD_TABLE(LinHfFn, t3, linHf<3>);
   LUMI_SIMD_TABLE(LinHfFn, t4, linHf<4>);
-  return pick(pitch == 1 ? t1 : pitch == 3 ? t3 : t4, &linHfScalar);
+  const auto& t = pitch == 1 ? t1 : pitch == 3 ? t3 : t4;
+  const LinHfFn f = pick(t, &linHfScalar);
+  *window = windowOf(f, t, 32);
+  return f;
 }
 LinVfFn pickLinVf() {
   LUMI_SIMD_TABLE(LinVfFn, t, linVf);
@@ -215,27 +368,50 @@ LinVfFn pickLinVf() {
 }
 
 template <>
-CubHFn<Lum8u> pickCubH<Lum8u>(int pitch, int* span) {
+CubHFn<Lum8u> pickCubH<Lum8u>(int pitch, int* span, int* window) {
   LUMI_SIMD_TABLE(CubHFn<Lum8u>, t1, cubH<Lum8u, 1>);
   LUMI_SIMD_TABLE(CubHFn<Lum8u>, t3, cubH<Lum8u, 3>);
   LUMI_SIMD_TABLE(CubHFn<Lum8u>, t4, cubH<Lum8u, 4>);
-  const CubHFn<Lum8u> f = pick(pitch == 1 ? t1 : pitch == 3 ? t3 : t4, &cubHScalar<Lum8u>);
+  const auto& t = pitch == 1 ? t1 : pitch == 3 ? t3 : t4;
+  const CubHFn<Lum8u> f = pick(t, &cubHScalar<Lum8u>);
   *span = f == &cubHScalar<Lum8u> ? 0 : pitch == 1 ? 4 : pitch == 3 ? 10 : 16;
+  *window = windowOf(f, t, 64);
   return f;
 }
 template <>
-CubHFn<Lum32f> pickCubH<Lum32f>(int pitch, int* span) {
+CubHFn<Lum32f> pickCubH<Lum32f>(int pitch, int* span, int* window) {
   LUMI_SIMD_TABLE(CubHFn<Lum32f>, t1, cubH<Lum32f, 1>);
   LUMI_SIMD_TABLE(CubHFn<Lum32f>, t3, cubH<Lum32f, 3>);
   LUMI_SIMD_TABLE(CubHFn<Lum32f>, t4, cubH<Lum32f, 4>);
+  const auto& t = pitch == 1 ? t1 : pitch == 3 ? t3 : t4;
+  const CubHFn<Lum32f> f = pick(t, &cubHScalar<Lum32f>);
   *span = 0;
-  return pick(pitch == 1 ? t1 : pitch == 3 ? t3 : t4, &cubHScalar<Lum32f>);
+  *window = windowOf(f, t, 32);
+  return f;
 }
 template <>
-CubHFn<Lum16u> pickCubH<Lum16u>(int, int* span) {
-  *span = 0;
+CubHFn<Lum16u> pickCubH<Lum16u>(int, int* span, int* window) {
+  *span = *window = 0;
   return &cubHScalar<Lum16u>;
 }
+template <class T, class L>
+Half2Fn<T> pickHalf2() {
+  if constexpr (std::is_same_v<T, Lum16u>) {
+    return &half2Scalar<T, L::kCh, L::kUse>;
+  } else {
+    LUMI_SIMD_TABLE(Half2Fn<T>, t, half2<T, L::kCh, L::kUse>);
+    return pick(t, &half2Scalar<T, L::kCh, L::kUse>);
+  }
+}
+#define LUMI_HALF2(T) \
+  template Half2Fn<T> pickHalf2<T, C1>(); \
+  template Half2Fn<T> pickHalf2<T, C3>(); \
+  template Half2Fn<T> pickHalf2<T, C4>(); \
+  template Half2Fn<T> pickHalf2<T, AC4>();
+LUMI_HALF2(Lum8u)
+LUMI_HALF2(Lum16u)
+LUMI_HALF2(Lum32f)
+
 template <class T>
 CubVFn<T> pickCubV() {
   LUMI_SIMD_TABLE(CubVFn<T>, t, cubV<T>);
