@@ -97,9 +97,27 @@ void sizeRows(int w, int h, bool cplx) {
 #endif
 }
 
+// Products of packed spectra: cv::mulSpectrums on the same packed (CCS) images.
+void mulRows(int w, int h) {
+  auto a = std::make_shared<cv::Mat>(h, w, CV_32F), b = std::make_shared<cv::Mat>(h, w, CV_32F);
+  auto d = std::make_shared<cv::Mat>(h, w, CV_32F);
+  cv::RNG rng(12345);
+  rng.fill(*a, cv::RNG::UNIFORM, -1000, 1000);
+  rng.fill(*b, cv::RNG::UNIFORM, -1000, 1000);
+  const std::string size = std::to_string(w) + "x" + std::to_string(h);
+  const int as = static_cast<int>(a->step), bs = static_cast<int>(b->step), ds = static_cast<int>(d->step);
+  const LumiSize roi{w, h};
+  bench::row("fft2d", "mulpack " + size, 3.0 * w * h * 4, [=] { cv::mulSpectrums(*a, *b, *d, 0); },
+             [=] { lumiMulPack_32f_C1R(a->ptr<float>(), as, b->ptr<float>(), bs, d->ptr<float>(), ds, roi); });
+  bench::row("fft2d", "mulpackconj " + size, 3.0 * w * h * 4, [=] { cv::mulSpectrums(*a, *b, *d, 0, true); },
+             [=] { lumiMulPackConj_32f_C1R(a->ptr<float>(), as, b->ptr<float>(), bs, d->ptr<float>(), ds, roi); });
+}
+
 }  // namespace
 
 LUMI_BENCH_ROWS(fft2dRows) {
+  mulRows(512, 512);
+  mulRows(1000, 1000);
   for (bool cplx : {false, true})
     for (auto s : {cv::Size(512, 512), cv::Size(1024, 1024), cv::Size(600, 400), cv::Size(1000, 1000)})
       sizeRows(s.width, s.height, cplx);

@@ -27,16 +27,22 @@ using Grid = std::vector<Cd>;  // row-major H x W
 Grid refDft(const Grid& x, int W, int H, int sign) {
   Grid t(x.size()), out(x.size());
   const double pi = 3.14159265358979323846;
+  auto roots = [&](int n) {
+    Grid w(n);
+    for (int k = 0; k < n; ++k) w[k] = std::polar(1.0, sign * 2 * pi * k / n);
+    return w;
+  };
+  const Grid wx = roots(W), wy = roots(H);
   for (int r = 0; r < H; ++r)
     for (int k = 0; k < W; ++k) {
       Cd s = 0;
-      for (int n = 0; n < W; ++n) s += x[r * W + n] * std::polar(1.0, sign * 2 * pi * double(static_cast<long long>(k) * n % W) / W);
+      for (int n = 0; n < W; ++n) s += x[r * W + n] * wx[static_cast<long long>(k) * n % W];
       t[r * W + k] = s;
     }
   for (int c = 0; c < W; ++c)
     for (int k = 0; k < H; ++k) {
       Cd s = 0;
-      for (int n = 0; n < H; ++n) s += t[n * W + c] * std::polar(1.0, sign * 2 * pi * double(static_cast<long long>(k) * n % H) / H);
+      for (int n = 0; n < H; ++n) s += t[n * W + c] * wy[static_cast<long long>(k) * n % H];
       out[k * W + c] = s;
     }
   return out;
@@ -69,7 +75,7 @@ double tolerance(int W, int H, double rms, double scale) {
 
 const LumiSize kSizes[] = {{1, 1}, {2, 2}, {1, 7}, {6, 1}, {5, 4}, {4, 5}, {6, 6}, {13, 11}, {2, 9}, {16, 8}, {30, 17}, {35, 6}, {64, 64}};
 const LumiSize kSmall[] = {{1, 1}, {2, 2}, {1, 7}, {6, 1}, {5, 4}, {4, 5}, {6, 6}, {13, 11}, {2, 9}, {16, 8}};
-const LumiSize kPow2[] = {{1, 1}, {2, 2}, {1, 8}, {4, 1}, {8, 4}, {2, 16}, {32, 64}, {64, 16}};
+const LumiSize kPow2[] = {{1, 1}, {2, 2}, {1, 8}, {4, 1}, {8, 4}, {2, 16}, {32, 64}, {64, 16}, {128, 128}};
 
 int log2i(int n) {
   int k = 0;
@@ -372,6 +378,26 @@ TEST(Pack, MulPackIsTheProductOfFullSpectra) {
               ASSERT_NEAR(d.at(x, y, c), want[c][y * W + x], 1e-6 * n) << W << "x" << H << " conj " << conj << " " << L.name;
             }
       }
+}
+
+// One rounding of the double result: every path gives the same bits.
+TEST(Pack, MulPackRoundsTheDoubleProductOnce) {
+  Rng rng = makeRng(20);
+  const int W = 41;
+  std::vector<float> a(W), b(W), d(W), e(W);
+  for (int i = 0; i < W; ++i) a[i] = randomValue<float>(rng) / 7, b[i] = randomValue<float>(rng) / 3;
+  for (int conj = 0; conj < 2; ++conj) {
+    ASSERT_EQ((conj ? lumiMulPackConj_32f_C1R : lumiMulPack_32f_C1R)(a.data(), 4 * W, b.data(), 4 * W, d.data(), 4 * W, {W, 1}), lumStatusOk);
+    e = a;
+    ASSERT_EQ((conj ? lumiMulPackConj_32f_C1IR : lumiMulPack_32f_C1IR)(b.data(), 4 * W, e.data(), 4 * W, {W, 1}), lumStatusOk);
+    EXPECT_EQ(d[0], float(double(a[0]) * b[0]));
+    for (int j = 1; j < W; j += 2) {
+      const double xr = a[j], xi = a[j + 1], yr = b[j], yi = conj ? -double(b[j + 1]) : b[j + 1];
+      ASSERT_EQ(d[j], float(xr * yr - xi * yi)) << j;
+      ASSERT_EQ(d[j + 1], float(xr * yi + xi * yr)) << j;
+    }
+    EXPECT_TRUE(sameElements(e, d));
+  }
 }
 
 // The spectrum of a unit impulse at the origin is all ones: multiplying by it changes nothing.

@@ -3,17 +3,77 @@
 // corners as reals, the column-0 and column-(W-1) row pairs and every row's column pairs as
 // complex numbers. 32f products are formed in double and rounded once; the integer members form
 // them exactly and scale by 2^-scaleFactor with ties to even, as every scaled result does.
+//
+// The complex products of a C1 row (interleaved Re, Im from column 1 on) have a vector kernel:
+// each float product is exact in double and the two are summed in one rounding, as in the
+// scalar twin, so both give the same bits.
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "src/transform/pack_mul.cpp"
+#include "hwy/foreach_target.h"
+#include "hwy/highway.h"
+#include "core/simd.h"
 #include "lumi/fft.h"
 #include "transform/pack.h"
 
+LUMI_SIMD_BEGIN
+#if LUMI_TABLE_TARGET
+
+// d[i] = a[i] x b[i] (conj b[i]) for `pairs` interleaved complex values; d may be a or b.
+template <bool kConj>
+void mulPairs(const float* a, const float* b, float* d, int pairs) {
+  const hn::ScalableTag<double> dd;
+  const hn::Rebind<float, decltype(dd)> df;
+  const int N = static_cast<int>(hn::Lanes(dd));  // doubles per vector: N / 2 complex values
+  const int n = 2 * pairs;
+  // [-1, +1, ...]: Re takes -xi yi, Im +xr yi (conjugated: the other way round)
+  const auto sign = hn::OddEven(hn::Set(dd, kConj ? -1.0 : 1.0), hn::Set(dd, kConj ? 1.0 : -1.0));
+  int i = 0;
+  for (; i + N <= n; i += N) {
+    const auto x = hn::PromoteTo(dd, hn::LoadU(df, a + i));
+    const auto y = hn::PromoteTo(dd, hn::LoadU(df, b + i));
+    const auto yr = hn::DupEven(y), yi = hn::DupOdd(y);
+    const auto p = hn::Mul(x, yr);                                      // xr yr, xi yr
+    const auto q = hn::Mul(hn::Mul(hn::Reverse2(dd, x), yi), sign);     // -xi yi, xr yi
+    hn::StoreU(hn::DemoteTo(df, hn::Add(p, q)), df, d + i);
+  }
+  for (; i < n; i += 2) {
+    const double xr = a[i], xi = a[i + 1], yr = b[i], yi = kConj ? -static_cast<double>(b[i + 1]) : b[i + 1];
+    const float re = static_cast<float>(xr * yr - xi * yi), im = static_cast<float>(xr * yi + xi * yr);
+    d[i] = re;
+    d[i + 1] = im;
+  }
+}
+
+#endif
+LUMI_SIMD_END
+
+#if HWY_ONCE
 namespace lumi {
 namespace pack {
 namespace {
+
+using MulPairsFn = void (*)(const float*, const float*, float*, int);
+
+template <bool kConj>
+void mulPairsScalar(const float* a, const float* b, float* d, int pairs) {
+  for (int i = 0; i < 2 * pairs; i += 2) {
+    const double xr = a[i], xi = a[i + 1], yr = b[i], yi = kConj ? -static_cast<double>(b[i + 1]) : b[i + 1];
+    const float re = static_cast<float>(xr * yr - xi * yi), im = static_cast<float>(xr * yi + xi * yr);
+    d[i] = re;
+    d[i + 1] = im;
+  }
+}
+template <bool kConj>
+MulPairsFn pickMulPairs() {
+  LUMI_SIMD_TABLE(MulPairsFn, table, mulPairs<kConj>);
+  return pick(table, &mulPairsScalar<kConj>);
+}
 
 // The product rules: real(a, b) and cplx(a, b) for a = ar + i ai, b = br + i bi (conjugated
 // when kConj).
 template <class T, bool kConj>
 struct FloatMul {
+  MulPairsFn row = pickMulPairs<kConj>();  // the C1 row pairs
   static void real(const T* a, const T* b, T* d) {
     *d = static_cast<T>(static_cast<double>(*a) * *b);
   }
@@ -50,6 +110,14 @@ void mulPackImage(const T* s1, int st1, const T* s2, int st2, T* d, int dst, Lum
     const T* a = rowAt(s1, st1, r);
     const T* b = rowAt(s2, st2, r);
     T* o = rowAt(d, dst, r);
+    if constexpr (kCh == 1 && std::is_same_v<Op, FloatMul<float, true>>) {
+      op.row(a + 1, b + 1, o + 1, pairs);
+      return;
+    }
+    if constexpr (kCh == 1 && std::is_same_v<Op, FloatMul<float, false>>) {
+      op.row(a + 1, b + 1, o + 1, pairs);
+      return;
+    }
     for (int j = 1; j <= pairs; ++j) {
       const std::ptrdiff_t re = elemsOf(2 * j - 1, kCh), im = elemsOf(2 * j, kCh);
       for (int c = 0; c < kUse; ++c)
@@ -169,3 +237,4 @@ LUMI_MULPACK_ISFS(lumiMulPack_32s_C1IRSfs, Lum32s, C1)
 LUMI_MULPACK_ISFS(lumiMulPack_32s_C3IRSfs, Lum32s, C3)
 LUMI_MULPACK_ISFS(lumiMulPack_32s_C4IRSfs, Lum32s, C4)
 LUMI_MULPACK_ISFS(lumiMulPack_32s_AC4IRSfs, Lum32s, AC4)
+#endif  // HWY_ONCE
