@@ -36,27 +36,51 @@ const char* const kRangeName[] = {"Full", "Same", "Valid"};
 // ---- every export in tables [measure][range][layout C1, C3, C4, AC4] ----------------------
 template <class S, class D>
 using Fn = LumStatus (*)(const S*, int, LumiSize, const S*, int, LumiSize, D*, int);
-using FnSfs = LumStatus (*)(const Lum8u*, int, LumiSize, const Lum8u*, int, LumiSize, Lum8u*, int, int);
-#define LAYOUTS(P, T, S) {P##_##T##_C1R##S, P##_##T##_C3R##S, P##_##T##_C4R##S, P##_##T##_AC4R##S}
-#define RANGES(OP, MEAS, T, S)                                                     \
-  {LAYOUTS(lumi##OP##Full_##MEAS, T, S), LAYOUTS(lumi##OP##Same_##MEAS, T, S), \
-   LAYOUTS(lumi##OP##Valid_##MEAS, T, S)}
-#define MEASURES(T, S) \
-  {RANGES(CrossCorr, Norm, T, S), RANGES(CrossCorr, NormLevel, T, S), RANGES(SqrDistance, Norm, T, S)}
+using FnSfs = LumStatus (*)(const Lum8u*, int, LumiSize, const Lum8u*, int, LumiSize, Lum8u*, int,
+                            int);
+#define LAYOUTS(P, T, S) \
+  { P##_##T##_C1R##S, P##_##T##_C3R##S, P##_##T##_C4R##S, P##_##T##_AC4R##S }
+#define RANGES(OP, MEAS, T, S)                                                  \
+  {                                                                             \
+    LAYOUTS(lumi##OP##Full_##MEAS, T, S), LAYOUTS(lumi##OP##Same_##MEAS, T, S), \
+        LAYOUTS(lumi##OP##Valid_##MEAS, T, S)                                   \
+  }
+#define MEASURES(T, S)                                                 \
+  {                                                                    \
+    RANGES(CrossCorr, Norm, T, S), RANGES(CrossCorr, NormLevel, T, S), \
+        RANGES(SqrDistance, Norm, T, S)                                \
+  }
 const Fn<Lum32f, Lum32f> kFn32f[3][3][4] = MEASURES(32f, );
 const Fn<Lum8u, Lum32f> kFn8u32f[3][3][4] = MEASURES(8u32f, );
 const Fn<Lum8s, Lum32f> kFn8s32f[3][3][4] = MEASURES(8s32f, );
 const FnSfs kFn8u[3][3][4] = MEASURES(8u, Sfs);
 
-template <Group G> struct Types;
-template <> struct Types<k32f> { using S = Lum32f; using D = Lum32f; };
-template <> struct Types<k8u32f> { using S = Lum8u; using D = Lum32f; };
-template <> struct Types<k8s32f> { using S = Lum8s; using D = Lum32f; };
-template <> struct Types<k8uSfs> { using S = Lum8u; using D = Lum8u; };
+template <Group G>
+struct Types;
+template <>
+struct Types<k32f> {
+  using S = Lum32f;
+  using D = Lum32f;
+};
+template <>
+struct Types<k8u32f> {
+  using S = Lum8u;
+  using D = Lum32f;
+};
+template <>
+struct Types<k8s32f> {
+  using S = Lum8s;
+  using D = Lum32f;
+};
+template <>
+struct Types<k8uSfs> {
+  using S = Lum8u;
+  using D = Lum8u;
+};
 
 template <Group G, class S = typename Types<G>::S, class D = typename Types<G>::D>
-LumStatus call(int m, int r, int l, const S* s, int ss, LumiSize sr, const S* t, int ts, LumiSize tr,
-               D* d, int ds, int sf = 0) {
+LumStatus call(int m, int r, int l, const S* s, int ss, LumiSize sr, const S* t, int ts,
+               LumiSize tr, D* d, int ds, int sf = 0) {
   if constexpr (G == k32f) return kFn32f[m][r][l](s, ss, sr, t, ts, tr, d, ds);
   if constexpr (G == k8u32f) return kFn8u32f[m][r][l](s, ss, sr, t, ts, tr, d, ds);
   if constexpr (G == k8s32f) return kFn8s32f[m][r][l](s, ss, sr, t, ts, tr, d, ds);
@@ -94,7 +118,8 @@ double reference(Measure m, Range r, const GuardedImage<S>& src, const GuardedIm
   for (int i = 0; i < h; ++i)
     for (int j = 0; j < w; ++j) {
       int sx = x - o.x + j, sy = y - o.y + i;
-      double v = (sx >= 0 && sy >= 0 && sx < src.width() && sy < src.height()) ? src.at(sx, sy, c) : 0;
+      double v =
+          (sx >= 0 && sy >= 0 && sx < src.width() && sy < src.height()) ? src.at(sx, sy, c) : 0;
       double t = tpl.at(j, i, c) - mt;
       v -= mi;
       num += t * v;
@@ -117,14 +142,18 @@ double roundSfs(double v, int sf) {
 template <class S>
 void fillPair(GuardedImage<S>& src, GuardedImage<S>& tpl, Rng& rng) {
   src.fill([&](int, int, int) -> S {
-    if constexpr (std::is_floating_point_v<S>) return static_cast<S>(randInt(rng, -1000, 1000) * 0.37);
-    else return randomValue<S>(rng);
+    if constexpr (std::is_floating_point_v<S>)
+      return static_cast<S>(randInt(rng, -1000, 1000) * 0.37);
+    else
+      return randomValue<S>(rng);
   });
   tpl.fill([&](int x, int y, int c) -> S {
     double v = src.at((x + 3) % src.width(), (y + 2) % src.height(), c) + randInt(rng, -9, 9);
-    if constexpr (std::is_floating_point_v<S>) return static_cast<S>(v);
-    else return static_cast<S>(std::min<double>(std::max<double>(v, std::numeric_limits<S>::min()),
-                                                 std::numeric_limits<S>::max()));
+    if constexpr (std::is_floating_point_v<S>)
+      return static_cast<S>(v);
+    else
+      return static_cast<S>(std::min<double>(std::max<double>(v, std::numeric_limits<S>::min()),
+                                             std::numeric_limits<S>::max()));
   });
 }
 
@@ -167,8 +196,8 @@ void checkAgainstReference(Measure m, Range r, const Layout& lay, LumiSize ss, L
           tol = m == kSqr ? kTol * std::max(1.0, std::fabs(want)) : kTol;
         }
         if (!(std::fabs(got - ref) <= tol) && bad++ < 3)
-          ADD_FAILURE() << kMeasureName[m] << " " << kRangeName[r] << " " << lay.name << " ("
-                        << x << ", " << y << ", " << c << "): got " << +got << ", want " << ref;
+          ADD_FAILURE() << kMeasureName[m] << " " << kRangeName[r] << " " << lay.name << " (" << x
+                        << ", " << y << ", " << c << "): got " << +got << ", want " << ref;
       }
 }
 
@@ -180,8 +209,10 @@ void referenceSweep(uint32_t salt) {
       // templates of up to 25 pixels are correlated directly, larger ones through the FFT
       checkAgainstReference<G>(Measure(m), Range(r), kC1, {23, 17}, {5, 4}, salt + 10 * m + r);
       checkAgainstReference<G>(Measure(m), Range(r), kC1, {23, 17}, {6, 5}, salt + 40 + 10 * m + r);
-      checkAgainstReference<G>(Measure(m), Range(r), kAC4, {23, 17}, {5, 4}, salt + 80 + 10 * m + r);
-      checkAgainstReference<G>(Measure(m), Range(r), kAC4, {19, 9}, {4, 7}, salt + 120 + 10 * m + r);
+      checkAgainstReference<G>(Measure(m), Range(r), kAC4, {23, 17}, {5, 4},
+                               salt + 80 + 10 * m + r);
+      checkAgainstReference<G>(Measure(m), Range(r), kAC4, {19, 9}, {4, 7},
+                               salt + 120 + 10 * m + r);
     }
   // C3 and C4 on a smaller set: both paths, odd and even templates
   checkAgainstReference<G>(kNorm, kSame, kC3, {13, 11}, {3, 5}, salt + 200);
@@ -220,10 +251,12 @@ TEST(Correlation, ThreadsGiveSameBits) {
     GuardedImage<Lum32f> a(185, 135, 1), b(185, 135, 1);
     threads_omp_of_n_lum = 1;
     ASSERT_EQ(kFn8u32f[m][kValid][0](src.ptr(), src.step(), src.roi(), tpl.ptr(), tpl.step(),
-                                     tpl.roi(), a.ptr(), a.step()), lumStatusOk);
+                                     tpl.roi(), a.ptr(), a.step()),
+              lumStatusOk);
     threads_omp_of_n_lum = 2;
     ASSERT_EQ(kFn8u32f[m][kValid][0](src.ptr(), src.step(), src.roi(), tpl.ptr(), tpl.step(),
-                                     tpl.roi(), b.ptr(), b.step()), lumStatusOk);
+                                     tpl.roi(), b.ptr(), b.step()),
+              lumStatusOk);
     EXPECT_TRUE(sameElements(b.pixels(), a.pixels(), 185)) << kMeasureName[m];
     EXPECT_TRUE(b.guardsIntact());
     for (int y = 0; y < 135; y += 67)
@@ -241,7 +274,8 @@ TEST(Correlation, TemplateEqualToImage) {
   for (int m = 0; m < 3; ++m) {
     GuardedImage<Lum32f> d(1, 1, 1);
     ASSERT_EQ(kFn32f[m][kValid][0](img.ptr(), img.step(), img.roi(), img.ptr(), img.step(),
-                                   img.roi(), d.ptr(), d.step()), lumStatusOk);
+                                   img.roi(), d.ptr(), d.step()),
+              lumStatusOk);
     EXPECT_NEAR(d.at(0, 0), m == kSqr ? 0.0 : 1.0, 1e-5) << kMeasureName[m];
   }
 }
@@ -256,7 +290,8 @@ TEST(Correlation, ZeroTemplateGivesZero) {
       LumiSize ds = dstSize(Range(r), src.roi(), tpl.roi());
       GuardedImage<Lum32f> d(ds.width, ds.height, 1);
       ASSERT_EQ(kFn8u32f[m][r][0](src.ptr(), src.step(), src.roi(), tpl.ptr(), tpl.step(),
-                                  tpl.roi(), d.ptr(), d.step()), lumStatusOk);
+                                  tpl.roi(), d.ptr(), d.step()),
+                lumStatusOk);
       for (float v : d.pixels()) ASSERT_EQ(v, 0.0f) << kMeasureName[m] << " " << kRangeName[r];
     }
 }
@@ -273,15 +308,18 @@ TEST(Correlation, FlatRegionGivesZero) {
   GuardedImage<Lum32f> d(83, 63, 1);
   for (int m : {kNorm, kLevel}) {
     ASSERT_EQ(kFn32f[m][kValid][0](src.ptr(), src.step(), src.roi(), tpl.ptr(), tpl.step(),
-                                   tpl.roi(), d.ptr(), d.step()), lumStatusOk);
+                                   tpl.roi(), d.ptr(), d.step()),
+              lumStatusOk);
     for (int y = 20; y <= 42; ++y)
       for (int x = 30; x <= 52; ++x) ASSERT_EQ(d.at(x, y), 0.0f) << x << "," << y;
   }
   src.fill([&](int x, int y, int) {
-    return x >= 30 && x < 60 && y >= 20 && y < 50 ? 173.0f : static_cast<float>(randInt(rng, 0, 99));
+    return x >= 30 && x < 60 && y >= 20 && y < 50 ? 173.0f
+                                                  : static_cast<float>(randInt(rng, 0, 99));
   });
   ASSERT_EQ(kFn32f[kLevel][kValid][0](src.ptr(), src.step(), src.roi(), tpl.ptr(), tpl.step(),
-                                      tpl.roi(), d.ptr(), d.step()), lumStatusOk);
+                                      tpl.roi(), d.ptr(), d.step()),
+            lumStatusOk);
   for (int y = 20; y <= 42; ++y)
     for (int x = 30; x <= 52; ++x) ASSERT_NEAR(d.at(x, y), 0.0f, 1e-6) << x << "," << y;
 }
@@ -290,7 +328,10 @@ TEST(Correlation, ScaleFactor) {
   Rng rng = makeRng(6);
   GuardedImage<Lum8u> img(10, 8, 1);
   img.fillRandom(rng);
-  struct Case { int sf; Lum8u want; };
+  struct Case {
+    int sf;
+    Lum8u want;
+  };
   // The value of an image matched with itself is 1 (up to rounding).
   for (Case k : {Case{0, 1}, Case{-7, 128}, Case{-8, 255}, Case{INT_MIN, 255}, Case{2, 0},
                  Case{INT_MAX, 0}}) {
@@ -364,13 +405,17 @@ TEST(Correlation, AgreesWithOpenCV) {
   Rng rng = makeRng(8);
   cv::Mat src(61, 77, CV_8UC1), tpl(9, 12, CV_8UC1);
   for (int y = 0; y < src.rows; ++y)
-    for (int x = 0; x < src.cols; ++x) src.at<uchar>(y, x) = static_cast<uchar>(randInt(rng, 0, 255));
+    for (int x = 0; x < src.cols; ++x)
+      src.at<uchar>(y, x) = static_cast<uchar>(randInt(rng, 0, 255));
   src(cv::Rect(30, 20, 12, 9)).copyTo(tpl);
   tpl += 3;
   cv::Mat s32, t32;
   src.convertTo(s32, CV_32F);
   tpl.convertTo(t32, CV_32F);
-  struct Pair { int cv; Measure m; };
+  struct Pair {
+    int cv;
+    Measure m;
+  };
   for (Pair pr : {Pair{cv::TM_CCORR_NORMED, kNorm}, Pair{cv::TM_CCOEFF_NORMED, kLevel}}) {
     cv::Mat want;
     cv::matchTemplate(s32, t32, want, pr.cv);
@@ -378,10 +423,12 @@ TEST(Correlation, AgreesWithOpenCV) {
     const LumiSize sr{src.cols, src.rows}, tr{tpl.cols, tpl.rows};
     ASSERT_EQ(kFn32f[pr.m][kValid][0](s32.ptr<Lum32f>(), static_cast<int>(s32.step), sr,
                                       t32.ptr<Lum32f>(), static_cast<int>(t32.step), tr,
-                                      got.ptr<Lum32f>(), static_cast<int>(got.step)), lumStatusOk);
+                                      got.ptr<Lum32f>(), static_cast<int>(got.step)),
+              lumStatusOk);
     ASSERT_EQ(kFn8u32f[pr.m][kValid][0](src.ptr<Lum8u>(), static_cast<int>(src.step), sr,
                                         tpl.ptr<Lum8u>(), static_cast<int>(tpl.step), tr,
-                                        got8.ptr<Lum32f>(), static_cast<int>(got8.step)), lumStatusOk);
+                                        got8.ptr<Lum32f>(), static_cast<int>(got8.step)),
+              lumStatusOk);
     EXPECT_LE(cv::norm(got, want, cv::NORM_INF), kTolCv) << kMeasureName[pr.m];
     EXPECT_LE(cv::norm(got8, want, cv::NORM_INF), kTolCv) << kMeasureName[pr.m];
     cv::Point best;

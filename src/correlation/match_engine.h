@@ -42,9 +42,11 @@ struct Store32f {
 // (only from NaN or infinite input) gives 0.
 struct Store8uSfs {
   explicit Store8uSfs(int scaleFactor)
-      : sf(ScaleFactor::resolve(scaleFactor, 8, 9)), normal(sf.normalFactor()), factor(sf.factor()) {}
+      : sf(ScaleFactor::resolve(scaleFactor, 8, 9)),
+        normal(sf.normalFactor()),
+        factor(sf.factor()) {}
   ScaleFactor sf;
-  bool normal;    // 2^-sf is a normal double: multiplying by it is exact
+  bool normal;  // 2^-sf is a normal double: multiplying by it is exact
   double factor;
   void operator()(Lum8u* p, float v) const {
     const double s = normal ? static_cast<double>(v) * factor : sf.scale(static_cast<double>(v));
@@ -115,13 +117,13 @@ Norms loadTemplate(const S* tpl, int tplStep, const Plan& p, int c, float* tile)
 inline std::size_t alignUp(std::size_t n) { return (n + 63) & ~static_cast<std::size_t>(63); }
 
 struct TileBuffers {
-  float* tile;            // fftW x fftH: the source area, then the correlation values
-  float* spec;            // fftW x fftH: the tile's spectrum
-  double *rowS, *rowE;    // fftH x tileW: sums of w consecutive values (squares) of each row
-  double *accS, *accE;    // tileW: the sliding column state
-  float *a, *b;           // tileW x tileH: energy or spread, window mean
-  float* out;             // tileW: one row of results
-  Lum8u* work;            // the transform's work buffer
+  float* tile;          // fftW x fftH: the source area, then the correlation values
+  float* spec;          // fftW x fftH: the tile's spectrum
+  double *rowS, *rowE;  // fftH x tileW: sums of w consecutive values (squares) of each row
+  double *accS, *accE;  // tileW: the sliding column state
+  float *a, *b;         // tileW x tileH: energy or spread, window mean
+  float* out;           // tileW: one row of results
+  Lum8u* work;          // the transform's work buffer
 
   struct Sizes {
     std::size_t area, rows, acc, places, out;
@@ -139,8 +141,8 @@ struct TileBuffers {
   }
   static TileBuffers carve(const Plan& p, Lum8u* block) {
     const Sizes z = sizes(p);
-    Lum8u* q = reinterpret_cast<Lum8u*>(
-        (reinterpret_cast<std::uintptr_t>(block) + 63) & ~static_cast<std::uintptr_t>(63));
+    Lum8u* q = reinterpret_cast<Lum8u*>((reinterpret_cast<std::uintptr_t>(block) + 63) &
+                                        ~static_cast<std::uintptr_t>(63));
     auto take = [&q](std::size_t n) {
       Lum8u* r = q;
       q += n;
@@ -251,8 +253,8 @@ float subtractLevel(float* tile, const Plan& p, int tw, int th, const float* mea
     for (int k = 0; k < 4; ++k) sum[k] += mean[i + k];
   for (; i < n; ++i) sum[0] += mean[i];
   const double m = (sum[0] + sum[1] + sum[2] + sum[3]) / static_cast<double>(n);
-  const float level = std::is_floating_point_v<S> ? static_cast<float>(m)
-                                                  : static_cast<float>(std::floor(m + 0.5));
+  const float level =
+      std::is_floating_point_v<S> ? static_cast<float>(m) : static_cast<float>(std::floor(m + 0.5));
   const int cw = tw + p.tpl.width - 1, chh = th + p.tpl.height - 1;
   for (int i = 0; i < chh; ++i) {
     float* r = tile + static_cast<std::size_t>(i) * p.fftW;
@@ -288,9 +290,8 @@ void finishTile(const float* num, const Plan& p, const Norms& k, const Kernels& 
 // ---- the whole call --------------------------------------------------------------------------
 // Parallel families fork when there are several tiles and enough transform work.
 inline bool forkTiles(const Plan& p, int channels) {
-  return p.tiles() >= 2 &&
-         forkByWork(LumiSize{p.fftW, p.fftH}, static_cast<long long>(p.tiles()) * channels,
-                    1 << 16);
+  return p.tiles() >= 2 && forkByWork(LumiSize{p.fftW, p.fftH},
+                                      static_cast<long long>(p.tiles()) * channels, 1 << 16);
 }
 
 template <class S, class D, class L, Range R, Measure M, class Store>
@@ -317,8 +318,8 @@ LumStatus run(const S* src, int srcStep, LumiSize srcRoi, const S* tpl, int tplS
   if (sharedBytes > 0x7fffffffu) return lumStatusMemAllocErr;
   Lum8u* shared = lumsMalloc_8u(static_cast<int>(sharedBytes));
   if (!shared) return lumStatusMemAllocErr;
-  Lum8u* q = reinterpret_cast<Lum8u*>(
-      (reinterpret_cast<std::uintptr_t>(shared) + 63) & ~static_cast<std::uintptr_t>(63));
+  Lum8u* q = reinterpret_cast<Lum8u*>((reinterpret_cast<std::uintptr_t>(shared) + 63) &
+                                      ~static_cast<std::uintptr_t>(63));
   Norms k[kUse];
   const float* spectra[kUse];
   float* tmp = reinterpret_cast<float*>(q + kUse * area);
@@ -334,8 +335,9 @@ LumStatus run(const S* src, int srcStep, LumiSize srcRoi, const S* tpl, int tplS
   }
 
   Kernels kern;
-  kern.finish = M == Measure::kNorm ? pickFinishNorm()
-                : M == Measure::kLevel ? pickFinishLevel() : pickFinishSqr();
+  kern.finish = M == Measure::kNorm    ? pickFinishNorm()
+                : M == Measure::kLevel ? pickFinishLevel()
+                                       : pickFinishSqr();
   const double invN = 1.0 / (static_cast<double>(tplRoi.width) * tplRoi.height);
   std::atomic<int> failure{lumStatusOk};
   const bool parallel = M != Measure::kNorm && forkTiles(p, kUse);
@@ -379,20 +381,20 @@ LumStatus run(const S* src, int srcStep, LumiSize srcRoi, const S* tpl, int tplS
 }  // namespace lumi
 
 // One stamp per export: the 32f-result members and the 8u members with a scale factor.
-#define LUMI_MATCH(NAME, S, D, L, RANGE, MEASURE)                                             \
-  LUMI_API LumStatus NAME(const S* pSrc, int srcStep, LumiSize srcRoiSize, const S* pTpl,      \
-                          int tplStep, LumiSize tplRoiSize, D* pDst, int dstStep) {            \
-    return ::lumi::match::run<S, D, ::lumi::L, ::lumi::match::Range::RANGE,                    \
-                              ::lumi::match::Measure::MEASURE>(                                \
-        pSrc, srcStep, srcRoiSize, pTpl, tplStep, tplRoiSize, pDst, dstStep,                   \
-        ::lumi::match::Store32f());                                                            \
+#define LUMI_MATCH(NAME, S, D, L, RANGE, MEASURE)                                                  \
+  LUMI_API LumStatus NAME(const S* pSrc, int srcStep, LumiSize srcRoiSize, const S* pTpl,          \
+                          int tplStep, LumiSize tplRoiSize, D* pDst, int dstStep) {                \
+    return ::lumi::match::run<S, D, ::lumi::L, ::lumi::match::Range::RANGE,                        \
+                              ::lumi::match::Measure::MEASURE>(pSrc, srcStep, srcRoiSize, pTpl,    \
+                                                               tplStep, tplRoiSize, pDst, dstStep, \
+                                                               ::lumi::match::Store32f());         \
   }
-#define LUMI_MATCH_SFS(NAME, L, RANGE, MEASURE)                                                \
-  LUMI_API LumStatus NAME(const Lum8u* pSrc, int srcStep, LumiSize srcRoiSize,                 \
-                          const Lum8u* pTpl, int tplStep, LumiSize tplRoiSize, Lum8u* pDst,    \
-                          int dstStep, int scaleFactor) {                                      \
-    return ::lumi::match::run<Lum8u, Lum8u, ::lumi::L, ::lumi::match::Range::RANGE,            \
-                              ::lumi::match::Measure::MEASURE>(                                \
-        pSrc, srcStep, srcRoiSize, pTpl, tplStep, tplRoiSize, pDst, dstStep,                   \
-        ::lumi::match::Store8uSfs(scaleFactor));                                               \
+#define LUMI_MATCH_SFS(NAME, L, RANGE, MEASURE)                                                   \
+  LUMI_API LumStatus NAME(const Lum8u* pSrc, int srcStep, LumiSize srcRoiSize, const Lum8u* pTpl, \
+                          int tplStep, LumiSize tplRoiSize, Lum8u* pDst, int dstStep,             \
+                          int scaleFactor) {                                                      \
+    return ::lumi::match::run<Lum8u, Lum8u, ::lumi::L, ::lumi::match::Range::RANGE,               \
+                              ::lumi::match::Measure::MEASURE>(                                   \
+        pSrc, srcStep, srcRoiSize, pTpl, tplStep, tplRoiSize, pDst, dstStep,                      \
+        ::lumi::match::Store8uSfs(scaleFactor));                                                  \
   }

@@ -4,10 +4,11 @@
 // bit for bit; the twins finish the columns past the last whole vector.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/correlation/match_kernels.cpp"
+#include "correlation/match_kernels.h"
+
+#include "core/simd.h"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
-#include "core/simd.h"
-#include "correlation/match_kernels.h"
 
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
@@ -22,7 +23,8 @@ HWY_INLINE int startColumnsVec(const double* HWY_RESTRICT rows, int tw, int h,
   const int xEnd = tw - tw % N;
   for (int x = 0; x < xEnd; x += N) {
     auto a = hn::Zero(d);
-    for (int i = 0; i < h; ++i) a = hn::Add(a, hn::LoadU(d, rows + static_cast<std::size_t>(i) * tw + x));
+    for (int i = 0; i < h; ++i)
+      a = hn::Add(a, hn::LoadU(d, rows + static_cast<std::size_t>(i) * tw + x));
     hn::StoreU(a, d, acc + x);
   }
   for (int x = xEnd; x < tw; ++x) {
@@ -45,7 +47,8 @@ void slideEnergy(const double* rows, int tw, int th, int h, double* acc, float* 
     for (int x = 0; x < xEnd; x += N) {
       auto a = hn::LoadU(d, acc + x);
       hn::StoreU(hn::DemoteTo(df, hn::IfThenElseZero(hn::Gt(a, hn::Zero(d)), a)), df, o + x);
-      if (more) hn::StoreU(hn::Add(a, hn::Sub(hn::LoadU(d, in + x), hn::LoadU(d, old + x))), d, acc + x);
+      if (more)
+        hn::StoreU(hn::Add(a, hn::Sub(hn::LoadU(d, in + x), hn::LoadU(d, old + x))), d, acc + x);
     }
   }
   slideEnergyFrom(xEnd, rows, tw, th, h, acc, out);
@@ -60,7 +63,8 @@ void slideLevel(const double* s, const double* e, int tw, int th, int h, double 
   startColumnsVec(e, tw, h, accE);
   const auto vn = hn::Set(d, invN), vflat = hn::Set(d, flat);
   for (int y = 0; y < th; ++y) {
-    const std::size_t in = static_cast<std::size_t>(y + h) * tw, old = static_cast<std::size_t>(y) * tw;
+    const std::size_t in = static_cast<std::size_t>(y + h) * tw,
+                      old = static_cast<std::size_t>(y) * tw;
     const bool more = y + 1 < th;
     for (int x = 0; x < xEnd; x += N) {
       auto as = hn::LoadU(d, accS + x), ae = hn::LoadU(d, accE + x);
@@ -69,8 +73,10 @@ void slideLevel(const double* s, const double* e, int tw, int th, int h, double 
       hn::StoreU(hn::DemoteTo(df, var), df, out + old + x);
       hn::StoreU(hn::DemoteTo(df, hn::Mul(as, vn)), df, mean + old + x);
       if (more) {
-        hn::StoreU(hn::Add(as, hn::Sub(hn::LoadU(d, s + in + x), hn::LoadU(d, s + old + x))), d, accS + x);
-        hn::StoreU(hn::Add(ae, hn::Sub(hn::LoadU(d, e + in + x), hn::LoadU(d, e + old + x))), d, accE + x);
+        hn::StoreU(hn::Add(as, hn::Sub(hn::LoadU(d, s + in + x), hn::LoadU(d, s + old + x))), d,
+                   accS + x);
+        hn::StoreU(hn::Add(ae, hn::Sub(hn::LoadU(d, e + in + x), hn::LoadU(d, e + old + x))), d,
+                   accE + x);
       }
     }
   }
@@ -85,7 +91,8 @@ HWY_INLINE V clampVec(D, V v, V b) {
 
 // kMode 0: Norm, 1: squared distance, 2: mean-removed.
 template <int kMode>
-void finishRow(const float* num, const float* a, const float* b, int n, const Norms& k, float* out) {
+void finishRow(const float* num, const float* a, const float* b, int n, const Norms& k,
+               float* out) {
   const hn::ScalableTag<float> d;
   const int N = static_cast<int>(hn::Lanes(d));
   const auto bound = hn::Set(d, k.bound), floored = hn::Set(d, k.floored);
@@ -143,7 +150,8 @@ void correlate(const float* tile, const float* tpl, std::size_t stride, int w, i
       auto a = hn::Zero(d);
       for (int i = 0; i < h; ++i)
         for (int j = 0; j < w; ++j)
-          a = hn::Add(a, hn::Mul(hn::Set(d, tpl[i * stride + j]), hn::LoadU(d, row + i * stride + x + j)));
+          a = hn::Add(
+              a, hn::Mul(hn::Set(d, tpl[i * stride + j]), hn::LoadU(d, row + i * stride + x + j)));
       hn::StoreU(a, d, o + x);
     }
     xEnd = x;

@@ -1,7 +1,7 @@
 // Per-tile kernels of template matching: the window sums of every placement, the normalisation
-// of the correlation values and the direct correlation of small templates. Each has a plain scalar twin here and a vector
-// version in match_kernels.cpp; the twins are also the tails of the vector kernels. Both do the
-// same IEEE operations in the same order, so their results agree bit for bit.
+// of the correlation values and the direct correlation of small templates. Each has a plain scalar
+// twin here and a vector version in match_kernels.cpp; the twins are also the tails of the vector
+// kernels. Both do the same IEEE operations in the same order, so their results agree bit for bit.
 #pragma once
 
 #include <cmath>
@@ -51,7 +51,8 @@ inline void slideLevelFrom(int x0, const double* s, const double* e, int tw, int
                            double invN, double flat, double* accS, double* accE, float* out,
                            float* mean) {
   for (int y = 0; y < th; ++y) {
-    const std::size_t in = static_cast<std::size_t>(y + h) * tw, old = static_cast<std::size_t>(y) * tw;
+    const std::size_t in = static_cast<std::size_t>(y + h) * tw,
+                      old = static_cast<std::size_t>(y) * tw;
     float* o = out + old;
     float* m = mean + old;
     for (int x = x0; x < tw; ++x) {
@@ -75,12 +76,12 @@ inline void slideLevelScalar(const double* s, const double* e, int tw, int th, i
 // ---- normalisation -----------------------------------------------------------------------------
 // Constants of one template channel, all single precision.
 struct Norms {
-  float bound;      // |tpl|, or sqrt(sum (tpl - mean)^2) for the mean-removed measure
-  float floored;    // max(|tpl|, eps), or sqrt(max(sum (tpl - mean)^2, eps))
-  float sqrtEps;    // sqrt(eps): sqrt(max(E, eps)) = max(sqrt(E), sqrt(eps)) as sqrt is monotonic
-  float energy;     // |tpl|^2
-  float resid;      // sum of the stored mean-removed template (0 up to rounding)
-  float level;      // the level the image tile was shifted by
+  float bound;    // |tpl|, or sqrt(sum (tpl - mean)^2) for the mean-removed measure
+  float floored;  // max(|tpl|, eps), or sqrt(max(sum (tpl - mean)^2, eps))
+  float sqrtEps;  // sqrt(eps): sqrt(max(E, eps)) = max(sqrt(E), sqrt(eps)) as sqrt is monotonic
+  float energy;   // |tpl|^2
+  float resid;    // sum of the stored mean-removed template (0 up to rounding)
+  float level;    // the level the image tile was shifted by
 };
 
 // Per placement, with the numerator clamped to its Cauchy-Schwarz bound:
@@ -122,8 +123,8 @@ inline void finishNormScalar(const float* num, const float* a, const float* b, i
                              const Norms& k, float* out) {
   finishNormFrom(0, num, a, b, n, k, out);
 }
-inline void finishSqrScalar(const float* num, const float* a, const float* b, int n,
-                            const Norms& k, float* out) {
+inline void finishSqrScalar(const float* num, const float* a, const float* b, int n, const Norms& k,
+                            float* out) {
   finishSqrFrom(0, num, a, b, n, k, out);
 }
 inline void finishLevelScalar(const float* num, const float* a, const float* b, int n,
@@ -134,8 +135,8 @@ inline void finishLevelScalar(const float* num, const float* a, const float* b, 
 // ---- direct correlation of small templates -----------------------------------------------------
 // out(x, y) = sum over i < h, j < w of tpl(j, i) x tile(x + j, y + i) for tw x th placements,
 // summed in float in that order; tile, template and out rows are `stride` floats apart.
-using CorrelateFn = void (*)(const float* tile, const float* tpl, std::size_t stride, int w,
-                             int h, int tw, int th, float* out);
+using CorrelateFn = void (*)(const float* tile, const float* tpl, std::size_t stride, int w, int h,
+                             int tw, int th, float* out);
 
 inline float correlateAt(const float* tile, const float* tpl, std::size_t stride, int w, int h) {
   float acc = 0.0f;

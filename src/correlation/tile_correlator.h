@@ -52,7 +52,9 @@ inline int fftOrder(int tplExtent, long long dstExtent) {
 // kDirectTile x kDirectTile placements: cheaper than two transforms per tile.
 constexpr long long kDirectTaps = 25;
 constexpr int kDirectTile = 128;
-inline bool directFor(LumiSize tpl) { return static_cast<long long>(tpl.width) * tpl.height <= kDirectTaps; }
+inline bool directFor(LumiSize tpl) {
+  return static_cast<long long>(tpl.width) * tpl.height <= kDirectTaps;
+}
 
 // False when the destination or the FFT tile cannot be addressed (extents past INT_MAX).
 inline bool makePlan(Range range, LumiSize src, LumiSize tpl, Plan* p) {
@@ -123,8 +125,8 @@ class TileCorrelator {
       direct_ = pickCorrelate();
       return lumStatusOk;
     }
-    if (LumStatus st = lumiFFTInitAlloc_R_32f(&spec_, p.orderX, p.orderY, lumFftDivInvByN,
-                                              lumHintNone)) {
+    if (LumStatus st =
+            lumiFFTInitAlloc_R_32f(&spec_, p.orderX, p.orderY, lumFftDivInvByN, lumHintNone)) {
       spec_ = nullptr;
       return st;
     }
@@ -158,8 +160,7 @@ class TileCorrelator {
     }
     if (LumStatus st = lumiFFTFwd_RToPack_32f_C1R(tile, step(), spec, step(), spec_, work))
       return st;
-    if (LumStatus st = lumiMulPack_32f_C1IR(tpl, step(), spec, step(), LumiSize{w_, h_}))
-      return st;
+    if (LumStatus st = lumiMulPack_32f_C1IR(tpl, step(), spec, step(), LumiSize{w_, h_})) return st;
     if (LumStatus st = lumiFFTInv_PackToR_32f_C1R(spec, step(), tile, step(), spec_, work))
       return st;
     *result = tile;
