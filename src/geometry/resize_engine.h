@@ -39,6 +39,12 @@ LinH8Fn pickLinH8(int pitch, int* span, int* window);
 LinV8Fn pickLinV8();
 LinHfFn pickLinHf(int pitch, int* window);
 LinVfFn pickLinVf();
+using LinF8Fn = void (*)(const Lum8u*, const Lum8u*, const int32_t*, const int16_t*, int, int, int,
+                         const Windows*, int, Lum8u*, bool);
+using LinFfFn = void (*)(const float*, const float*, const int32_t*, const float*, int, int, int,
+                         const Windows*, float, float, float*, bool);
+LinF8Fn pickLinF8(int pitch);  // span and window as pickLinH8's
+LinFfFn pickLinFf(int pitch);
 template <class T>
 CubHFn<T> pickCubH(int pitch, int* span, int* window);
 template <>
@@ -127,6 +133,15 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
         const LinV8Fn vf = pickLinV8();
         const int safe = safePrefix(tx.off, n, span, limit);
         windows(2, 2);
+        if (ay.step >= 1.5) {  // source rows are not shared: both rows in one pass
+          const LinF8Fn ff = pickLinF8(kCh);
+          for (int j = y0; j < y1; ++j) {
+            const int b = ty.off[j];
+            ff(srow(b), srow(b + 1), tx.off, tx.wq, n, kCh, safe, &win, ty.wq[2 * j + 1],
+               rowAt(dst, dstep, j), kAlpha);
+          }
+          break;
+        }
         RowRing<int16_t, 2> ring(scratch, slotBytes);
         for (int j = y0; j < y1; ++j) {
           const int b = ty.off[j];
@@ -148,6 +163,15 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
         const LinHfFn hf = pickLinHf(kCh, &window);
         const LinVfFn vf = pickLinVf();
         windows(2, 2);
+        if (ay.step >= 1.5) {
+          const LinFfFn ff = pickLinFf(kCh);
+          for (int j = y0; j < y1; ++j) {
+            const int b = ty.off[j];
+            ff(srow(b), srow(b + 1), tx.off, tx.wf, n, kCh, n, &win, ty.wf[2 * j], ty.wf[2 * j + 1],
+               rowAt(dst, dstep, j), kAlpha);
+          }
+          break;
+        }
         RowRing<float, 2> ring(scratch, slotBytes);
         for (int j = y0; j < y1; ++j) {
           const int b = ty.off[j];

@@ -344,6 +344,31 @@ inline void linVfScalar(const float* h0, const float* h1, float w0, float w1, in
   }
 }
 
+// Linear rows of reductions, where destination rows share no source rows: both source rows
+// along the row and down the column in one pass, the same integers and floats as above.
+inline void linF8Scalar(const Lum8u* s0, const Lum8u* s1, const int32_t* off, const int16_t* wq,
+                        int n, int pitch, int /*safe*/, const Windows* /*win*/, int wy, Lum8u* d,
+                        bool keepAlpha) {
+  for (int e = 0; e < n; ++e) {
+    if (keepAlpha && (e & 3) == 3) continue;
+    const Lum8u *p = s0 + off[e], *q = s1 + off[e];
+    const int h0 = (p[0] * wq[2 * e] + p[pitch] * wq[2 * e + 1]) >> 8;
+    const int h1 = (q[0] * wq[2 * e] + q[pitch] * wq[2 * e + 1]) >> 8;
+    d[e] = static_cast<Lum8u>((h0 * (kOne - wy) + h1 * wy + (1 << 19)) >> 20);
+  }
+}
+inline void linFfScalar(const float* s0, const float* s1, const int32_t* off, const float* wf,
+                        int n, int pitch, int /*safe*/, const Windows* /*win*/, float w0, float w1,
+                        float* d, bool keepAlpha) {
+  for (int e = 0; e < n; ++e) {
+    if (keepAlpha && (e & 3) == 3) continue;
+    const float *p = s0 + off[e], *q = s1 + off[e];
+    const float h0 = p[0] * wf[2 * e] + p[pitch] * wf[2 * e + 1];
+    const float h1 = q[0] * wf[2 * e] + q[pitch] * wf[2 * e + 1];
+    d[e] = h0 * w0 + h1 * w1;
+  }
+}
+
 // Cubic along a row into floats (Newton form, coefficients per element).
 template <class T>
 inline void cubHScalar(const T* s, const int32_t* off, const float* k, int n, int pitch,

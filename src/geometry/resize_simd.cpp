@@ -154,6 +154,110 @@ void linVf(const float* HWY_RESTRICT h0, const float* HWY_RESTRICT h1, float w0,
   if (e < n) resize::linVfScalar(h0 + e, h1 + e, w0, w1, n - e, dst + e, keepAlpha);
 }
 
+// Linear rows of reductions: both source rows' sums in registers, then the column.
+template <int kPitch>
+void linF8(const Lum8u* HWY_RESTRICT s0, const Lum8u* HWY_RESTRICT s1,
+           const int32_t* HWY_RESTRICT off, const int16_t* HWY_RESTRICT wq, int n, int pitch,
+           int safe, const resize::Windows* win, int wy, Lum8u* HWY_RESTRICT dst, bool keepAlpha) {
+  const hn::ScalableTag<int32_t> d;
+  const hn::RebindToUnsigned<decltype(d)> du;
+  const hn::Rebind<uint8_t, decltype(d)> d8;
+  using V = hn::Vec<decltype(d)>;
+  const int N = static_cast<int>(hn::Lanes(d));
+  const auto m8 = hn::Set(d, 0xFF), m16 = hn::Set(d, 0xFFFF);
+  const auto w = hn::Set(d, wy), half = hn::Set(d, 1 << 19);
+  const auto colour = colourLanes(d8);
+  auto sums = [&](int e, V p0, V p1) {
+    const auto wp = hn::LoadU(d, reinterpret_cast<const int32_t*>(wq + 2 * e));
+    return hn::ShiftRight<8>(hn::Add(hn::Mul(p0, hn::And(wp, m16)), hn::Mul(p1, hn::ShiftRight<16>(wp))));
+  };
+  auto column = [&](int e, V h0, V h1) {
+    const auto v = hn::ShiftRight<20>(hn::Add(hn::Add(hn::ShiftLeft<14>(h0), hn::Mul(hn::Sub(h1, h0), w)), half));
+    storeColour(d8, hn::DemoteTo(d8, v), dst + e, keepAlpha, colour);
+  };
+  auto gathered = [&](const Lum8u* s, int e) {
+    const int32_t* base = reinterpret_cast<const int32_t*>(s);
+    const auto o = hn::LoadU(d, off + e);
+    const auto v = hn::GatherOffset(d, base, o);
+    V p1;
+    if constexpr (kPitch == 1) {
+      p1 = hn::And(hn::ShiftRight<8>(v), m8);
+    } else if constexpr (kPitch == 3) {
+      p1 = hn::BitCast(d, hn::ShiftRight<24>(hn::BitCast(du, v)));
+    } else {
+      p1 = hn::And(hn::GatherOffset(d, base, hn::Add(o, hn::Set(d, kPitch))), m8);
+    }
+    return sums(e, hn::And(v, m8), p1);
+  };
+  int e = 0;
+#if LUMI_RESIZE_WINDOWS
+  if (win != nullptr && win->base != nullptr) {
+    for (int b = 0; (b + 1) * resize::kBlock <= n; ++b, e += resize::kBlock) {
+      const int32_t lo = win->base[b];
+      if (lo != resize::kNoWindow) {
+        const uint16_t* ix = win->idx + b * 2 * resize::kBlock;
+        __m512i a, c;
+        window8(s0 + lo, ix, &a, &c);
+        const V h0 = sums(e, V{a}, V{c});
+        window8(s1 + lo, ix, &a, &c);
+        column(e, h0, sums(e, V{a}, V{c}));
+      } else if (e + N <= safe) {
+        column(e, gathered(s0, e), gathered(s1, e));
+      } else {
+        resize::linF8Scalar(s0, s1, off + e, wq + 2 * e, resize::kBlock, pitch, 0, nullptr, wy,
+                            dst + e, keepAlpha);
+      }
+    }
+  }
+#endif
+  for (; e + N <= safe; e += N) column(e, gathered(s0, e), gathered(s1, e));
+  if (e < n)
+    resize::linF8Scalar(s0, s1, off + e, wq + 2 * e, n - e, pitch, 0, nullptr, wy, dst + e, keepAlpha);
+}
+
+template <int kPitch>
+void linFf(const float* HWY_RESTRICT s0, const float* HWY_RESTRICT s1,
+           const int32_t* HWY_RESTRICT off, const float* HWY_RESTRICT wf, int n, int pitch,
+           int safe, const resize::Windows* win, float wy0, float wy1, float* HWY_RESTRICT dst,
+           bool keepAlpha) {
+  const hn::ScalableTag<float> df;
+  const hn::RebindToSigned<decltype(df)> di;
+  using V = hn::Vec<decltype(df)>;
+  const int N = static_cast<int>(hn::Lanes(df));
+  const auto a = hn::Set(df, wy0), b = hn::Set(df, wy1);
+  const auto colour = colourLanes(df);
+  auto both = [&](int e, V p0, V p1, V q0, V q1) {
+    V w0, w1;
+    hn::LoadInterleaved2(df, wf + 2 * e, w0, w1);
+    const V h0 = hn::Add(hn::Mul(p0, w0), hn::Mul(p1, w1));
+    const V h1 = hn::Add(hn::Mul(q0, w0), hn::Mul(q1, w1));
+    storeColour(df, hn::Add(hn::Mul(h0, a), hn::Mul(h1, b)), dst + e, keepAlpha, colour);
+  };
+  auto gathered = [&](int e) {
+    const auto o = hn::LoadU(di, off + e), o1 = hn::Add(o, hn::Set(di, kPitch));
+    both(e, hn::GatherIndex(df, s0, o), hn::GatherIndex(df, s0, o1), hn::GatherIndex(df, s1, o),
+         hn::GatherIndex(df, s1, o1));
+  };
+  int e = 0;
+#if LUMI_RESIZE_WINDOWS
+  if (win != nullptr && win->base != nullptr) {
+    for (int bl = 0; (bl + 1) * resize::kBlock <= n; ++bl, e += resize::kBlock) {
+      const int32_t lo = win->base[bl];
+      if (lo == resize::kNoWindow) {
+        gathered(e);
+        continue;
+      }
+      const uint16_t* ix = win->idx + bl * 2 * resize::kBlock;
+      both(e, V{windowF(s0 + lo, ix)}, V{windowF(s0 + lo, ix + resize::kBlock)},
+           V{windowF(s1 + lo, ix)}, V{windowF(s1 + lo, ix + resize::kBlock)});
+    }
+  }
+#endif
+  for (; e + N <= n; e += N) gathered(e);
+  if (e < n)
+    resize::linFfScalar(s0, s1, off + e, wf + 2 * e, n - e, pitch, 0, nullptr, wy0, wy1, dst + e, keepAlpha);
+}
+
 // The Newton form of resize_kernels.h / cubic.h, operation for operation.
 template <class D, class V>
 HWY_INLINE V newton(D df, V p0, V p1, V p2, V p3, V a, V b, V c) {
@@ -361,6 +465,18 @@ LinHfFn pickLinHf(int pitch, int* window) {
   const LinHfFn f = pick(t, &linHfScalar);
   *window = windowOf(f, t, 32);
   return f;
+}
+LinF8Fn pickLinF8(int pitch) {
+  LUMI_SIMD_TABLE(LinF8Fn, t1, linF8<1>);
+  LUMI_SIMD_TABLE(LinF8Fn, t3, linF8<3>);
+  LUMI_SIMD_TABLE(LinF8Fn, t4, linF8<4>);
+  return pick(pitch == 1 ? t1 : pitch == 3 ? t3 : t4, &linF8Scalar);
+}
+LinFfFn pickLinFf(int pitch) {
+  LUMI_SIMD_TABLE(LinFfFn, t1, linFf<1>);
+  LUMI_SIMD_TABLE(LinFfFn, t3, linFf<3>);
+  LUMI_SIMD_TABLE(LinFfFn, t4, linFf<4>);
+  return pick(pitch == 1 ? t1 : pitch == 3 ? t3 : t4, &linFfScalar);
 }
 LinVfFn pickLinVf() {
   LUMI_SIMD_TABLE(LinVfFn, t, linVf);
