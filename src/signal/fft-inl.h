@@ -143,17 +143,17 @@ HWY_INLINE void butterflyV(D d, const Signs<D>& sg, const VD* a, VD* b) {
   }
 }
 
-// A pass whose stride s is at least one vector of points: vectors run along q, the twiddles
-// of group p are broadcast (group 0 has none).
+// A pass over offsets q0 <= q < q1 (a whole number of vectors) of stride s: vectors run along
+// q, the twiddles of group p are broadcast (group 0 has none).
 template <int R, bool kInv, class D>
 void passStrided(D d, const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc* HWY_RESTRICT y,
-                 std::ptrdiff_t s) {
+                 std::ptrdiff_t s, std::ptrdiff_t q0, std::ptrdiff_t q1) {
   using VD = hn::Vec<D>;
   const Signs<D> sg(d);
   const std::ptrdiff_t L = static_cast<std::ptrdiff_t>(hn::Lanes(d) / 2), m = ps.m;
-  const std::ptrdiff_t qv = s - s % L, sm = s * m;
+  const std::ptrdiff_t sm = s * m;
   VD a[R], b[R];
-  for (std::ptrdiff_t q = 0; q < qv; q += L) {
+  for (std::ptrdiff_t q = q0; q < q1; q += L) {
     LUMI_FFT_UNROLL
     for (int j = 0; j < R; ++j) a[j] = load(d, x + q + sm * j);
     butterflyV<R, kInv>(d, sg, a, b);
@@ -164,7 +164,7 @@ void passStrided(D d, const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc*
     const float* t = ps.tw + 4 * p * (R - 1);
     const Lum32fc* xp = x + s * p;
     Lum32fc* yp = y + s * R * p;
-    for (std::ptrdiff_t q = 0; q < qv; q += L) {
+    for (std::ptrdiff_t q = q0; q < q1; q += L) {
       LUMI_FFT_UNROLL
       for (int j = 0; j < R; ++j) a[j] = load(d, xp + q + sm * j);
       butterflyV<R, kInv>(d, sg, a, b);
@@ -177,7 +177,6 @@ void passStrided(D d, const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc*
       }
     }
   }
-  if (qv < s) passPoints<R>(ps, x, y, s, kInv, 0, m, qv, s);
 }
 
 // The first pass of a single vector (stride 1): vectors run along p with per-lane twiddles,
@@ -223,10 +222,16 @@ void passOf(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count) {
   const std::ptrdiff_t s = static_cast<std::ptrdiff_t>(ps.s) * count;
   const std::ptrdiff_t wide = static_cast<std::ptrdiff_t>(hn::Lanes(DW()) / 2);
   const std::ptrdiff_t narrow = static_cast<std::ptrdiff_t>(hn::Lanes(DF()) / 2);
-  if (s % wide == 0) passStrided<R, kInv>(DW(), ps, x, y, s);
-  else if (s >= narrow) passStrided<R, kInv>(DF(), ps, x, y, s);
-  else if (s == 1 && ps.twr) passFirst<R, kInv>(DF(), ps, x, y);
-  else passPoints<R>(ps, x, y, s, kInv, 0, ps.m, 0, s);
+  if (s >= narrow) {  // wide vectors, then narrow ones, then single points along q
+    const std::ptrdiff_t qw = s - s % wide, qn = s - s % narrow;
+    if (qw > 0) passStrided<R, kInv>(DW(), ps, x, y, s, 0, qw);
+    if (qn > qw) passStrided<R, kInv>(DF(), ps, x, y, s, qw, qn);
+    if (s > qn) passPoints<R>(ps, x, y, s, kInv, 0, ps.m, qn, s);
+  } else if (s == 1 && ps.twr) {
+    passFirst<R, kInv>(DF(), ps, x, y);
+  } else {
+    passPoints<R>(ps, x, y, s, kInv, 0, ps.m, 0, s);
+  }
 }
 
 template <bool kInv>
