@@ -30,7 +30,7 @@ inline bool inside(const Box& b, float x, float y) {
 inline int roundEven(float v) {
   const int i = static_cast<int>(v);
   const float f = v - static_cast<float>(i);
-  return i + ((f > 0.5f || (f == 0.5f && (i & 1))) ? 1 : 0);
+  return i + static_cast<int>(f > 0.5f) + (static_cast<int>(f == 0.5f) & i & 1);  // no branches
 }
 
 constexpr int kOne = 16384;  // 1.0 in the 14-bit weights of the integer linear kernels
