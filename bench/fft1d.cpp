@@ -1,6 +1,6 @@
 // 1-D FFT engines against cv::dft on the same rows: each row of the table transforms a block
 // of rows (about 512x512 points in all, as the row pass of a 2-D transform sees them), out of
-// place, forward. The "fftw-anchor" family times FFTW (planned with FFTW_MEASURE) in the
+// place, forward. The "fftw-anchor-1d" family times FFTW (planned with FFTW_MEASURE) in the
 // OpenCV column instead.
 //
 // The engines are internal to the library: these rows are built only when the benchmark
@@ -67,7 +67,7 @@ void complexRows(int n) {
   fftwf_plan plan = fftwf_plan_dft_1d(n, in, out, FFTW_FORWARD, FFTW_MEASURE);
   keep.copyTo(b->src);
   std::shared_ptr<void> guard(plan, [](void* p) { fftwf_destroy_plan(static_cast<fftwf_plan>(p)); });
-  bench::row("fftw-anchor", name, 0, [=] {
+  bench::row("fftw-anchor-1d", name, 0, [=] {
     for (int r = 0; r < rows; ++r)
       fftwf_execute_dft(static_cast<fftwf_plan>(guard.get()),
                         reinterpret_cast<fftwf_complex*>(b->src.ptr<float>(r)),
@@ -102,7 +102,7 @@ void realRows(int n) {
   fftwf_plan plan = fftwf_plan_dft_r2c_1d(n, b->src.ptr<float>(0), specRow(0), FFTW_MEASURE);
   keep.copyTo(b->src);
   std::shared_ptr<void> guard(plan, [](void* p) { fftwf_destroy_plan(static_cast<fftwf_plan>(p)); });
-  bench::row("fftw-anchor", name, 0, [=] {
+  bench::row("fftw-anchor-1d", name, 0, [=] {
     for (int r = 0; r < rows; ++r)
       fftwf_execute_dft_r2c(static_cast<fftwf_plan>(guard.get()), b->src.ptr<float>(r), specRow(r));
   }, ours);

@@ -13,6 +13,8 @@
 // - ComplexFft::forwardBatch / inverseBatch / batchWorkBytes: `count` vectors transformed at
 //   once, stored side by side (element j of vector c at data[j * count + c]), as a 2-D column
 //   pass gathers them; four or eight columns make every pass run on full vectors.
+// - ComplexFft::transform: either direction from one buffer into another (out of place), with
+//   the work buffer of workBytes().
 #pragma once
 
 #include <cstddef>
@@ -61,7 +63,7 @@ class RealFft {  // any length n >= 1, the packed form:
   ~RealFft() = default;
   int n_ = 0;
   ComplexFft* half_ = nullptr;   // even n: the complex transform of n/2 points; odd n: of n
-  float* twist_ = nullptr;       // even n: e^(-2 pi i k/n) for k = 0 .. n/4, as (cos, sin) pairs
+  float* twist_ = nullptr;       // even n: (cos, sin) of 2 pi k / n for k = 0 .. n/4
   size_t work_ = 0;
 };
 
