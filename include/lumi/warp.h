@@ -11,9 +11,9 @@
  * (arrays of plane pointers sharing one step; every plane takes the same positions).
  *
  * interpolation: lumInterpNearest, lumInterpLinear or lumInterpCubic, optionally ORed with
- * lumSmoothEdge. Source positions are computed in double precision: at the first column of a
- * span from (x, y) directly, then the span's first position plus k steps (no running sum, so
- * a row is the same whatever thread computes it). Nearest reads the pixel at
+ * lumSmoothEdge. Source positions are computed in double precision: from (x, y) directly at
+ * the first column of a span and at every multiple of 128 columns, then that position plus k
+ * steps (no running sum, so a row is the same whatever thread computes it). Nearest reads the pixel at
  * (trunc(x + 0.5), trunc(y + 0.5)), i.e. it rounds half up, in every warp. Linear reads the
  * pixels at trunc(x), trunc(x) + 1 (moved one column left at the last image column, weight
  * then 1) and likewise for rows; integer types weigh them with 14-bit weights round(f x 16384)

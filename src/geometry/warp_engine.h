@@ -421,6 +421,8 @@ void blendSpan(T* d, const T* old, int n, const double* X, const double* Y, cons
 // ---- the walk -------------------------------------------------------------------------------
 // Destination pixels x tap count at which the rows are split among threads.
 constexpr long long kForkWork = 1 << 16;
+// Positions restart (computed from x and y directly) at every multiple of kTileCols columns.
+constexpr int kTileCols = 128, kTileRows = 16;
 
 // Walks the spans of poly and samples every plane. Map provides
 //   void span(int y, int xs, int n, double* X, double* Y) const   (source positions)
@@ -443,11 +445,8 @@ LumStatus walk(const Planes<T>& im, const Frame& f, const LumiRect& roi, int mod
     double* Y = X + width;
     T* old = reinterpret_cast<T*>(scratch + posBytes);
     SpanArgs<T> a{nullptr, f.srcStep, f.srcSize.width, f.srcSize.height, 0, 0, 0, 0, X, Y};
-    for (int r = b0; r < b1; ++r) {
-      const int y = ry0 + r;
-      int xs, xe;
-      if (!spanAt(poly, y, f.dstRoi, &xs, &xe)) continue;
-      const int n = xe - xs + 1;
+    // one run of n pixels of row y from column xs
+    auto run = [&](int y, int xs, int n) {
       if (!Map::kAffine || smooth) map.span(y, xs, n, X, Y);
       if constexpr (Map::kAffine) {
         a.x0 = map.a[0][0] * xs + map.a[0][1] * y + map.a[0][2];
@@ -462,6 +461,28 @@ LumStatus walk(const Planes<T>& im, const Frame& f, const LumiRect& roi, int mod
         fn(a, d, n);
         if (smooth) blendSpan<T, L::kCh, L::kUse>(d, old, n, X, Y, roi);
       }
+    };
+    // Tiles of kTileRows rows by kTileCols columns (columns counted from 0, so a pixel's run
+    // does not depend on the band): the source pixels a tile reads stay in the first-level cache.
+    int sx[kTileRows], ex[kTileRows];
+    for (int g0 = b0; g0 < b1; g0 += kTileRows) {
+      const int g1 = g0 + kTileRows < b1 ? g0 + kTileRows : b1;
+      int lo = INT_MAX, hi = INT_MIN;
+      for (int r = g0; r < g1; ++r) {
+        if (!spanAt(poly, ry0 + r, f.dstRoi, &sx[r - g0], &ex[r - g0])) {
+          sx[r - g0] = 1, ex[r - g0] = 0;
+          continue;
+        }
+        lo = sx[r - g0] < lo ? sx[r - g0] : lo;
+        hi = ex[r - g0] > hi ? ex[r - g0] : hi;
+      }
+      if (lo > hi) continue;
+      for (long long c = lo / kTileCols * kTileCols; c <= hi; c += kTileCols)
+        for (int r = g0; r < g1; ++r) {
+          const int xs = sx[r - g0] > c ? sx[r - g0] : static_cast<int>(c);
+          const int xe = ex[r - g0] < c + kTileCols - 1 ? ex[r - g0] : static_cast<int>(c + kTileCols - 1);
+          if (xs <= xe) run(ry0 + r, xs, xe - xs + 1);
+        }
     }
   });
 }
