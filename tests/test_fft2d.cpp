@@ -683,9 +683,14 @@ TEST(Fft2d, SpecificationChecks) {
   EXPECT_TRUE(sameElements(img.pixels(), before));
   EXPECT_EQ(lumiFFTFree_C_32fc(f), lumStatusOk);
   EXPECT_EQ(lumiDFTFree_R_32f(d), lumStatusOk);
+  f = nullptr;
+  d = nullptr;
   // the largest orders fail cleanly when the memory is not there
-  const LumStatus big = lumiFFTInitAlloc_R_32f(&f, 30, 30, 1, 0);
-  EXPECT_EQ(big, lumStatusMemAllocErr);
+  EXPECT_EQ(lumiFFTInitAlloc_R_32f(&f, 30, 30, 1, 0), lumStatusMemAllocErr);
+  EXPECT_EQ(lumiDFTInitAlloc_R_32s(&d, {65536, 65536}, 1, 0), lumStatusMemAllocErr);
+  EXPECT_EQ(lumiDFTInitAlloc_C_32fc(&d, {3, 1 << 30}, 1, 0), lumStatusMemAllocErr);
+  EXPECT_EQ(f, nullptr);
+  EXPECT_EQ(d, nullptr);
 }
 
 TEST(Pack, ArgumentChecks) {

@@ -196,7 +196,7 @@ void transformComplex(const Record& R, const Lum32fc* src, int srcStep, Lum32fc*
 // ---- records ---------------------------------------------------------------------------------
 
 namespace {
-std::size_t round64(std::size_t n) { return (n + 63) & ~static_cast<std::size_t>(63); }
+uint64_t round64(uint64_t n) { return (n + 63) & ~static_cast<uint64_t>(63); }
 }  // namespace
 
 void destroyRecord(Record* r) {
@@ -212,15 +212,15 @@ LumStatus createRecord(Record** out, int tag, int width, int height, int sizeX, 
                        int flag, int hint) {
   const bool real = tag != kTagFftC && tag != kTagDftC;
   const bool plane = tag == kTagFftR32s || tag == kTagDftR32s;
-  const std::size_t W = static_cast<std::size_t>(width), H = static_cast<std::size_t>(height);
-  const std::size_t colsBytes = round64(H * kGroup * sizeof(Lum32fc)) + round64(2 * H * sizeof(float));
-  const std::size_t rowBytes = real ? round64(W * sizeof(float)) : 0;
-  const std::size_t planeBytes = plane ? round64(W * H * sizeof(float)) : 0;
-  const std::size_t limit = 0x7fffffff;
+  // In 64 bits: on 32-bit targets W x H and the column block overflow size_t.
+  const uint64_t W = static_cast<uint64_t>(width), H = static_cast<uint64_t>(height);
+  const uint64_t limit = 0x7fffffff;
   // Sizes whose work buffer no int can describe fail before any engine is built.
-  if (H > limit / 64 || W > limit / 8 || (plane && W * H > limit / 4) ||
-      colsBytes + rowBytes + planeBytes > limit)
-    return lumStatusMemAllocErr;
+  if (H > limit / 256 || W > limit / 8 || (plane && W * H > limit / 4)) return lumStatusMemAllocErr;
+  const uint64_t colsBytes = round64(H * kGroup * sizeof(Lum32fc)) + round64(2 * H * sizeof(float));
+  const uint64_t rowBytes = real ? round64(W * sizeof(float)) : 0;
+  const uint64_t planeBytes = plane ? round64(W * H * sizeof(float)) : 0;
+  if (colsBytes + rowBytes + planeBytes > limit) return lumStatusMemAllocErr;
 
   Record* r = reinterpret_cast<Record*>(lumsMalloc_8u(static_cast<int>(sizeof(LumiFFTSpec))));
   if (!r) return lumStatusMemAllocErr;
@@ -247,17 +247,17 @@ LumStatus createRecord(Record** out, int tag, int width, int height, int sizeX, 
     destroyRecord(r);
     return lumStatusMemAllocErr;
   }
-  std::size_t work = 0;
-  for (int n = 1; n <= kGroup; ++n) work = std::max(work, r->colC->batchWorkBytes(n));
-  work = std::max(work, r->colC->workBytes());
-  if (r->rowC) work = std::max(work, r->rowC->workBytes());
-  if (r->rowR) work = std::max(work, r->rowR->workBytes());
-  if (r->colR) work = std::max(work, r->colR->workBytes());
-  r->realOff = round64(H * kGroup * sizeof(Lum32fc));
-  r->rowOff = colsBytes;
-  r->planeOff = colsBytes + rowBytes;
-  r->workOff = colsBytes + rowBytes + planeBytes;
-  const std::size_t total = 63 + r->workOff + round64(work);
+  uint64_t work = 0;
+  for (int n = 1; n <= kGroup; ++n) work = std::max<uint64_t>(work, r->colC->batchWorkBytes(n));
+  work = std::max<uint64_t>(work, r->colC->workBytes());
+  if (r->rowC) work = std::max<uint64_t>(work, r->rowC->workBytes());
+  if (r->rowR) work = std::max<uint64_t>(work, r->rowR->workBytes());
+  if (r->colR) work = std::max<uint64_t>(work, r->colR->workBytes());
+  r->realOff = static_cast<std::size_t>(round64(H * kGroup * sizeof(Lum32fc)));
+  r->rowOff = static_cast<std::size_t>(colsBytes);
+  r->planeOff = static_cast<std::size_t>(colsBytes + rowBytes);
+  r->workOff = static_cast<std::size_t>(colsBytes + rowBytes + planeBytes);
+  const uint64_t total = 63 + colsBytes + rowBytes + planeBytes + round64(work);
   if (total > limit) {
     destroyRecord(r);
     return lumStatusMemAllocErr;
