@@ -26,10 +26,15 @@ HWY_INLINE void window8(const Lum8u* p, const uint16_t* ix, __m512i* a, __m512i*
   *a = _mm512_cvtepu16_epi32(_mm512_castsi512_si256(v));
   *b = _mm512_cvtepu16_epi32(_mm512_extracti64x4_epi64(v, 1));
 }
-// Tap t of a block of 16 elements out of its 32-float window.
+// Tap t of a block of 16 elements out of its 64-float window (two permutes, places 32..63
+// taken from the second).
 HWY_INLINE __m512 windowF(const float* p, const uint16_t* ix) {
   const __m512i i = _mm512_cvtepu16_epi32(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(ix)));
-  return _mm512_permutex2var_ps(_mm512_loadu_ps(p), i, _mm512_loadu_ps(p + 16));
+  const __m512 a = _mm512_permutex2var_ps(_mm512_loadu_ps(p), i, _mm512_loadu_ps(p + 16));
+  const __mmask16 upper = _mm512_test_epi32_mask(i, _mm512_set1_epi32(32));
+  if (upper == 0) return a;
+  const __m512 b = _mm512_permutex2var_ps(_mm512_loadu_ps(p + 32), i, _mm512_loadu_ps(p + 48));
+  return _mm512_mask_blend_ps(upper, a, b);
 }
 #define LUMI_RESIZE_WINDOWS 1
 #else
@@ -463,7 +468,7 @@ LinHfFn pickLinHf(int pitch, int* window) {
   LUMI_SIMD_TABLE(LinHfFn, t4, linHf<4>);
   const auto& t = pitch == 1 ? t1 : pitch == 3 ? t3 : t4;
   const LinHfFn f = pick(t, &linHfScalar);
-  *window = windowOf(f, t, 32);
+  *window = windowOf(f, t, 64);
   return f;
 }
 LinF8Fn pickLinF8(int pitch) {
@@ -502,7 +507,7 @@ CubHFn<Lum32f> pickCubH<Lum32f>(int pitch, int* span, int* window) {
   const auto& t = pitch == 1 ? t1 : pitch == 3 ? t3 : t4;
   const CubHFn<Lum32f> f = pick(t, &cubHScalar<Lum32f>);
   *span = 0;
-  *window = windowOf(f, t, 32);
+  *window = windowOf(f, t, 64);
   return f;
 }
 template <>
