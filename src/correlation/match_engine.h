@@ -1,13 +1,14 @@
 // Template matching engine shared by the cross-correlation and squared-distance families.
 //
 // Every member runs the same pipeline, per channel:
-//  - the template goes into the top-left corner of a zeroed FFT-size tile and is transformed
-//    once (its packed spectrum conjugated, so that the product with an image spectrum gives a
-//    correlation);
-//  - the destination is walked in tiles of (fftW - w + 1) x (fftH - h + 1) placements: the
-//    source area a tile covers (zero outside the source) is converted to float, its window sums
-//    are taken in double by running sums restarted in every tile, the tile is correlated with
-//    the template and every placement is normalised and stored.
+//  - the template goes into the top-left corner of a zeroed tile (minus its mean for the
+//    mean-removed measure) and is transformed once (tile_correlator.h);
+//  - the destination is walked in tiles of placements, row band by row band: the source area a
+//    tile covers (zero outside the source) is converted to float; the sums of each placement's
+//    window (values and squares) are taken in double, first along every covered row by running
+//    sums restarted in each row, then down the columns by a running sum over h rows; the tile
+//    is correlated with the template; every placement is normalised in single precision
+//    (match_kernels.h) and stored.
 // The measures whose families run in parallel share the tiles among threads, each thread with
 // its own tile, spectrum, sums and FFT work buffer; the template spectra are read by all.
 //
@@ -16,7 +17,8 @@
 // is small: by Cauchy-Schwarz |sum src x tpl| <= |tpl| x sqrt(E) and |sum (tpl - tplMean) x
 // (src - winMean)| <= sqrt(sum (tpl - tplMean)^2 x sum (src - winMean)^2), so the numerator is
 // clamped to those bounds (a zero or flat window gives exactly 0); and the mean-removed measure
-// correlates the tile minus its own mean, which keeps a large common level out of the FFT.
+// correlates the tile minus one common level, which keeps a large level out of the transforms
+// ((level - window mean) x the sum of the stored template, 0 up to rounding, is added back).
 #pragma once
 
 #include <atomic>
