@@ -24,9 +24,10 @@ LUMI_SIMD_BEGIN
 namespace fftv {
 
 // Narrow vectors hold at most four complex points (eight floats), wide ones all the target has
-// (eight points on AVX-512); a pass takes the widest its stride fills.
+// (eight points on AVX-512); a pass takes the widest its stride fills, then narrower ones.
 using DF = hn::CappedTag<float, 8>;
 using DW = hn::ScalableTag<float>;
+using DH = hn::CappedTag<float, 4>;  // two points: strides 2 and 3
 using DD = hn::Repartition<double, DF>;  // one complex point per lane
 using V = hn::Vec<DF>;
 using signal::FftPass;
@@ -217,21 +218,26 @@ void passFirst(D d, const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc* H
   if (pv < m) passPoints<R>(ps, x, y, 1, kInv, pv, m, 0, 1);
 }
 
+// Stride 1 (the first pass of a single vector) runs along p; other strides run along q in
+// wide vectors, then narrow ones, then pairs of points, then single points.
 template <int R, bool kInv>
 void passOf(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count) {
   const std::ptrdiff_t s = static_cast<std::ptrdiff_t>(ps.s) * count;
-  const std::ptrdiff_t wide = static_cast<std::ptrdiff_t>(hn::Lanes(DW()) / 2);
-  const std::ptrdiff_t narrow = static_cast<std::ptrdiff_t>(hn::Lanes(DF()) / 2);
-  if (s >= narrow) {  // wide vectors, then narrow ones, then single points along q
-    const std::ptrdiff_t qw = s - s % wide, qn = s - s % narrow;
-    if (qw > 0) passStrided<R, kInv>(DW(), ps, x, y, s, 0, qw);
-    if (qn > qw) passStrided<R, kInv>(DF(), ps, x, y, s, qw, qn);
-    if (s > qn) passPoints<R>(ps, x, y, s, kInv, 0, ps.m, qn, s);
-  } else if (s == 1 && ps.twr) {
+  if (s == 1 && ps.twr) {
     passFirst<R, kInv>(DF(), ps, x, y);
-  } else {
-    passPoints<R>(ps, x, y, s, kInv, 0, ps.m, 0, s);
+    return;
   }
+  std::ptrdiff_t q = 0;
+  auto run = [&](auto d) {
+    const std::ptrdiff_t L = static_cast<std::ptrdiff_t>(hn::Lanes(d) / 2);
+    const std::ptrdiff_t q1 = q + (s - q) / L * L;
+    if (q1 > q) passStrided<R, kInv>(d, ps, x, y, s, q, q1);
+    q = q1;
+  };
+  run(DW());
+  run(DF());
+  run(DH());
+  if (q < s) passPoints<R>(ps, x, y, s, kInv, 0, ps.m, q, s);
 }
 
 template <bool kInv>
