@@ -37,17 +37,32 @@ inline double phaseOf(double re, double im) {
   return ph;
 }
 
-// Walks every element of the full spectrum of each channel: out(x, r, c, re, im).
+// Walks every element of the full spectrum of each channel: out(x, r, c, re, im). Columns 0
+// and W/2 unfold their packed column; the other frequencies of row r are a column pair of row
+// r (u < W/2) or the conjugate of one of the mirror row H-r mod H (u > W/2).
 template <class T, class V, class Out>
 void unfold(const T* src, int sst, LumiSize roi, int ch, const Out& out) {
+  const int W = roi.width, H = roi.height, half = (W - 1) / 2;
   for (int c = 0; c < ch; ++c) {
     const PackedChannel<T> get{src, sst, ch, c};
-    for (int r = 0; r < roi.height; ++r)
-      for (int u = 0; u < roi.width; ++u) {
+    for (int r = 0; r < H; ++r) {
+      const T* row = rowAt(src, sst, r) + c;
+      const T* mirror = rowAt(src, sst, r == 0 ? 0 : H - r) + c;
+      auto packedColumn = [&](int u) {
         V re, im;
-        spectrumAt<V>(get, roi.width, roi.height, r, u, &re, &im);
+        spectrumAt<V>(get, W, H, r, u, &re, &im);
         out(u, r, c, re, im);
+      };
+      packedColumn(0);
+      if (W % 2 == 0) packedColumn(W / 2);
+      for (int u = 1; u <= half; ++u)
+        out(u, r, c, static_cast<V>(row[elemsOf(2 * u - 1, ch)]), static_cast<V>(row[elemsOf(2 * u, ch)]));
+      for (int u = W - half; u < W; ++u) {
+        const int m = W - u;
+        out(u, r, c, static_cast<V>(mirror[elemsOf(2 * m - 1, ch)]),
+            -static_cast<V>(mirror[elemsOf(2 * m, ch)]));
       }
+    }
   }
 }
 
