@@ -57,6 +57,11 @@ template <class T>
 CubVFn<T> pickCubV();
 
 template <class T>
+using NearestFn = void (*)(const T*, const int32_t*, int, int, const Windows*, T*, bool);
+template <class T>
+NearestFn<T> pickNearest(int* span, int* window);
+
+template <class T>
 using Half2Fn = void (*)(const T*, const T*, int, T*);
 template <class T, class L>
 Half2Fn<T> pickHalf2();
@@ -64,22 +69,28 @@ Half2Fn<T> pickHalf2();
 // Pixel-taps per call above which the rows are shared among threads.
 constexpr long long kForkWork = 1LL << 17;
 
+// Nearest: destination rows from the same source row as the row above are copies of it.
 template <class T, class L>
 void nearestRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const Taps& ty,
-                 int count, int y0, int y1) {
+                 int count, std::ptrdiff_t limit, int y0, int y1, Lum8u* scratch,
+                 std::size_t slotBytes) {
   constexpr int kCh = L::kCh, kUse = L::kUse;
+  const int n = static_cast<int>(elemsOf(count, kCh));
+  int32_t* offE = reinterpret_cast<int32_t*>(scratch);
+  for (int i = 0; i < count; ++i)
+    for (int c = 0; c < kCh; ++c) offE[i * kCh + c] = tx.off[i] + c;
+  int span = 0, window = 0;
+  const NearestFn<T> f = pickNearest<T>(&span, &window);
+  Windows win;
+  if (window > 0) buildWindows(offE, n, 1, kCh, window, limit, scratch + slotBytes, &win);
+  const int safe = safePrefix(offE, n, span, limit);
   for (int j = y0; j < y1; ++j) {
     T* d = rowAt(dst, dstep, j);
     if (kUse == kCh && j > y0 && ty.off[j] == ty.off[j - 1]) {  // the same source row again
       std::memcpy(d, rowAt(dst, dstep, j - 1), static_cast<std::size_t>(bytesOf(count, kCh, sizeof(T))));
       continue;
     }
-    const T* s = rowAt(src, sstep, ty.off[j]);
-    for (int i = 0; i < count; ++i) {
-      const T* p = s + tx.off[i];
-      T* q = d + elemsOf(i, kCh);
-      for (int c = 0; c < kUse; ++c) q[c] = p[c];
-    }
+    f(rowAt(src, sstep, ty.off[j]), offE, n, safe, &win, d, kUse != kCh);
   }
 }
 
@@ -125,7 +136,7 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
   auto srow = [&](int r) { return rowAt(src, sstep, r); };
   switch (mode) {
     case kNearest:
-      nearestRows<T, L>(src, sstep, dst, dstep, tx, ty, ax.count, y0, y1);
+      nearestRows<T, L>(src, sstep, dst, dstep, tx, ty, ax.count, limit, y0, y1, scratch, slotBytes);
       break;
     case kLinear:
       if constexpr (std::is_same_v<T, Lum8u>) {
@@ -243,7 +254,7 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
 
 inline int ringSlots(int mode) {  // row buffers, and two slots for the windows
   switch (mode) {
-    case kNearest: return 0;
+    case kNearest: return 3;  // element offsets, windows
     case kLinear: return 4;
     case kCubic: return 7;
     case kLanczos: return 6;

@@ -294,6 +294,14 @@ inline T roundStore(float v) {
 // every fourth element on the store (AC4). `safe`: the vector kernels of 8u rows read a few
 // bytes past a tap; elements from `safe` on are done one by one (see safePrefix).
 
+// Nearest along a row, per element (offE: the element each destination element copies).
+template <class T>
+inline void nearestRowScalar(const T* s, const int32_t* offE, int n, int /*safe*/,
+                             const Windows* /*win*/, T* d, bool keepAlpha) {
+  for (int e = 0; e < n; ++e)
+    if (!(keepAlpha && (e & 3) == 3)) d[e] = s[offE[e]];
+}
+
 // Linear 8u along a row: h = (p0 (16384 - w) + p1 w) >> 8.
 inline void linH8Scalar(const Lum8u* s, const int32_t* off, const int16_t* wq, int n, int pitch,
                         int /*safe*/, const Windows* /*win*/, int16_t* h) {

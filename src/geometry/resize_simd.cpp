@@ -41,6 +41,55 @@ HWY_INLINE __m512 windowF(const float* p, const uint16_t* ix) {
 #define LUMI_RESIZE_WINDOWS 0
 #endif
 
+// Nearest along a row: one tap per element (8u from a 32-bit gather, 32f gathered).
+template <class T>
+void nearestRow(const T* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off, int n, int safe,
+                const resize::Windows* win, T* HWY_RESTRICT dst, bool keepAlpha) {
+  int e = 0;
+#if LUMI_RESIZE_WINDOWS
+  if (win != nullptr && win->base != nullptr) {
+    for (int b = 0; (b + 1) * resize::kBlock <= n; ++b, e += resize::kBlock) {
+      const int32_t lo = win->base[b];
+      const uint16_t* ix = win->idx + b * resize::kBlock;
+      if (lo == resize::kNoWindow) {
+        resize::nearestRowScalar(s, off + e, resize::kBlock, 0, nullptr, dst + e, keepAlpha);
+        continue;
+      }
+      if constexpr (std::is_same_v<T, float>) {
+        const __m512 v = windowF(s + lo, ix);
+        if (keepAlpha) _mm512_mask_storeu_ps(dst + e, 0x7777, v);
+        else _mm512_storeu_ps(dst + e, v);
+      } else {
+        const Lum8u* p = s + lo;
+        const __m512i a = _mm512_cvtepu8_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)));
+        const __m512i c = _mm512_cvtepu8_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p + 32)));
+        const __m512i i = _mm512_castsi256_si512(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(ix)));
+        const __m128i v = _mm256_castsi256_si128(_mm512_cvtepi16_epi8(_mm512_permutex2var_epi16(a, i, c)));
+        if (keepAlpha) _mm_mask_storeu_epi8(dst + e, 0x7777, v);
+        else _mm_storeu_si128(reinterpret_cast<__m128i*>(dst + e), v);
+      }
+    }
+  }
+#endif
+  const hn::ScalableTag<int32_t> d;
+  const int N = static_cast<int>(hn::Lanes(d));
+  if constexpr (std::is_same_v<T, float>) {
+    const hn::ScalableTag<float> df;
+    const auto colour = colourLanes(df);
+    for (; e + N <= n; e += N)
+      storeColour(df, hn::GatherIndex(df, s, hn::LoadU(d, off + e)), dst + e, keepAlpha, colour);
+  } else {
+    const hn::Rebind<uint8_t, decltype(d)> d8;
+    const auto colour = colourLanes(d8);
+    const int32_t* base = reinterpret_cast<const int32_t*>(s);
+    for (; e + N <= safe; e += N) {
+      const auto v = hn::And(hn::GatherOffset(d, base, hn::LoadU(d, off + e)), hn::Set(d, 0xFF));
+      storeColour(d8, hn::DemoteTo(d8, v), dst + e, keepAlpha, colour);
+    }
+  }
+  if (e < n) resize::nearestRowScalar(s, off + e, n - e, 0, nullptr, dst + e, keepAlpha);
+}
+
 // Linear 8u along a row: pairs of taps from one (C1, C3) or two (C4) 32-bit gathers.
 template <int kPitch>
 void linH8(const Lum8u* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off,
@@ -447,6 +496,23 @@ template <class F, std::size_t N>
 int windowOf(F f, F const (&table)[N], int size) {
   return N > kAVX3 && f != nullptr && f == table[kAVX3] ? size : 0;
 }
+
+template <class T>
+NearestFn<T> pickNearest(int* span, int* window) {
+  if constexpr (std::is_same_v<T, Lum16u>) {
+    *span = *window = 0;
+    return &nearestRowScalar<T>;
+  } else {
+    LUMI_SIMD_TABLE(NearestFn<T>, t, nearestRow<T>);
+    const NearestFn<T> f = pick(t, &nearestRowScalar<T>);
+    *span = f != &nearestRowScalar<T> && sizeof(T) == 1 ? 4 : 0;
+    *window = windowOf(f, t, 64);
+    return f;
+  }
+}
+template NearestFn<Lum8u> pickNearest<Lum8u>(int*, int*);
+template NearestFn<Lum16u> pickNearest<Lum16u>(int*, int*);
+template NearestFn<Lum32f> pickNearest<Lum32f>(int*, int*);
 
 LinH8Fn pickLinH8(int pitch, int* span, int* window) {
   LUMI_SIMD_TABLE(LinH8Fn, t1, linH8<1>);
