@@ -51,7 +51,7 @@ inline bool solveBilinear(const double c[2][4], double u, double v, const LumiRe
 
 // Forward coefficients: each destination pixel solves for its source position.
 struct BilinearInverseMap {
-  static constexpr bool kAffine = false;
+  static constexpr int kPos = kPosArrays;
   double c[2][4];
   LumiRect ref;  // the source ROI, which picks the root
   void span(int y, int xs, int n, double* X, double* Y) const {
@@ -62,17 +62,21 @@ struct BilinearInverseMap {
 
 // Destination-to-source coefficients: linear in x along a row.
 struct BilinearBackMap {
-  static constexpr bool kAffine = false;
+  static constexpr int kPos = kPosLinear;
   double c[2][4];
-  void span(int y, int xs, int n, double* X, double* Y) const {
+  template <class T>
+  void start(int y, int xs, SpanArgs<T>* s) const {
     const double ax = c[0][0] * y + c[0][1], bx = c[0][2] * y + c[0][3];
     const double ay = c[1][0] * y + c[1][1], by = c[1][2] * y + c[1][3];
-    const double x0 = ax * xs + bx, y0 = ay * xs + by;
-    for (int k = 0; k < n; ++k) {
-      const double kk = k;
-      X[k] = x0 + kk * ax;
-      Y[k] = y0 + kk * ay;
-    }
+    s->x0 = ax * xs + bx;
+    s->y0 = ay * xs + by;
+    s->dx = ax;
+    s->dy = ay;
+  }
+  void span(int y, int xs, int n, double* X, double* Y) const {
+    SpanArgs<void> s{};
+    start(y, xs, &s);
+    for (int k = 0; k < n; ++k) positionAt<kPos>(s, k, &X[k], &Y[k]);
   }
 };
 

@@ -359,34 +359,46 @@ inline void cubicPixel(const Source<T>& s, double x, double y, T* d) {
   }
 }
 
-// One span of n destination pixels: positions either x0 + k dx, y0 + k dy (affine maps, the
-// kernel computes them) or read from X, Y (every other map fills them first).
+// How a span kernel gets its source positions: x0 + k dx, y0 + k dy (affine maps and the
+// bilinear Back map, along a row); ((x0 + k dx)/(w0 + k dw), (y0 + k dy)/(w0 + k dw))
+// (perspective); or read from X, Y (the bilinear inverse, which solves per pixel).
+enum PosKind { kPosLinear = 0, kPosProjective = 1, kPosArrays = 2 };
 template <class T>
 struct SpanArgs {
   const T* src;
   int step, w, h;  // the whole source image
-  double x0, y0, dx, dy;
+  double x0, y0, dx, dy, w0, dw;
   const double* X;
   const double* Y;
 };
 template <class T>
 using SpanFn = void (*)(const SpanArgs<T>& a, T* d, int n);
 
+template <int kPos, class T>
+inline void positionAt(const SpanArgs<T>& a, int k, double* x, double* y) {
+  if constexpr (kPos == kPosArrays) {
+    *x = a.X[k];
+    *y = a.Y[k];
+  } else {
+    const double kk = k;
+    *x = a.x0 + kk * a.dx;
+    *y = a.y0 + kk * a.dy;
+    if constexpr (kPos == kPosProjective) {
+      const double den = a.w0 + kk * a.dw;
+      *x = *x / den;
+      *y = *y / den;
+    }
+  }
+}
+
 // The plain twin of the vector span kernels (warp_kernels.cpp): the same positions in the same
 // order, the pixel functions above.
-template <class T, int kCh, int kUse, int kMode, bool kArrays>
+template <class T, int kCh, int kUse, int kMode, int kPos>
 void spanScalar(const SpanArgs<T>& a, T* d, int n) {
   const Source<T> s{a.src, a.step, a.w, a.h};
   for (int k = 0; k < n; ++k, d += kCh) {
     double x, y;
-    if constexpr (kArrays) {
-      x = a.X[k];
-      y = a.Y[k];
-    } else {
-      const double kk = k;
-      x = a.x0 + kk * a.dx;
-      y = a.y0 + kk * a.dy;
-    }
+    positionAt<kPos>(a, k, &x, &y);
     if constexpr (kMode == kNearest) nearestPixel<T, kCh, kUse>(s, x, y, d);
     if constexpr (kMode == kLinear) linearPixel<T, kCh, kUse>(s, x, y, d);
     if constexpr (kMode == kCubic) cubicPixel<T, kCh, kUse>(s, x, y, d);
@@ -394,7 +406,7 @@ void spanScalar(const SpanArgs<T>& a, T* d, int n) {
 }
 // The span kernel for T, layout L, the mode and the position source (warp_kernels.cpp).
 template <class T, class L>
-SpanFn<T> pickSpan(int mode, bool arrays);
+SpanFn<T> pickSpan(int mode, int pos);
 
 // ---- edge blending -------------------------------------------------------------------------
 // A pixel whose source position lies d < 0.5 inside the source ROI keeps (0.5 + d) of the
@@ -424,9 +436,9 @@ constexpr long long kForkWork = 1 << 16;
 // Positions restart (computed from x and y directly) at every multiple of kTileCols columns.
 constexpr int kTileCols = 128, kTileRows = 16;
 
-// Walks the spans of poly and samples every plane. Map provides
-//   void span(int y, int xs, int n, double* X, double* Y) const   (source positions)
-// and, for affine maps, kAffine with a[2][3] (destination -> source).
+// Walks the spans of poly and samples every plane. Map provides kPos, the positions of a run
+// for the kernels (start: the SpanArgs fields of the run from (xs, y)) and as arrays (span: for
+// the edge blending, and for kPosArrays the only form).
 template <class T, class L, class Map>
 LumStatus walk(const Planes<T>& im, const Frame& f, const LumiRect& roi, int mode, bool smooth,
                const Poly& poly, const Map& map) {
@@ -439,21 +451,16 @@ LumStatus walk(const Planes<T>& im, const Frame& f, const LumiRect& roi, int mod
   const bool parallel = forkByWork(LumiSize{width, rows}, taps * im.n, kForkWork);
   const std::size_t posBytes = sizeof(double) * 2 * static_cast<std::size_t>(width);
   const std::size_t oldBytes = smooth ? static_cast<std::size_t>(bytesOf(width, L::kCh, sizeof(T))) : 0;
-  const SpanFn<T> fn = pickSpan<T, L>(mode, !Map::kAffine);
+  const SpanFn<T> fn = pickSpan<T, L>(mode, Map::kPos);
   return forRowsWithScratch(rows, parallel, posBytes + oldBytes, [&](int b0, int b1, Lum8u* scratch) {
     double* X = reinterpret_cast<double*>(scratch);
     double* Y = X + width;
     T* old = reinterpret_cast<T*>(scratch + posBytes);
-    SpanArgs<T> a{nullptr, f.srcStep, f.srcSize.width, f.srcSize.height, 0, 0, 0, 0, X, Y};
+    SpanArgs<T> a{nullptr, f.srcStep, f.srcSize.width, f.srcSize.height, 0, 0, 0, 0, 0, 0, X, Y};
     // one run of n pixels of row y from column xs
     auto run = [&](int y, int xs, int n) {
-      if (!Map::kAffine || smooth) map.span(y, xs, n, X, Y);
-      if constexpr (Map::kAffine) {
-        a.x0 = map.a[0][0] * xs + map.a[0][1] * y + map.a[0][2];
-        a.y0 = map.a[1][0] * xs + map.a[1][1] * y + map.a[1][2];
-        a.dx = map.a[0][0];
-        a.dy = map.a[1][0];
-      }
+      if (Map::kPos == kPosArrays || smooth) map.span(y, xs, n, X, Y);
+      if constexpr (Map::kPos != kPosArrays) map.start(y, xs, &a);
       for (int p = 0; p < im.n; ++p) {
         a.src = im.src[p];
         T* d = rowAt(im.dst[p], f.dstStep, y) + elemsOf(xs, L::kCh);
@@ -507,32 +514,38 @@ LumStatus warpTail(const Planes<T>& im, const Frame& f, const Map& map, QuadOf&&
 
 // ---- mappings (destination pixel -> source position) -----------------------------------------
 struct AffineMap {
-  static constexpr bool kAffine = true;
+  static constexpr int kPos = kPosLinear;
   double a[2][3];
+  template <class T>
+  void start(int y, int xs, SpanArgs<T>* s) const {
+    s->x0 = a[0][0] * xs + a[0][1] * y + a[0][2];
+    s->y0 = a[1][0] * xs + a[1][1] * y + a[1][2];
+    s->dx = a[0][0];
+    s->dy = a[1][0];
+  }
   void span(int y, int xs, int n, double* X, double* Y) const {
-    const double x0 = a[0][0] * xs + a[0][1] * y + a[0][2];
-    const double y0 = a[1][0] * xs + a[1][1] * y + a[1][2];
-    for (int k = 0; k < n; ++k) {
-      const double kk = k;
-      X[k] = x0 + kk * a[0][0];
-      Y[k] = y0 + kk * a[1][0];
-    }
+    SpanArgs<void> s{};
+    start(y, xs, &s);
+    for (int k = 0; k < n; ++k) positionAt<kPos>(s, k, &X[k], &Y[k]);
   }
 };
 
 struct PerspectiveMap {
-  static constexpr bool kAffine = false;
+  static constexpr int kPos = kPosProjective;
   double a[3][3];
+  template <class T>
+  void start(int y, int xs, SpanArgs<T>* s) const {
+    s->x0 = a[0][0] * xs + a[0][1] * y + a[0][2];
+    s->y0 = a[1][0] * xs + a[1][1] * y + a[1][2];
+    s->w0 = a[2][0] * xs + a[2][1] * y + a[2][2];
+    s->dx = a[0][0];
+    s->dy = a[1][0];
+    s->dw = a[2][0];
+  }
   void span(int y, int xs, int n, double* X, double* Y) const {
-    const double nx = a[0][0] * xs + a[0][1] * y + a[0][2];
-    const double ny = a[1][0] * xs + a[1][1] * y + a[1][2];
-    const double dd = a[2][0] * xs + a[2][1] * y + a[2][2];
-    for (int k = 0; k < n; ++k) {
-      const double kk = k;
-      const double den = dd + kk * a[2][0];
-      X[k] = (nx + kk * a[0][0]) / den;
-      Y[k] = (ny + kk * a[1][0]) / den;
-    }
+    SpanArgs<void> s{};
+    start(y, xs, &s);
+    for (int k = 0; k < n; ++k) positionAt<kPos>(s, k, &X[k], &Y[k]);
   }
 };
 

@@ -21,16 +21,21 @@ LUMI_SIMD_BEGIN
 
 using warp::SpanArgs;
 
-// Source positions of pixels k .. k + N - 1 of the span.
-template <bool kArrays, class D>
+// Source positions of pixels k .. k + N - 1 of the span (positionAt, lane by lane).
+template <int kPos, class D>
 HWY_INLINE void positions(D d, const SpanArgs<void>& a, int k, hn::Vec<D>* x, hn::Vec<D>* y) {
-  if constexpr (kArrays) {
+  if constexpr (kPos == warp::kPosArrays) {
     *x = hn::LoadU(d, a.X + k);
     *y = hn::LoadU(d, a.Y + k);
   } else {
     const auto kk = hn::Add(hn::Set(d, static_cast<double>(k)), hn::Iota(d, 0.0));
     *x = hn::Add(hn::Set(d, a.x0), hn::Mul(kk, hn::Set(d, a.dx)));
     *y = hn::Add(hn::Set(d, a.y0), hn::Mul(kk, hn::Set(d, a.dy)));
+    if constexpr (kPos == warp::kPosProjective) {
+      const auto den = hn::Add(hn::Set(d, a.w0), hn::Mul(kk, hn::Set(d, a.dw)));
+      *x = hn::Div(*x, den);
+      *y = hn::Div(*y, den);
+    }
   }
 }
 
@@ -77,7 +82,7 @@ HWY_INLINE hn::Vec<D> gather(D d, const void* base, VO off) {
   return hn::Load(d, v);
 }
 
-template <class T, int kCh, int kUse, int kMode, bool kArrays>
+template <class T, int kCh, int kUse, int kMode, int kPos>
 void warpSpan(const SpanArgs<T>& a, T* HWY_RESTRICT d, int n) {
   const hn::ScalableTag<double> d64;
   const hn::Rebind<int32_t, decltype(d64)> di;
@@ -90,13 +95,13 @@ void warpSpan(const SpanArgs<T>& a, T* HWY_RESTRICT d, int n) {
                          static_cast<long long>(a.w) * kCh * static_cast<long long>(sizeof(T));
   int k = 0;
   if (a.w >= 4 && a.h >= 2 && last < (1LL << 31) - 64) {
-    const SpanArgs<void> av{a.src, a.step, a.w, a.h, a.x0, a.y0, a.dx, a.dy, a.X, a.Y};
+    const SpanArgs<void> av{a.src, a.step, a.w, a.h, a.x0, a.y0, a.dx, a.dy, a.w0, a.dw, a.X, a.Y};
     const auto* base = reinterpret_cast<const int32_t*>(a.src);
     const VI step = hn::Set(di, a.step);
     const VI chBytes = hn::Set(di, kCh * static_cast<int>(sizeof(T)));
     for (; k + N <= n; k += N) {
       VD x, y;
-      positions<kArrays>(d64, av, k, &x, &y);
+      positions<kPos>(d64, av, k, &x, &y);
       T* out = d + static_cast<std::ptrdiff_t>(k) * kCh;
       if constexpr (kMode == warp::kLinear) {
         const VD xi = linearIndex(d64, &x, a.w), yi = linearIndex(d64, &y, a.h);
@@ -240,22 +245,14 @@ void warpSpan(const SpanArgs<T>& a, T* HWY_RESTRICT d, int n) {
       }
     }
   }
-  if (k < n) {  // the rest of the span (and every pixel of images the gathers cannot serve)
-    SpanArgs<T> r = a;
-    if constexpr (kArrays) {
-      r.X += k;
-      r.Y += k;
-    } else {
-      // positions x0 + (k + j) dx: the twin is called per pixel with its own index
-      for (; k < n; ++k) {
-        const double kk = k;
-        r.x0 = a.x0 + kk * a.dx;
-        r.y0 = a.y0 + kk * a.dy;
-        warp::spanScalar<T, kCh, kUse, kMode, false>(r, d + static_cast<std::ptrdiff_t>(k) * kCh, 1);
-      }
-      return;
-    }
-    warp::spanScalar<T, kCh, kUse, kMode, kArrays>(r, d + static_cast<std::ptrdiff_t>(k) * kCh, n - k);
+  for (; k < n; ++k) {  // the rest of the span (and every pixel of images the loads cannot serve)
+    double x, y;
+    warp::positionAt<kPos>(a, k, &x, &y);
+    const warp::Source<T> s{a.src, a.step, a.w, a.h};
+    T* o = d + static_cast<std::ptrdiff_t>(k) * kCh;
+    if constexpr (kMode == warp::kNearest) warp::nearestPixel<T, kCh, kUse>(s, x, y, o);
+    if constexpr (kMode == warp::kLinear) warp::linearPixel<T, kCh, kUse>(s, x, y, o);
+    if constexpr (kMode == warp::kCubic) warp::cubicPixel<T, kCh, kUse>(s, x, y, o);
   }
 }
 
@@ -272,33 +269,35 @@ constexpr bool kVector = std::is_same_v<T, Lum8u>
                              ? (kMode == kLinear || (kMode == kNearest && kCh != 3) || (kMode == kCubic && kCh == 1))
                              : std::is_same_v<T, Lum32f> && (kMode == kLinear || (kMode == kNearest && kCh == 1));
 
-template <class T, class L, int kMode, bool kArrays>
+template <class T, class L, int kMode, int kPos>
 SpanFn<T> pickSpanOf() {
   if constexpr (kVector<T, L::kCh, kMode>) {
-    LUMI_SIMD_TABLE(SpanFn<T>, table, warpSpan<T, L::kCh, L::kUse, kMode, kArrays>);
-    return pick(table, &spanScalar<T, L::kCh, L::kUse, kMode, kArrays>);
+    LUMI_SIMD_TABLE(SpanFn<T>, table, warpSpan<T, L::kCh, L::kUse, kMode, kPos>);
+    return pick(table, &spanScalar<T, L::kCh, L::kUse, kMode, kPos>);
   } else {
-    return &spanScalar<T, L::kCh, L::kUse, kMode, kArrays>;
+    return &spanScalar<T, L::kCh, L::kUse, kMode, kPos>;
   }
+}
+
+template <class T, class L, int kPos>
+SpanFn<T> pickSpanAt(int mode) {
+  return mode == kNearest  ? pickSpanOf<T, L, kNearest, kPos>()
+         : mode == kLinear ? pickSpanOf<T, L, kLinear, kPos>()
+                           : pickSpanOf<T, L, kCubic, kPos>();
 }
 
 template <class T, class L>
-SpanFn<T> pickSpan(int mode, bool arrays) {
-  if (arrays) {
-    return mode == kNearest  ? pickSpanOf<T, L, kNearest, true>()
-           : mode == kLinear ? pickSpanOf<T, L, kLinear, true>()
-                             : pickSpanOf<T, L, kCubic, true>();
-  }
-  return mode == kNearest  ? pickSpanOf<T, L, kNearest, false>()
-         : mode == kLinear ? pickSpanOf<T, L, kLinear, false>()
-                           : pickSpanOf<T, L, kCubic, false>();
+SpanFn<T> pickSpan(int mode, int pos) {
+  return pos == kPosLinear        ? pickSpanAt<T, L, kPosLinear>(mode)
+         : pos == kPosProjective ? pickSpanAt<T, L, kPosProjective>(mode)
+                                 : pickSpanAt<T, L, kPosArrays>(mode);
 }
 
 #define LUMI_WARP_PICKS(T)                                  \
-  template SpanFn<T> pickSpan<T, C1>(int, bool);            \
-  template SpanFn<T> pickSpan<T, C3>(int, bool);            \
-  template SpanFn<T> pickSpan<T, C4>(int, bool);            \
-  template SpanFn<T> pickSpan<T, AC4>(int, bool);
+  template SpanFn<T> pickSpan<T, C1>(int, int);            \
+  template SpanFn<T> pickSpan<T, C3>(int, int);            \
+  template SpanFn<T> pickSpan<T, C4>(int, int);            \
+  template SpanFn<T> pickSpan<T, AC4>(int, int);
 LUMI_WARP_PICKS(Lum8u)
 LUMI_WARP_PICKS(Lum16u)
 LUMI_WARP_PICKS(Lum32f)
