@@ -90,6 +90,15 @@ void linearRowScalar(const T* src, int step, const Box& b, const float* mx, cons
   }
 }
 
+// floor(v + 0.5) saturated to an unsigned integer type, without a library call.
+template <class T>
+inline T roundUpSaturate(float v) {
+  using Lim = std::numeric_limits<T>;
+  if (!(v > 0.0f)) return 0;
+  if (v >= static_cast<float>(Lim::max())) return Lim::max();
+  return static_cast<T>(static_cast<int>(v + 0.5f));  // positive: truncation is floor
+}
+
 // The 4-point cubic through columns and rows -1 .. +2 of trunc(x), trunc(y), clamped to the
 // box; rows first, in float.
 template <class T, class L>
@@ -118,7 +127,7 @@ void cubicRowScalar(const T* src, int step, const Box& b, const float* mx, const
       if constexpr (std::is_floating_point_v<T>)
         d[c] = v;
       else
-        d[c] = saturate<T>(std::floor(v + 0.5f));
+        d[c] = roundUpSaturate<T>(v);
     }
   }
 }
