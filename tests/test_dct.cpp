@@ -242,7 +242,7 @@ TEST(DctGeneral, MatchesTheExactTransformAtManySizes) {
   for (LumiSize sz : sizes) {
     for (bool fwd : {true, false}) {
       Record rec(sz, fwd);
-      GuardedImage<Lum32f> src(sz.width, sz.height, 1), dst(sz.width, sz.height, 1, 8, 1);
+      GuardedImage<Lum32f> src(sz.width, sz.height, 1), dst(sz.width, sz.height, 1, 8, 4);
       src.fill([&](int, int, int) { return static_cast<float>(std::uniform_real_distribution<double>(-100, 100)(r)); });
       std::vector<Lum8u> buf(rec.bufSize() + 3);
       ASSERT_EQ(dctFn(fwd, 0)(src.ptr(), src.step(), dst.ptr(), dst.step(), rec.spec, buf.data() + 3), lumStatusOk);
@@ -271,7 +271,7 @@ TEST(DctGeneral, EightByEightRecordsGiveTheBlockResults) {
     (fwd ? lumiDCT8x8Fwd_32f_C1 : lumiDCT8x8Inv_32f_C1)(b.data(), want.data());
     ASSERT_EQ(dctFn(fwd, 0)(b.data(), 32, got.data(), 32, rec.spec, nullptr), lumStatusOk);
     EXPECT_TRUE(lumitest::sameElements(got, want));
-    GuardedImage<Lum32f> src(8, 8, 1, 4, 0), dst(8, 8, 1, 12, 2);  // other steps: staged
+    GuardedImage<Lum32f> src(8, 8, 1, 4, 0), dst(8, 8, 1, 12, 8);  // other steps: staged
     src.fill([&](int x, int y, int) { return b[y * 8 + x]; });
     std::vector<Lum8u> buf(1040);
     ASSERT_EQ(dctFn(fwd, 0)(src.ptr(), src.step(), dst.ptr(), dst.step(), rec.spec, buf.data()), lumStatusOk);
@@ -288,7 +288,7 @@ TEST(DctGeneral, ChannelsOneByOne) {
       Record rec(sz, fwd);
       for (int l = 1; l < 4; ++l) {
         const lumitest::Layout lay = lumitest::kLayouts[l];
-        GuardedImage<Lum32f> src(sz.width, sz.height, lay.ch), dst(sz.width, sz.height, lay.ch, 4, 1);
+        GuardedImage<Lum32f> src(sz.width, sz.height, lay.ch), dst(sz.width, sz.height, lay.ch, 4, 4);
         src.fillRandom(r);
         dst.fillRandom(r);
         const auto before = dst.pixels();

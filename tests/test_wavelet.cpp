@@ -127,6 +127,33 @@ TEST(Wavelet, StripsEqualTheNarrowRoutine) {
   for (int b = 0; b < 4; ++b) EXPECT_TRUE(lumitest::sameElements(whole.b[b].v, parts.b[b].v)) << b;
 }
 
+// Large images share their rows among threads: the same floats as on one thread.
+TEST(Wavelet, ThreadsGiveTheSameFloats) {
+  Rng r = lumitest::makeRng(4);
+  Fwd f(kD4, highOf(kD4));
+  Inv inv(kD4.reversed(), highOf(kD4).reversed());
+  const LumiSize sz{300, 220};
+  Padded src(600, 440, 1);
+  src.fillRandom(r);
+  std::vector<float> got[2][5];
+  const int saved = threads_omp_of_n_lum;
+  for (int t = 0; t < 2; ++t) {
+    threads_omp_of_n_lum = t + 1;
+    Bands d(sz.width, sz.height, 1);
+    ASSERT_EQ(forward(src, d, sz, f, 1), lumStatusOk);
+    Padded out(600, 440, 1);
+    auto ib = inv.buffer();
+    ASSERT_EQ(lumiWTInv_32f_C1R(d.b[0].origin(), d.b[0].step(), d.b[1].origin(), d.b[1].step(), d.b[2].origin(),
+                                d.b[2].step(), d.b[3].origin(), d.b[3].step(), sz, out.origin(), out.step(), inv.s,
+                                ib.data()),
+              lumStatusOk);
+    for (int b = 0; b < 4; ++b) got[t][b] = d.b[b].v;
+    got[t][4] = out.v;
+  }
+  threads_omp_of_n_lum = saved;
+  for (int b = 0; b < 5; ++b) EXPECT_TRUE(lumitest::sameElements(got[0][b], got[1][b])) << b;
+}
+
 // Forward over a margin of sub-band pixels, then the inverse of the inner part gives back the
 // source; three channels equal three one-channel transforms.
 TEST(Wavelet, PerfectReconstructionOneAndThreeChannels) {

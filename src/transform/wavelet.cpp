@@ -262,6 +262,29 @@ LumStatus bufSizeImpl(const R* r, int* pSize) {
 // The caller's buffer holds floats; the kernels load and store unaligned.
 float* floatsOf(Lum8u* p) { return reinterpret_cast<float*>(p); }
 
+// Rows [0, height) in bands, body(y0, y1, buffer). Large images share the rows among threads:
+// the first uses the caller's buffer, the others one allocated here; when that allocation fails
+// the calling thread does all the rows.
+constexpr long long kForkArea = 256 * 256;
+template <class Body>
+void byBands(int height, int width, int bufSize, Lum8u* pBuffer, Body&& body) {
+  int n = static_cast<long long>(width) * height >= kForkArea ? regionThreads() : 1;
+  if (n > height) n = height;
+  const std::size_t slice = (static_cast<std::size_t>(bufSize) + 63) & ~std::size_t{63};
+  Lum8u* extra = nullptr;
+  if (n > 1 && slice * (n - 1) <= 0x7fffffffu)
+    extra = lumsMalloc_8u(static_cast<int>(slice * (n - 1)));
+  if (!extra) n = 1;
+#pragma omp parallel num_threads(n) if (n > 1)
+  {
+    const int t = omp_get_thread_num();
+    int y0, y1;
+    rowBand(height, t, omp_get_num_threads(), &y0, &y1);
+    if (y0 < y1) body(y0, y1, floatsOf(t == 0 ? pBuffer : extra + slice * (t - 1)));
+  }
+  lumsFree(extra);
+}
+
 // ---- forward ----------------------------------------------------------------------------------
 template <int kCh>
 struct FwdKernels {
@@ -298,23 +321,24 @@ LumStatus fwdImpl(const Lum32f* src, int srcStep, Lum32f* pA, int aStep, Lum32f*
   if (badSize(roi)) return lumStatusSizeErr;
   if (badStep(srcStep, aStep, xStep, yStep, xyStep)) return lumStatusStepErr;
   const FwdKernels<kCh> kn;
-  float* buf = floatsOf(pBuffer);
-  for (int y = 0; y < roi.height; ++y) {
-    float* a = rowAt(pA, aStep, y);
-    float* dx = rowAt(pX, xStep, y);
-    float* dy = rowAt(pY, yStep, y);
-    float* dxy = rowAt(pXY, xyStep, y);
-    for (int ch = 0; ch < kCh; ++ch) {
-      int x0 = 0;
-      for (; roi.width - x0 > kStrip; x0 += kStrip) {  // strips while 257 or more remain
-        fwdStripRow<kCh>(kn, *r, r->low, src, srcStep, y, x0, kStrip, ch, buf, a, dy);
-        fwdStripRow<kCh>(kn, *r, r->high, src, srcStep, y, x0, kStrip, ch, buf, dx, dxy);
+  byBands(roi.height, roi.width, r->bufSize, pBuffer, [&](int y0, int y1, float* buf) {
+    for (int y = y0; y < y1; ++y) {
+      float* a = rowAt(pA, aStep, y);
+      float* dx = rowAt(pX, xStep, y);
+      float* dy = rowAt(pY, yStep, y);
+      float* dxy = rowAt(pXY, xyStep, y);
+      for (int ch = 0; ch < kCh; ++ch) {
+        int x0 = 0;
+        for (; roi.width - x0 > kStrip; x0 += kStrip) {  // strips while 257 or more remain
+          fwdStripRow<kCh>(kn, *r, r->low, src, srcStep, y, x0, kStrip, ch, buf, a, dy);
+          fwdStripRow<kCh>(kn, *r, r->high, src, srcStep, y, x0, kStrip, ch, buf, dx, dxy);
+        }
+        // the narrow rest: at most 256 columns
+        fwdStripRow<kCh>(kn, *r, r->low, src, srcStep, y, x0, roi.width - x0, ch, buf, a, dy);
+        fwdStripRow<kCh>(kn, *r, r->high, src, srcStep, y, x0, roi.width - x0, ch, buf, dx, dxy);
       }
-      // the narrow rest: at most 256 columns
-      fwdStripRow<kCh>(kn, *r, r->low, src, srcStep, y, x0, roi.width - x0, ch, buf, a, dy);
-      fwdStripRow<kCh>(kn, *r, r->high, src, srcStep, y, x0, roi.width - x0, ch, buf, dx, dxy);
     }
-  }
+  });
   return lumStatusOk;
 }
 
@@ -361,24 +385,25 @@ LumStatus invImpl(const Lum32f* pA, int aStep, const Lum32f* pX, int xStep, cons
   if (badSize(roi)) return lumStatusSizeErr;
   if (badStep(aStep, xStep, yStep, xyStep, dstStep)) return lumStatusStepErr;
   const InvKernels<kCh> kn;
-  float* rl = floatsOf(pBuffer);
-  float* rh = rl + r->workLow;
   const SynthFilter lo{r->low.taps, r->low.len, r->low.anchor, marginOf(r->low)};
   const SynthFilter hi{r->high.taps, r->high.len, r->high.anchor, marginOf(r->high)};
-  for (int m = 0; m < 2 * roi.height; ++m) {
-    float* out = rowAt(dst, dstStep, m);
-    for (int ch = 0; ch < kCh; ++ch) {
-      for (int x0 = 0; x0 < roi.width;) {
-        const int n = roi.width - x0 > kStrip ? kStrip : roi.width - x0;
-        // horizontally low: approximation (vertical low) and DetailX (vertical high)
-        invVertical<kCh>(kn, *r, r->low, Band{pA, aStep}, Band{pX, xStep}, m, x0, n, ch, rl);
-        // horizontally high: DetailY (vertical low) and DetailXY (vertical high)
-        invVertical<kCh>(kn, *r, r->high, Band{pY, yStep}, Band{pXY, xyStep}, m, x0, n, ch, rh);
-        kn.syn(lo, rl, hi, rh, out + elemsOf(2 * x0, kCh) + ch, n);
-        x0 += n;
+  byBands(2 * roi.height, 2 * roi.width, r->bufSize, pBuffer, [&](int m0, int m1, float* rl) {
+    float* rh = rl + r->workLow;
+    for (int m = m0; m < m1; ++m) {
+      float* out = rowAt(dst, dstStep, m);
+      for (int ch = 0; ch < kCh; ++ch) {
+        for (int x0 = 0; x0 < roi.width;) {
+          const int n = roi.width - x0 > kStrip ? kStrip : roi.width - x0;
+          // horizontally low: approximation (vertical low) and DetailX (vertical high)
+          invVertical<kCh>(kn, *r, r->low, Band{pA, aStep}, Band{pX, xStep}, m, x0, n, ch, rl);
+          // horizontally high: DetailY (vertical low) and DetailXY (vertical high)
+          invVertical<kCh>(kn, *r, r->high, Band{pY, yStep}, Band{pXY, xyStep}, m, x0, n, ch, rh);
+          kn.syn(lo, rl, hi, rh, out + elemsOf(2 * x0, kCh) + ch, n);
+          x0 += n;
+        }
       }
     }
-  }
+  });
   return lumStatusOk;
 }
 
