@@ -83,7 +83,8 @@ HWY_INLINE hn::Vec<D> gather(D d, const void* base, VO off) {
 }
 
 template <class T, int kCh, int kUse, int kMode, int kPos>
-void warpSpan(const SpanArgs<T>& a, T* HWY_RESTRICT d, int n) {
+void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
+  const SpanArgs<T> a = args;  // a local copy: the stores below cannot alias it
   const hn::ScalableTag<double> d64;
   const hn::Rebind<int32_t, decltype(d64)> di;
   const hn::Rebind<float, decltype(d64)> df;
