@@ -129,9 +129,10 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
   int span = 0, window = 0;
   Windows win;
   // windows live in the scratch slots after the ring's
-  auto windows = [&](int slotsUsed, int taps) {
+  auto windows = [&](int slotsUsed, int taps, bool interleaved = false) {
     if (window > 0)
-      buildWindows(tx.off, n, taps, kCh, window, limit, scratch + slotBytes * slotsUsed, &win);
+      buildWindows(tx.off, n, taps, kCh, window, limit, scratch + slotBytes * slotsUsed, &win,
+                   interleaved);
   };
   auto srow = [&](int r) { return rowAt(src, sstep, r); };
   switch (mode) {
@@ -143,7 +144,7 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
         const LinH8Fn hf = pickLinH8(kCh, &span, &window);
         const LinV8Fn vf = pickLinV8();
         const int safe = safePrefix(tx.off, n, span, limit);
-        windows(2, 2);
+        windows(2, 2, true);
         if (ay.step >= 1.5) {  // source rows are not shared: both rows in one pass
           const LinF8Fn ff = pickLinF8(kCh);
           for (int j = y0; j < y1; ++j) {

@@ -241,7 +241,8 @@ inline int safePrefix(const int32_t* off, int n, int span, std::ptrdiff_t limit)
 // Windows of the horizontal passes: per block of 16 elements, the first element `base` of a
 // window of `size` elements of the source row that holds every tap of the block (kNoWindow if
 // none does, or the window would pass `limit`), and each tap's place in it, tap by tap (16
-// places of tap 0, then 16 of tap 1, ...). The AVX-512 kernels fetch such blocks with two
+// places of tap 0, then 16 of tap 1, ...; interleaved: the taps of element 0, of element 1,
+// ...). The AVX-512 kernels fetch such blocks with two
 // loads and a permute instead of gathers.
 constexpr int kBlock = 16;
 constexpr int32_t kNoWindow = INT32_MIN;
@@ -254,7 +255,7 @@ inline std::size_t windowBytes(int n, int taps) {
   return blocks * 4 + blocks * kBlock * taps * 2 + 128;
 }
 inline void buildWindows(const int32_t* off, int n, int taps, int pitch, int size,
-                         std::ptrdiff_t limit, Lum8u* mem, Windows* w) {
+                         std::ptrdiff_t limit, Lum8u* mem, Windows* w, bool interleaved = false) {
   const int blocks = n / kBlock;
   w->base = reinterpret_cast<int32_t*>(mem);
   w->idx = reinterpret_cast<uint16_t*>(mem + ((static_cast<std::size_t>(blocks) * 4 + 63) & ~std::size_t{63}));
@@ -270,7 +271,8 @@ inline void buildWindows(const int32_t* off, int n, int taps, int pitch, int siz
     w->base[b] = lo;
     uint16_t* ix = w->idx + static_cast<std::ptrdiff_t>(b) * kBlock * taps;
     for (int k = 0; k < kBlock; ++k)
-      for (int t = 0; t < taps; ++t) ix[t * kBlock + k] = static_cast<uint16_t>(o[k] + t * pitch - lo);
+      for (int t = 0; t < taps; ++t)
+        ix[interleaved ? k * taps + t : t * kBlock + k] = static_cast<uint16_t>(o[k] + t * pitch - lo);
   }
 }
 

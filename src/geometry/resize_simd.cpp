@@ -26,6 +26,24 @@ HWY_INLINE void window8(const Lum8u* p, const uint16_t* ix, __m512i* a, __m512i*
   *a = _mm512_cvtepu16_epi32(_mm512_castsi512_si256(v));
   *b = _mm512_cvtepu16_epi32(_mm512_extracti64x4_epi64(v, 1));
 }
+// The horizontal sums of linear 8u for a block of 16 elements: both taps of each element out of
+// the 64-byte window (interleaved places), times the weight pairs, >> 8: 16 exact 32-bit sums.
+HWY_INLINE __m512i linSums8(const Lum8u* p, const uint16_t* ix, const int16_t* wq) {
+  const __m512i lo = _mm512_cvtepu8_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)));
+  const __m512i hi = _mm512_cvtepu8_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p + 32)));
+  const __m512i pairs = _mm512_permutex2var_epi16(lo, _mm512_loadu_si512(ix), hi);
+  return _mm512_srai_epi32(_mm512_madd_epi16(pairs, _mm512_loadu_si512(wq)), 8);
+}
+// The column step of linear 8u in 16-bit lanes for 32 elements, h0 and h1 packed (blocks A and
+// B interleaved by fours, as packs leaves them): (h0 + floor((h1 - h0) wy / 2^14) + 32) >> 6,
+// which equals (h0 (16384 - wy) + h1 wy + 2^19) >> 20; wy = 16384 comes as h0 = h1, wy = 0.
+HWY_INLINE __m256i linColumn8(__m512i h0, __m512i h1, __m512i wy2) {
+  const __m512i d2 = _mm512_slli_epi16(_mm512_sub_epi16(h1, h0), 1);
+  const __m512i v = _mm512_add_epi16(_mm512_add_epi16(h0, _mm512_mulhi_epi16(d2, wy2)), _mm512_set1_epi16(32));
+  const __m256i b = _mm512_cvtepi16_epi8(_mm512_srai_epi16(v, 6));
+  return _mm256_permutevar8x32_epi32(b, _mm256_setr_epi32(0, 2, 4, 6, 1, 3, 5, 7));
+}
+
 // Tap t of a block of 16 elements out of its 64-float window (two permutes, places 32..63
 // taken from the second).
 HWY_INLINE __m512 windowF(const float* p, const uint16_t* ix) {
@@ -126,9 +144,8 @@ void linH8(const Lum8u* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off,
     for (int b = 0; (b + 1) * resize::kBlock <= n; ++b, e += resize::kBlock) {
       const int32_t lo = win->base[b];
       if (lo != resize::kNoWindow) {
-        __m512i a, c;
-        window8(s + lo, win->idx + b * 2 * resize::kBlock, &a, &c);
-        finish(e, V{a}, V{c});
+        const __m512i hv = linSums8(s + lo, win->idx + b * 2 * resize::kBlock, wq + 2 * e);
+        _mm256_storeu_si256(reinterpret_cast<__m256i*>(h + e), _mm512_cvtepi32_epi16(hv));
       } else if (e + N <= safe) {
         gathered(e);
       } else {
@@ -246,20 +263,27 @@ void linF8(const Lum8u* HWY_RESTRICT s0, const Lum8u* HWY_RESTRICT s1,
   int e = 0;
 #if LUMI_RESIZE_WINDOWS
   if (win != nullptr && win->base != nullptr) {
-    for (int b = 0; (b + 1) * resize::kBlock <= n; ++b, e += resize::kBlock) {
-      const int32_t lo = win->base[b];
-      if (lo != resize::kNoWindow) {
-        const uint16_t* ix = win->idx + b * 2 * resize::kBlock;
-        __m512i a, c;
-        window8(s0 + lo, ix, &a, &c);
-        const V h0 = sums(e, V{a}, V{c});
-        window8(s1 + lo, ix, &a, &c);
-        column(e, h0, sums(e, V{a}, V{c}));
-      } else if (e + N <= safe) {
-        column(e, gathered(s0, e), gathered(s1, e));
-      } else {
-        resize::linF8Scalar(s0, s1, off + e, wq + 2 * e, resize::kBlock, pitch, 0, nullptr, wy,
-                            dst + e, keepAlpha);
+    const bool last = wy == resize::kOne;  // all weight on the second row
+    const __m512i wy2 = _mm512_set1_epi16(static_cast<int16_t>(last ? 0 : 2 * wy));
+    const Lum8u* first = last ? s1 : s0;
+    for (int b = 0; (b + 2) * resize::kBlock <= n; b += 2, e += 2 * resize::kBlock) {
+      const int32_t la = win->base[b], lb = win->base[b + 1];
+      if (la != resize::kNoWindow && lb != resize::kNoWindow) {
+        const uint16_t* ia = win->idx + b * 2 * resize::kBlock;
+        const uint16_t* ib = ia + 2 * resize::kBlock;
+        const __m512i h0 = _mm512_packs_epi32(linSums8(first + la, ia, wq + 2 * e),
+                                              linSums8(first + lb, ib, wq + 2 * e + 32));
+        const __m512i h1 = _mm512_packs_epi32(linSums8(s1 + la, ia, wq + 2 * e),
+                                              linSums8(s1 + lb, ib, wq + 2 * e + 32));
+        const __m256i v = linColumn8(h0, h1, wy2);
+        if (keepAlpha) _mm256_mask_storeu_epi8(dst + e, 0x77777777u, v);
+        else _mm256_storeu_si256(reinterpret_cast<__m256i*>(dst + e), v);
+        continue;
+      }
+      for (int k = 0; k < 2 * resize::kBlock; k += N) {
+        if (e + k + N <= safe) column(e + k, gathered(s0, e + k), gathered(s1, e + k));
+        else resize::linF8Scalar(s0, s1, off + e + k, wq + 2 * (e + k), N, pitch, 0, nullptr, wy,
+                                 dst + e + k, keepAlpha);
       }
     }
   }
