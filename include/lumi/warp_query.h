@@ -12,7 +12,7 @@
  * or collinear edge, a turn against the others (crossed or folded) or a coordinate that is
  * not finite is degenerate: the Quad and Bound queries then return lumStatusCoeffErr with
  * their result still filled. Angles are in degrees; rotations by a multiple of 90 degrees use
- * exact sines and cosines. All implemented in src/geometry/warp_query.cpp. */
+ * exact sines and cosines. */
 #ifndef LUMI_WARP_QUERY_H
 #define LUMI_WARP_QUERY_H
 #include "lumi/types.h"
@@ -23,33 +23,35 @@ extern "C" {
 /* Affine: the quadrangle and bound of a ROI under coeffs; the coefficients that take the ROI
    corners to quad (lumStatusQuadErr for a degenerate quad, then lumStatusRectErr for a ROI one
    pixel wide or high; lumStatusAffineQuadChangedWarn when opposite sides of quad are not
-   parallel, the coefficients then coming from its first three corners). */
+   parallel, the coefficients then coming from its first three corners)
+   (src/geometry/warp_query.cpp). */
 LUMI_API LumStatus lumiGetAffineQuad(LumiRect srcRoi, double quad[4][2], const double coeffs[2][3]);
 LUMI_API LumStatus lumiGetAffineBound(LumiRect srcRoi, double bound[2][2], const double coeffs[2][3]);
 LUMI_API LumStatus lumiGetAffineTransform(LumiRect srcRoi, const double quad[4][2], double coeffs[2][3]);
 
 /* Rotation by angle about the origin followed by (xShift, yShift): coefficients
    {cos a, sin a, xShift; -sin a, cos a, yShift}. GetRotateShift gives the shifts that keep
-   (xCenter, yCenter) in place; AddRotateShift adds them to the shifts given. */
+   (xCenter, yCenter) in place; AddRotateShift adds them to the shifts given
+   (src/geometry/warp_query.cpp). */
 LUMI_API LumStatus lumiGetRotateShift(double xCenter, double yCenter, double angle, double* xShift, double* yShift);
 LUMI_API LumStatus lumiAddRotateShift(double xCenter, double yCenter, double angle, double* xShift, double* yShift);
 LUMI_API LumStatus lumiGetRotateQuad(LumiRect srcRoi, double quad[4][2], double angle, double xShift, double yShift);
 LUMI_API LumStatus lumiGetRotateBound(LumiRect srcRoi, double bound[2][2], double angle, double xShift, double yShift);
 
-/* Shear: coefficients {1, xShear, xShift; yShear, 1, yShift}. */
+/* Shear: coefficients {1, xShear, xShift; yShear, 1, yShift} (src/geometry/warp_query.cpp). */
 LUMI_API LumStatus lumiGetShearQuad(LumiRect srcRoi, double quad[4][2], double xShear, double yShear, double xShift, double yShift);
 LUMI_API LumStatus lumiGetShearBound(LumiRect srcRoi, double bound[2][2], double xShear, double yShear, double xShift, double yShift);
 
 /* Perspective: quadrangle, bound, and the coefficients (c22 scaled to 1 where it is not zero)
    that take the ROI corners to quad (lumStatusQuadErr for a degenerate quad, then
-   lumStatusRectErr for a ROI one pixel wide or high). */
+   lumStatusRectErr for a ROI one pixel wide or high) (src/geometry/warp_query.cpp). */
 LUMI_API LumStatus lumiGetPerspectiveQuad(LumiRect srcRoi, double quad[4][2], const double coeffs[3][3]);
 LUMI_API LumStatus lumiGetPerspectiveBound(LumiRect srcRoi, double bound[2][2], const double coeffs[3][3]);
 LUMI_API LumStatus lumiGetPerspectiveTransform(LumiRect srcRoi, const double quad[4][2], double coeffs[3][3]);
 
 /* Bilinear: quadrangle, bound, and the coefficients that take the ROI corners to quad (any
    quad, degenerate ones included; lumStatusRectErr for a ROI one pixel wide or high, where no
-   bilinear map is determined). */
+   bilinear map is determined) (src/geometry/warp_query.cpp). */
 LUMI_API LumStatus lumiGetBilinearQuad(LumiRect srcRoi, double quad[4][2], const double coeffs[2][4]);
 LUMI_API LumStatus lumiGetBilinearBound(LumiRect srcRoi, double bound[2][2], const double coeffs[2][4]);
 LUMI_API LumStatus lumiGetBilinearTransform(LumiRect srcRoi, const double quad[4][2], double coeffs[2][4]);
