@@ -6,6 +6,7 @@
 #include <cstring>
 #include <vector>
 
+#include "core/frame.h"
 #include "lumitest.h"
 #include "signal/fft.h"
 
@@ -85,8 +86,17 @@ TEST(Fft1d, ComplexMatchesDirectDft) {
       std::vector<Lum32fc> data(n + 1);
       for (int j = 0; j < n; ++j) data[j] = Lum32fc{float(x[j].real()), float(x[j].imag())};
       data[n] = Lum32fc{123.0f, 456.0f};  // must stay
+      // Out of place first: the same values, the source untouched.
+      const std::vector<Lum32fc> src(data);
+      std::vector<Lum32fc> out(n);
+      f->transform(src.data(), out.data(), sign > 0, work.p);
       if (sign < 0) f->forward(data.data(), work.p);
       else f->inverse(data.data(), work.p);
+      for (int k = 0; k < n; ++k) {
+        ASSERT_EQ(out[k].re, data[k].re) << "out of place, n " << n << " at " << k;
+        ASSERT_EQ(out[k].im, data[k].im) << "out of place, n " << n << " at " << k;
+        ASSERT_EQ(src[k].re, float(x[k].real()));
+      }
       double err = 0;
       for (int k = 0; k < n; ++k) err = std::max(err, std::abs(cd(data[k].re, data[k].im) - ref[k]));
       EXPECT_LE(err / energy(x), tolerance(n)) << "n " << n << " sign " << sign;
@@ -176,6 +186,80 @@ TEST(Fft1d, BatchMatchesSingleVectors) {
     }
     ComplexFft::destroy(f);
   }
+}
+
+// Forward then inverse gives n times the input, for every length up to 200: every
+// factorisation the planner makes, and the chirp route for each prime above 7.
+TEST(Fft1d, RoundTripEveryLength) {
+  for (int n = 1; n <= 200; ++n) {
+    ComplexFft* c = ComplexFft::create(n);
+    RealFft* r = RealFft::create(n);
+    ASSERT_TRUE(c && r) << n;
+    Work work(std::max(c->workBytes(), r->workBytes()));
+    const auto x = randomSignal(n, 3 * n);
+    std::vector<Lum32fc> data(n);
+    std::vector<float> real(n);
+    for (int j = 0; j < n; ++j) {
+      data[j] = Lum32fc{float(x[j].real()), float(x[j].imag())};
+      real[j] = float(x[j].real());
+    }
+    c->forward(data.data(), work.p);
+    c->inverse(data.data(), work.p);
+    r->forward(real.data(), real.data(), work.p);
+    r->inverse(real.data(), real.data(), work.p);
+    double err = 0, errReal = 0;
+    for (int j = 0; j < n; ++j) {
+      err = std::max(err, std::abs(cd(data[j].re, data[j].im) / double(n) - x[j]));
+      errReal = std::max(errReal, std::abs(real[j] / double(n) - x[j].real()));
+    }
+    EXPECT_LE(err / energy(x), tolerance(n)) << "complex n " << n;
+    EXPECT_LE(errReal / energy(x), tolerance(n)) << "real n " << n;
+    EXPECT_TRUE(work.tailIntact()) << n;
+    ComplexFft::destroy(c);
+    RealFft::destroy(r);
+  }
+}
+
+// The vector kernels of every target the processor has against the scalar passes, in one
+// process, on both directions of a complex and a real transform.
+TEST(Fft1d, EveryTargetAgreesWithScalarPasses) {
+  const int top = lumi::setSimdLevel(lumi::kAVX3);
+  const int max = lumi::simdLevel();
+  for (int n : {60, 512, 1000}) {
+    ComplexFft* c = ComplexFft::create(n);
+    RealFft* r = RealFft::create(n);
+    Work work(std::max(c->workBytes(), r->workBytes()));
+    const auto x = randomSignal(n, 11 * n);
+    std::vector<std::vector<float>> results;
+    for (int level = lumi::kScalar; level <= max; ++level) {
+      lumi::setSimdLevel(level);
+      std::vector<Lum32fc> data(n);
+      std::vector<float> packed(n), back(n), in(n);
+      for (int j = 0; j < n; ++j) {
+        data[j] = Lum32fc{float(x[j].real()), float(x[j].imag())};
+        in[j] = float(x[j].imag());
+      }
+      c->forward(data.data(), work.p);
+      r->forward(in.data(), packed.data(), work.p);
+      r->inverse(packed.data(), back.data(), work.p);
+      std::vector<float> all(reinterpret_cast<float*>(data.data()),
+                             reinterpret_cast<float*>(data.data()) + 2 * n);
+      c->inverse(data.data(), work.p);
+      for (int j = 0; j < n; ++j) all.insert(all.end(), {data[j].re, data[j].im, packed[j], back[j]});
+      results.push_back(all);
+    }
+    for (size_t level = 1; level < results.size(); ++level) {
+      double err = 0, mag = 1e-30;
+      for (size_t i = 0; i < results[0].size(); ++i) {
+        err = std::max(err, double(std::abs(results[level][i] - results[0][i])));
+        mag = std::max(mag, double(std::abs(results[0][i])));
+      }
+      EXPECT_LE(err / mag, 1e-5) << "n " << n << " level " << level;
+    }
+    ComplexFft::destroy(c);
+    RealFft::destroy(r);
+  }
+  lumi::setSimdLevel(top);
 }
 
 // One plan, several threads, each with its own buffer.
