@@ -3,6 +3,7 @@
 // dispatch, checks and kinds).
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 #include "lumi/dct.h"
 #include "lumitest.h"
@@ -12,18 +13,24 @@ namespace {
 using lumitest::GuardedImage;
 using lumitest::Rng;
 
-// Orthonormal DCT-II of a vector (or its inverse), in double.
+// Orthonormal DCT-II of a vector (or its inverse), in double; the matrix of each length is
+// made once.
 std::vector<double> dct1(const std::vector<double>& x, bool inv) {
+  static std::map<int, std::vector<double>> matrices;
   const int n = static_cast<int>(x.size());
+  auto& m = matrices[n];
+  if (m.empty())
+    for (int k = 0; k < n; ++k)
+      for (int j = 0; j < n; ++j)
+        m.push_back((k ? std::sqrt(2.0 / n) : std::sqrt(1.0 / n)) *
+                    std::cos(M_PI * (2 * j + 1) * k / (2.0 * n)));
   std::vector<double> y(n, 0.0);
   for (int k = 0; k < n; ++k)
     for (int j = 0; j < n; ++j) {
-      const double c = (k ? std::sqrt(2.0 / n) : std::sqrt(1.0 / n)) *
-                       std::cos(M_PI * (2 * j + 1) * k / (2.0 * n));
       if (inv)
-        y[j] += c * x[k];
+        y[j] += m[k * n + j] * x[k];
       else
-        y[k] += c * x[j];
+        y[k] += m[k * n + j] * x[j];
     }
   return y;
 }
