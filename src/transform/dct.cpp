@@ -169,12 +169,13 @@ LumStatus dctImpl(const float* src, int srcStep, float* dst, int dstStep, const 
   const int groups = (s->width + kGroup - 1) / kGroup;
   const bool fork = !s->is8x8 && static_cast<long long>(s->width) * s->height >= kForkArea &&
                     regionThreads() > 1;
-  if (fork) {  // every thread its own buffer: the caller's serves one thread only
-    const int n = std::min(regionThreads(), s->height);
-    const std::size_t slice = (static_cast<std::size_t>(s->bufSize) + 63) & ~std::size_t{63};
-    if (slice * n > 0x7fffffffu) return lumStatusMemAllocErr;
-    Lum8u* all = lumsMalloc_8u(static_cast<int>(slice * n));
-    if (!all) return lumStatusMemAllocErr;
+  // Every thread its own buffer (the caller's serves one thread only); when they cannot be had,
+  // the calling thread does it all.
+  const int n = std::min(regionThreads(), s->height);
+  const std::size_t slice = (static_cast<std::size_t>(s->bufSize) + 63) & ~std::size_t{63};
+  Lum8u* all = nullptr;
+  if (fork && slice * n <= 0x7fffffffu) all = lumsMalloc_8u(static_cast<int>(slice * n));
+  if (all) {
     // one region: rows in bands, a barrier, then column groups in bands
 #pragma omp parallel num_threads(n)
     {
