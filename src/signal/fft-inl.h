@@ -253,13 +253,59 @@ void passDir(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count) {
 }
 
 // The complex points k .. k+L-1 read backwards from the one ending at p.
-HWY_INLINE V loadReversed(DF d, const float* lastPoint, std::ptrdiff_t L) {
-  const DD dd;
+template <class D>
+HWY_INLINE hn::Vec<D> loadReversed(D d, const float* lastPoint, std::ptrdiff_t L) {
+  const hn::Repartition<double, D> dd;
   return hn::BitCast(d, hn::Reverse(dd, hn::BitCast(dd, hn::LoadU(d, lastPoint - 2 * (L - 1)))));
 }
-HWY_INLINE void storeReversed(DF d, V v, float* lastPoint, std::ptrdiff_t L) {
-  const DD dd;
+template <class D>
+HWY_INLINE void storeReversed(D d, hn::Vec<D> v, float* lastPoint, std::ptrdiff_t L) {
+  const hn::Repartition<double, D> dd;
   hn::StoreU(hn::BitCast(d, hn::Reverse(dd, hn::BitCast(dd, v))), d, lastPoint - 2 * (L - 1));
+}
+
+// The real transform's twist on vectors of points k and their mirrors h-k (see fft_kernels.h),
+// from k while a whole vector fits below hi; returns the first k left.
+template <class D>
+int twistForward(D d, const Lum32fc* z, float* packed, const float* tw, int h, int k, int hi) {
+  using VD = hn::Vec<D>;
+  const Signs<D> sg(d);
+  const int L = static_cast<int>(hn::Lanes(d) / 2);
+  const VD half = hn::Set(d, 0.5f);
+  const float* zf = reinterpret_cast<const float*>(z);
+  for (; k + L - 1 <= hi; k += L) {
+    const VD zk = hn::LoadU(d, zf + 2 * k);
+    const VD zc = loadReversed(d, zf + 2 * (h - k), L);  // Z(h-k), same lanes as Z(k)
+    const VD sum = hn::Add(zk, zc), dif = hn::Sub(zk, zc);
+    const VD e = hn::Mul(hn::OddEven(dif, sum), half);
+    const VD o = hn::Mul(hn::Xor(hn::Reverse2(d, hn::OddEven(sum, dif)), sg.odd), half);
+    const VD t = hn::LoadU(d, tw + 2 * k);  // (cos, sin): w^k = conj t
+    const VD c = hn::DupEven(t), sn = hn::DupOdd(t);
+    const VD pr = hn::Add(hn::Mul(o, c), hn::Xor(hn::Mul(hn::Reverse2(d, o), sn), sg.odd));
+    hn::StoreU(hn::Add(e, pr), d, packed + 2 * k - 1);
+    storeReversed(d, hn::Xor(hn::Sub(e, pr), sg.odd), packed + 2 * (h - k) - 1, L);
+  }
+  return k;
+}
+
+template <class D>
+int twistInverse(D d, const float* packed, Lum32fc* z, const float* tw, int h, int k, int hi) {
+  using VD = hn::Vec<D>;
+  const Signs<D> sg(d);
+  const int L = static_cast<int>(hn::Lanes(d) / 2);
+  float* zf = reinterpret_cast<float*>(z);
+  for (; k + L - 1 <= hi; k += L) {
+    const VD a = hn::LoadU(d, packed + 2 * k - 1);
+    const VD c = hn::Xor(loadReversed(d, packed + 2 * (h - k) - 1, L), sg.odd);  // conj A(h-k)
+    const VD f = hn::Add(a, c), df = hn::Sub(a, c);
+    const VD t = hn::LoadU(d, tw + 2 * k);  // conj(w^k) = (cos, sin)
+    const VD g = hn::Add(hn::Mul(df, hn::DupEven(t)),
+                         hn::Mul(hn::Reverse2(d, df), hn::Xor(hn::DupOdd(t), sg.even)));
+    const VD gs = hn::Reverse2(d, g);
+    hn::StoreU(hn::Add(f, hn::Xor(gs, sg.even)), d, zf + 2 * k);
+    storeReversed(d, hn::Add(hn::Xor(f, sg.odd), gs), zf + 2 * (h - k), L);
+  }
+  return k;
 }
 
 }  // namespace fftv
@@ -271,50 +317,17 @@ inline void fftPass(const signal::FftPass& ps, const Lum32fc* x, Lum32fc* y, int
   else fftv::passDir<false>(ps, x, y, count);
 }
 
-// The real transform's twist on vectors of points k and their mirrors h-k (see fft_kernels.h).
+// The twist in wide vectors, then narrow ones, then point by point.
 inline void fftTwistForward(const Lum32fc* z, float* packed, const float* tw, int h, int lo,
                             int hi) {
-  using namespace fftv;
-  const DF d;
-  const Signs<DF> sg(d);
-  const int L = static_cast<int>(hn::Lanes(d) / 2);
-  const V half = hn::Set(d, 0.5f);
-  const float* zf = reinterpret_cast<const float*>(z);
-  int k = lo;
-  for (; k + L - 1 <= hi; k += L) {
-    const V zk = hn::LoadU(d, zf + 2 * k);
-    const V zc = loadReversed(d, zf + 2 * (h - k), L);  // Z(h-k), same lanes as Z(k)
-    const V sum = hn::Add(zk, zc), dif = hn::Sub(zk, zc);
-    const V e = hn::Mul(hn::OddEven(dif, sum), half);
-    const V o = hn::Mul(hn::Xor(hn::Reverse2(d, hn::OddEven(sum, dif)), sg.odd), half);
-    const V t = hn::LoadU(d, tw + 2 * k);  // (cos, sin): w^k = conj t
-    const V c = hn::DupEven(t), sn = hn::DupOdd(t);
-    const V pr = hn::Add(hn::Mul(o, c), hn::Xor(hn::Mul(hn::Reverse2(d, o), sn), sg.odd));
-    hn::StoreU(hn::Add(e, pr), d, packed + 2 * k - 1);
-    storeReversed(d, hn::Xor(hn::Sub(e, pr), sg.odd), packed + 2 * (h - k) - 1, L);
-  }
+  int k = fftv::twistForward(fftv::DW(), z, packed, tw, h, lo, hi);
+  k = fftv::twistForward(fftv::DF(), z, packed, tw, h, k, hi);
   if (k <= hi) signal::fftTwistForwardScalar(z, packed, tw, h, k, hi);
 }
-
 inline void fftTwistInverse(const float* packed, Lum32fc* z, const float* tw, int h, int lo,
                             int hi) {
-  using namespace fftv;
-  const DF d;
-  const Signs<DF> sg(d);
-  const int L = static_cast<int>(hn::Lanes(d) / 2);
-  float* zf = reinterpret_cast<float*>(z);
-  int k = lo;
-  for (; k + L - 1 <= hi; k += L) {
-    const V a = hn::LoadU(d, packed + 2 * k - 1);
-    const V c = hn::Xor(loadReversed(d, packed + 2 * (h - k) - 1, L), sg.odd);  // conj A(h-k)
-    const V f = hn::Add(a, c), df = hn::Sub(a, c);
-    const V t = hn::LoadU(d, tw + 2 * k);  // conj(w^k) = (cos, sin)
-    const V g = hn::Add(hn::Mul(df, hn::DupEven(t)),
-                        hn::Mul(hn::Reverse2(d, df), hn::Xor(hn::DupOdd(t), sg.even)));
-    const V gs = hn::Reverse2(d, g);
-    hn::StoreU(hn::Add(f, hn::Xor(gs, sg.even)), d, zf + 2 * k);
-    storeReversed(d, hn::Add(hn::Xor(f, sg.odd), gs), zf + 2 * (h - k), L);
-  }
+  int k = fftv::twistInverse(fftv::DW(), packed, z, tw, h, lo, hi);
+  k = fftv::twistInverse(fftv::DF(), packed, z, tw, h, k, hi);
   if (k <= hi) signal::fftTwistInverseScalar(packed, z, tw, h, k, hi);
 }
 
