@@ -65,7 +65,7 @@ void* alignedAlloc(size_t bytes) {
   return posix_memalign(&p, kAlign, bytes ? bytes : kAlign) == 0 ? p : nullptr;
 }
 
-// Fills the pass tables of a factored plan inside `tables`, which holds tableFloats(...).
+// Floats of the pass tables of a factored plan (fewer than 8 n in all).
 size_t tableFloats(int n, const int* radix, int passes) {
   size_t f = 0;
   int ni = n;
@@ -77,6 +77,7 @@ size_t tableFloats(int n, const int* radix, int passes) {
   }
   return f;
 }
+// The passes of a factored plan, their tables written into `tables` (tableFloats(...) floats).
 void fillPasses(FftPlan* pl, const int* radix, int passes, float* tables) {
   int ni = pl->n, s = 1;
   for (int i = 0; i < passes; ++i) {
