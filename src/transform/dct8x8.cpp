@@ -13,8 +13,9 @@
 // 19266, 12873, 8867 and 4520; F(u, v) = (sum_y K(v, y) sum_x K(u, x) f(x, y)) / 2^31 (the
 // 2-D factor 1/8 and the constants' 2^28), held exactly in 64 bits between the passes (the
 // even/odd symmetries of K save most products) and rounded once, ties up, then saturated to 16
-// bits. The inverse is the transpose; the reduced
-// inverses sum only the top-left 2x2 or 4x4 coefficients.
+// bits. The inverse is the transpose; the reduced inverses sum only the top-left 2x2 or 4x4
+// coefficients. The vector kernels hold the same integer sums in double lanes, where every
+// intermediate (below 2^50) is exact, so their results equal the plain kernels' bit for bit.
 #include <cstring>
 
 #undef HWY_TARGET_INCLUDE
@@ -104,6 +105,98 @@ HWY_INLINE void block(const float* src, float* dst) {  // src == dst allowed
 void blockFwd(const float* src, float* dst) { block<true>(src, dst); }
 void blockInv(const float* src, float* dst) { block<false>(src, dst); }
 
+// ---- 16-bit blocks: the exact integer sums in double lanes -------------------------------------
+// Every intermediate is an integer below 2^50, so double arithmetic is exact and the results
+// equal the plain 64-bit kernel's bit for bit (whatever the order of the passes).
+using DD = hn::CappedTag<double, 4>;
+using VD = hn::Vec<DD>;
+
+HWY_INLINE VD kd(int u, int x) { return hn::Set(DD(), static_cast<double>(dct::kInt.k[u][x])); }
+
+HWY_INLINE void sums8v(const VD* x, VD* y) {
+  VD s[4], d[4];
+  for (int i = 0; i < 4; ++i) s[i] = hn::Add(x[i], x[7 - i]), d[i] = hn::Sub(x[i], x[7 - i]);
+  const VD ee0 = hn::Add(s[0], s[3]), ee1 = hn::Add(s[1], s[2]);
+  const VD eo0 = hn::Sub(s[0], s[3]), eo1 = hn::Sub(s[1], s[2]);
+  y[0] = hn::Add(hn::Mul(kd(0, 0), ee0), hn::Mul(kd(0, 1), ee1));
+  y[4] = hn::Add(hn::Mul(kd(4, 0), ee0), hn::Mul(kd(4, 1), ee1));
+  y[2] = hn::Add(hn::Mul(kd(2, 0), eo0), hn::Mul(kd(2, 1), eo1));
+  y[6] = hn::Add(hn::Mul(kd(6, 0), eo0), hn::Mul(kd(6, 1), eo1));
+  for (int u = 1; u < 8; u += 2)
+    y[u] = hn::Add(hn::Add(hn::Mul(kd(u, 0), d[0]), hn::Mul(kd(u, 1), d[1])),
+                   hn::Add(hn::Mul(kd(u, 2), d[2]), hn::Mul(kd(u, 3), d[3])));
+}
+HWY_INLINE void sumsT8v(const VD* y, VD* x) {
+  const VD a0 = hn::Add(hn::Mul(kd(0, 0), y[0]), hn::Mul(kd(4, 0), y[4]));
+  const VD a1 = hn::Add(hn::Mul(kd(0, 1), y[0]), hn::Mul(kd(4, 1), y[4]));
+  const VD b0 = hn::Add(hn::Mul(kd(2, 0), y[2]), hn::Mul(kd(6, 0), y[6]));
+  const VD b1 = hn::Add(hn::Mul(kd(2, 1), y[2]), hn::Mul(kd(6, 1), y[6]));
+  const VD e[4] = {hn::Add(a0, b0), hn::Add(a1, b1), hn::Sub(a1, b1), hn::Sub(a0, b0)};
+  for (int n = 0; n < 4; ++n) {
+    const VD o = hn::Add(hn::Add(hn::Mul(kd(1, n), y[1]), hn::Mul(kd(3, n), y[3])),
+                         hn::Add(hn::Mul(kd(5, n), y[5]), hn::Mul(kd(7, n), y[7])));
+    x[n] = hn::Add(e[n], o);
+    x[7 - n] = hn::Sub(e[n], o);
+  }
+}
+
+// Columns of the block (lanes across columns) into t, stored transposed: t[x * 8 + v].
+template <bool kFwd>
+HWY_INLINE void intColumns(const Lum16s* in, double* t) {
+  const DD d;
+  const hn::Rebind<int32_t, DD> d32;
+  const hn::Rebind<int16_t, DD> d16;
+  constexpr size_t N = hn::MaxLanes(d);
+  HWY_ALIGN double lane[N];
+  for (size_t g = 0; g < 8; g += N) {
+    VD x[8], y[8];
+    for (int r = 0; r < 8; ++r)
+      x[r] = hn::PromoteTo(d, hn::PromoteTo(d32, hn::LoadU(d16, in + 8 * r + g)));
+    if constexpr (kFwd)
+      sums8v(x, y);
+    else
+      sumsT8v(x, y);
+    for (int v = 0; v < 8; ++v) {
+      hn::Store(y[v], d, lane);
+      for (size_t i = 0; i < N; ++i) t[(g + i) * 8 + v] = lane[i];
+    }
+  }
+}
+// Rows (the columns of t, lanes across rows), rounded ties up and saturated into out.
+template <bool kFwd>
+HWY_INLINE void intRows(const double* t, Lum16s* out) {
+  const DD d;
+  const hn::Rebind<int32_t, DD> d32;
+  constexpr size_t N = hn::MaxLanes(d);
+  HWY_ALIGN int32_t lane[N];
+  const VD half = hn::Set(d, 1073741824.0), scale = hn::Set(d, 1.0 / 2147483648.0);
+  const VD lo = hn::Set(d, -32768.0), hi = hn::Set(d, 32767.0);
+  for (size_t g = 0; g < 8; g += N) {
+    VD x[8], y[8];
+    for (int c = 0; c < 8; ++c) x[c] = hn::LoadU(d, t + c * 8 + g);
+    if constexpr (kFwd)
+      sums8v(x, y);
+    else
+      sumsT8v(x, y);
+    for (int u = 0; u < 8; ++u) {
+      const VD q = hn::Min(hn::Max(hn::Floor(hn::Mul(hn::Add(y[u], half), scale)), lo), hi);
+      hn::Store(hn::DemoteTo(d32, q), d32, lane);
+      for (size_t i = 0; i < N; ++i) out[(g + i) * 8 + u] = static_cast<Lum16s>(lane[i]);
+    }
+  }
+}
+
+void intFwd(const Lum16s* in, Lum16s* out) {
+  HWY_ALIGN double t[64];
+  intColumns<true>(in, t);
+  intRows<true>(t, out);
+}
+void intInv(const Lum16s* in, Lum16s* out) {
+  HWY_ALIGN double t[64];
+  intColumns<false>(in, t);
+  intRows<false>(t, out);
+}
+
 #endif
 LUMI_SIMD_END
 
@@ -147,26 +240,6 @@ void blockInvScalar(const float* src, float* dst) {
 }
 
 // ---- 16-bit fixed point -----------------------------------------------------------------------
-struct IntTable {
-  int32_t k[8][8];  // k[u][x]
-};
-constexpr IntTable makeIntTable() {
-  // round(16384 sqrt(2) cos(k pi / 16)) for k = 0..8; the u = 0 row is 16384 (C(0) = 1/sqrt(2))
-  constexpr int32_t c[9] = {23170, 22725, 21407, 19266, 16384, 12873, 8867, 4520, 0};
-  IntTable t{};
-  for (int u = 0; u < 8; ++u)
-    for (int x = 0; x < 8; ++x) {
-      if (u == 0) {
-        t.k[u][x] = 16384;
-        continue;
-      }
-      int a = ((2 * x + 1) * u) % 32;  // cos(a pi / 16)
-      if (a > 16) a = 32 - a;
-      t.k[u][x] = a <= 8 ? c[a] : -c[16 - a];
-    }
-  return t;
-}
-constexpr IntTable kInt = makeIntTable();
 
 inline Lum16s roundShift31(int64_t s) {
   return saturate<Lum16s>((s + (int64_t{1} << 30)) >> 31);
@@ -198,12 +271,13 @@ inline void sumsT8(const int64_t* y, int64_t* x) {
   }
 }
 
-// Forward: row sums then column sums, one rounding; in(x, y) read through get(x, y).
-template <class Get>
-void intFwd(Get get, Lum16s* out) {
+// One 8x8 block of 64 contiguous values in row order; in == out allowed. The inverse of the
+// reduced members runs on the block with the other coefficients set to zero (exact sums, so the
+// same results as summing the corner alone).
+void intFwdScalar(const Lum16s* in, Lum16s* out) {
   int64_t r[8][8], c[8], t[8];  // r[u][y]: row sums, transposed
   for (int y = 0; y < 8; ++y) {
-    for (int x = 0; x < 8; ++x) c[x] = get(x, y);
+    for (int x = 0; x < 8; ++x) c[x] = in[y * 8 + x];
     sums8(c, t);
     for (int u = 0; u < 8; ++u) r[u][y] = t[u];
   }
@@ -212,46 +286,54 @@ void intFwd(Get get, Lum16s* out) {
     for (int v = 0; v < 8; ++v) out[v * 8 + u] = roundShift31(t[v]);
   }
 }
-
-// Inverse from the top-left m x m coefficients (m = 8, 4 or 2); put(x, y, value).
-template <int m, class Put>
-void intInv(const Lum16s* in, Put put) {
-  int64_t r[8][8] = {}, c[8] = {}, t[8];  // r[x][v]: row sums, transposed
-  for (int v = 0; v < m; ++v) {
-    for (int u = 0; u < m; ++u) c[u] = in[v * 8 + u];
+void intInvScalar(const Lum16s* in, Lum16s* out) {
+  int64_t r[8][8], c[8], t[8];  // r[x][v]: row sums, transposed
+  for (int v = 0; v < 8; ++v) {
+    for (int u = 0; u < 8; ++u) c[u] = in[v * 8 + u];
     sumsT8(c, t);
     for (int x = 0; x < 8; ++x) r[x][v] = t[x];
   }
   for (int x = 0; x < 8; ++x) {
     sumsT8(r[x], t);
-    for (int y = 0; y < 8; ++y) put(x, y, roundShift31(t[y]));
+    for (int y = 0; y < 8; ++y) out[y * 8 + x] = roundShift31(t[y]);
   }
 }
 
+using IntBlockFn = void (*)(const Lum16s*, Lum16s*);
+IntBlockFn pickIntFwd() {
+  LUMI_SIMD_TABLE(IntBlockFn, table, intFwd);
+  return pick(table, &intFwdScalar);
+}
+IntBlockFn pickIntInv() {
+  LUMI_SIMD_TABLE(IntBlockFn, table, intInv);
+  return pick(table, &intInvScalar);
+}
+
+// Inverse of the top-left m x m coefficients (m = 8, 4 or 2).
 template <int m>
 LumStatus inv16s(const Lum16s* src, Lum16s* dst) {
   if (anyNull(src, dst)) return lumStatusNullPtrErr;
-  Lum16s out[64];
-  intInv<m>(src, [&](int x, int y, Lum16s v) { out[y * 8 + x] = v; });
-  std::memcpy(dst, out, sizeof out);
+  Lum16s in[64] = {};
+  for (int v = 0; v < m; ++v) std::memcpy(in + 8 * v, src + 8 * v, sizeof(Lum16s) * m);
+  pickIntInv()(in, dst);
   return lumStatusOk;
 }
 
 LumStatus fwd16s(const Lum16s* src, int srcStep, Lum16s* dst) {
   if (anyNull(src, dst)) return lumStatusNullPtrErr;
   if (badStep(srcStep)) return lumStatusStepErr;
-  Lum16s out[64];
-  intFwd([&](int x, int y) { return rowAt(src, srcStep, y)[x]; }, out);
-  std::memcpy(dst, out, sizeof out);
+  Lum16s in[64];
+  for (int y = 0; y < 8; ++y) std::memcpy(in + 8 * y, rowAt(src, srcStep, y), 16);
+  pickIntFwd()(in, dst);
   return lumStatusOk;
 }
 
 LumStatus inv16sR(const Lum16s* src, Lum16s* dst, int dstStep) {
   if (anyNull(src, dst)) return lumStatusNullPtrErr;
   if (badStep(dstStep)) return lumStatusStepErr;
-  Lum16s in[64];
-  std::memcpy(in, src, sizeof in);
-  intInv<8>(in, [&](int x, int y, Lum16s v) { rowAt(dst, dstStep, y)[x] = v; });
+  Lum16s out[64];
+  pickIntInv()(src, out);
+  for (int y = 0; y < 8; ++y) std::memcpy(rowAt(dst, dstStep, y), out + 8 * y, 16);
   return lumStatusOk;
 }
 
@@ -263,7 +345,7 @@ LumStatus fwd8u(const Lum8u* src, int srcStep, Lum16s* dst, Lum16s addVal) {
   for (int y = 0; y < 8; ++y)
     for (int x = 0; x < 8; ++x)
       in[y * 8 + x] = static_cast<Lum16s>(static_cast<uint16_t>(rowAt(src, srcStep, y)[x] + addVal));
-  intFwd([&](int x, int y) { return in[y * 8 + x]; }, dst);
+  pickIntFwd()(in, dst);
   return lumStatusOk;
 }
 
@@ -272,14 +354,15 @@ LumStatus fwd8u(const Lum8u* src, int srcStep, Lum16s* dst, Lum16s addVal) {
 LumStatus inv8u(const Lum16s* src, Lum8u* dst, int dstStep, Lum16s addVal, int lo, int hi) {
   if (anyNull(src, dst)) return lumStatusNullPtrErr;
   if (badStep(dstStep)) return lumStatusStepErr;
-  Lum16s in[64];
-  std::memcpy(in, src, sizeof in);
-  intInv<8>(in, [&](int x, int y, Lum16s v) {
-    int s = static_cast<Lum16s>(static_cast<uint16_t>(v + addVal));
-    s = s < lo ? lo : s;
-    s = s > hi ? hi : s;
-    rowAt(dst, dstStep, y)[x] = static_cast<Lum8u>(s);
-  });
+  Lum16s out[64];
+  pickIntInv()(src, out);
+  for (int y = 0; y < 8; ++y)
+    for (int x = 0; x < 8; ++x) {
+      int s = static_cast<Lum16s>(static_cast<uint16_t>(out[y * 8 + x] + addVal));
+      s = s < lo ? lo : s;
+      s = s > hi ? hi : s;
+      rowAt(dst, dstStep, y)[x] = static_cast<Lum8u>(s);
+    }
   return lumStatusOk;
 }
 

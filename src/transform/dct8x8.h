@@ -42,6 +42,29 @@ constexpr ScaleTable makeScaleTable() {
 }
 inline constexpr ScaleTable kScale = makeScaleTable();
 
+// The 16-bit kernels' cosine constants with 14 fraction bits, K(u, x) = round(16384 sqrt(2) C(u)
+// cos((2x + 1) u pi / 16)).
+struct IntTable {
+  int32_t k[8][8];  // k[u][x]
+};
+constexpr IntTable makeIntTable() {
+  // round(16384 sqrt(2) cos(k pi / 16)) for k = 0..8; the u = 0 row is 16384 (C(0) = 1/sqrt(2))
+  constexpr int32_t c[9] = {23170, 22725, 21407, 19266, 16384, 12873, 8867, 4520, 0};
+  IntTable t{};
+  for (int u = 0; u < 8; ++u)
+    for (int x = 0; x < 8; ++x) {
+      if (u == 0) {
+        t.k[u][x] = 16384;
+        continue;
+      }
+      int a = ((2 * x + 1) * u) % 32;  // cos(a pi / 16)
+      if (a > 16) a = 32 - a;
+      t.k[u][x] = a <= 8 ? c[a] : -c[16 - a];
+    }
+  return t;
+}
+inline constexpr IntTable kInt = makeIntTable();
+
 // One 8x8 block, 64 contiguous floats in row order; src == dst allowed.
 using BlockFn = void (*)(const float* src, float* dst);
 BlockFn pickBlockFwd();
