@@ -33,52 +33,82 @@ inline void scaleRow(float* p, int n, float k) {
 
 constexpr int kAhead = 8;  // rows prefetched ahead: column sweeps stride by whole rows
 
-// One sweep over the rows of a column group: `count` complex columns from column x0 (Re at
-// x0 + 2c, Im at x0 + 2c + 1) into cols, side by side (element r of column c at
-// cols[r * count + c]), and the real columns the group carries (col0: column 0, colLast:
-// column W-1, when not null) into their own vectors.
+// A column group: `count` complex columns from column x0 (Re at x0 + 2c, Im at x0 + 2c + 1),
+// held side by side in cols (element r of column c at cols[r * count + c]), and the real
+// columns the group carries (col0: column 0, colLast: column xLast = W-1), when not null.
 struct Group {
   int x0, count;
+  Lum32fc* cols;
   float* col0;
   float* colLast;
   int xLast;
 };
 
-void gather(const float* src, int step, int ch, int H, const Group& g, Lum32fc* cols) {
-  const std::ptrdiff_t off = elemsOf(g.x0, ch), offLast = elemsOf(g.xLast, ch);
-  for (int r = 0; r < H; ++r) {
-    const float* row = rowAt(src, step, r);
-    __builtin_prefetch(rowAt(src, step, r + kAhead) + off);
-    const float* p = row + off;
-    Lum32fc* o = cols + static_cast<std::ptrdiff_t>(r) * g.count;
-    if (ch == 1 && g.count == kGroup) {
-      float* of = reinterpret_cast<float*>(o);
-      for (int i = 0; i < 2 * kGroup; ++i) of[i] = p[i];
-    } else {
-      for (int c = 0; c < g.count; ++c) o[c] = Lum32fc{p[2 * c * ch], p[(2 * c + 1) * ch]};
+inline void gatherRow(const float* row, int ch, int r, const Group& g) {
+  const float* p = row + elemsOf(g.x0, ch);
+  Lum32fc* o = g.cols + static_cast<std::ptrdiff_t>(r) * g.count;
+  if (ch == 1 && g.count == kGroup) {
+    float* of = reinterpret_cast<float*>(o);
+    for (int i = 0; i < 2 * kGroup; ++i) of[i] = p[i];
+  } else {
+    for (int c = 0; c < g.count; ++c) o[c] = Lum32fc{p[2 * c * ch], p[(2 * c + 1) * ch]};
+  }
+  if (g.col0) g.col0[r] = row[0];
+  if (g.colLast) g.colLast[r] = row[elemsOf(g.xLast, ch)];
+}
+inline void scatterRow(float* row, int ch, int r, const Group& g, float k) {
+  float* p = row + elemsOf(g.x0, ch);
+  const Lum32fc* in = g.cols + static_cast<std::ptrdiff_t>(r) * g.count;
+  if (ch == 1 && g.count == kGroup) {
+    const float* f = reinterpret_cast<const float*>(in);
+    for (int i = 0; i < 2 * kGroup; ++i) p[i] = f[i] * k;
+  } else {
+    for (int c = 0; c < g.count; ++c) {
+      p[2 * c * ch] = in[c].re * k;
+      p[(2 * c + 1) * ch] = in[c].im * k;
     }
-    if (g.col0) g.col0[r] = row[0];
-    if (g.colLast) g.colLast[r] = row[offLast];
+  }
+  if (g.col0) row[0] = g.col0[r] * k;
+  if (g.colLast) row[elemsOf(g.xLast, ch)] = g.colLast[r] * k;
+}
+
+// One sweep down the rows: gathers `take` from src and writes `put` (scaled by k) back to dst,
+// either may be null. Fusing the write-back of one group with the gathering of the next halves
+// the sweeps, each of which misses the cache once per row.
+void sweep(const float* src, int srcStep, int sch, float* dst, int dstStep, int dch, int H,
+           const Group* take, const Group* put, float k) {
+  for (int r = 0; r < H; ++r) {
+    if (take) {
+      const float* ahead = rowAt(src, srcStep, r + kAhead) + elemsOf(take->x0, sch);
+      __builtin_prefetch(ahead);
+      __builtin_prefetch(ahead + 2 * kGroup * sch - 1);
+      gatherRow(rowAt(src, srcStep, r), sch, r, *take);
+    }
+    if (put) {
+      float* ahead = rowAt(dst, dstStep, r + kAhead) + elemsOf(put->x0, dch);
+      __builtin_prefetch(ahead, 1);
+      __builtin_prefetch(ahead + 2 * kGroup * dch - 1, 1);
+      scatterRow(rowAt(dst, dstStep, r), dch, r, *put, k);
+    }
   }
 }
-void scatter(const Lum32fc* cols, float* dst, int step, int ch, int H, const Group& g, float k) {
-  const std::ptrdiff_t off = elemsOf(g.x0, ch), offLast = elemsOf(g.xLast, ch);
-  for (int r = 0; r < H; ++r) {
-    float* row = rowAt(dst, step, r);
-    __builtin_prefetch(rowAt(dst, step, r + kAhead) + off, 1);
-    float* p = row + off;
-    const Lum32fc* in = cols + static_cast<std::ptrdiff_t>(r) * g.count;
-    if (ch == 1 && g.count == kGroup) {
-      const float* f = reinterpret_cast<const float*>(in);
-      for (int i = 0; i < 2 * kGroup; ++i) p[i] = f[i] * k;
+
+// Every group of a column pass through `transform`, from src into dst: one sweep per group
+// plus one, the two column buffers taking turns.
+template <class GroupAt, class Transform>
+void columnGroups(int groups, const GroupAt& groupAt, const Transform& transform, const float* src,
+                  int srcStep, int sch, float* dst, int dstStep, int dch, int H, float k) {
+  Group cur = groupAt(0);
+  sweep(src, srcStep, sch, dst, dstStep, dch, H, &cur, nullptr, k);
+  for (int gi = 0; gi < groups; ++gi) {
+    transform(cur);
+    if (gi + 1 < groups) {
+      const Group next = groupAt(gi + 1);
+      sweep(src, srcStep, sch, dst, dstStep, dch, H, &next, &cur, k);
+      cur = next;
     } else {
-      for (int c = 0; c < g.count; ++c) {
-        p[2 * c * ch] = in[c].re * k;
-        p[(2 * c + 1) * ch] = in[c].im * k;
-      }
+      sweep(src, srcStep, sch, dst, dstStep, dch, H, nullptr, &cur, k);
     }
-    if (g.col0) row[0] = g.col0[r] * k;
-    if (g.colLast) row[offLast] = g.colLast[r] * k;
   }
 }
 
@@ -90,11 +120,12 @@ void packedColumns(const Record& R, const float* src, int srcStep, int sch, floa
   const signal::RealFft& real = R.colsReal();
   const int pairs = (W - 1) / 2;
   const int groups = pairs > 0 ? (pairs + kGroup - 1) / kGroup : 1;
-  for (int gi = 0; gi < groups; ++gi) {
+  auto groupAt = [&](int gi) {
     const int j = gi * kGroup;
-    Group g{2 * j + 1, std::min(kGroup, pairs - j), gi == 0 ? s.real : nullptr,
-            gi == groups - 1 && W % 2 == 0 ? s.real + H : nullptr, W - 1};
-    gather(src, srcStep, sch, H, g, s.cols);
+    return Group{2 * j + 1, std::min(kGroup, pairs - j), s.cols[gi % 2], gi == 0 ? s.real : nullptr,
+                 gi == groups - 1 && W % 2 == 0 ? s.real + H : nullptr, W - 1};
+  };
+  auto transform = [&](const Group& g) {
     for (float* col : {g.col0, g.colLast}) {
       if (!col) continue;
       if (inv)
@@ -104,12 +135,12 @@ void packedColumns(const Record& R, const float* src, int srcStep, int sch, floa
     }
     if (g.count > 0) {
       if (inv)
-        R.colC->inverseBatch(s.cols, g.count, s.work);
+        R.colC->inverseBatch(g.cols, g.count, s.work);
       else
-        R.colC->forwardBatch(s.cols, g.count, s.work);
+        R.colC->forwardBatch(g.cols, g.count, s.work);
     }
-    scatter(s.cols, dst, dstStep, dch, H, g, k);
-  }
+  };
+  columnGroups(groups, groupAt, transform, src, srcStep, sch, dst, dstStep, dch, H, k);
 }
 
 }  // namespace
@@ -181,16 +212,17 @@ void transformComplex(const Record& R, const Lum32fc* src, int srcStep, Lum32fc*
   }
   if (H == 1) return;
   float* d = reinterpret_cast<float*>(dst);
-  for (int j = 0; j < W; j += kGroup) {
-    const int n = std::min(kGroup, W - j);
-    const Group g{2 * j, n, nullptr, nullptr, 0};
-    gather(d, dstStep, 1, H, g, s.cols);
+  auto groupAt = [&](int gi) {
+    const int j = gi * kGroup;
+    return Group{2 * j, std::min(kGroup, W - j), s.cols[gi % 2], nullptr, nullptr, 0};
+  };
+  auto transform = [&](const Group& g) {
     if (inv)
-      R.colC->inverseBatch(s.cols, n, s.work);
+      R.colC->inverseBatch(g.cols, g.count, s.work);
     else
-      R.colC->forwardBatch(s.cols, n, s.work);
-    scatter(s.cols, d, dstStep, 1, H, g, k);
-  }
+      R.colC->forwardBatch(g.cols, g.count, s.work);
+  };
+  columnGroups((W + kGroup - 1) / kGroup, groupAt, transform, d, dstStep, 1, d, dstStep, 1, H, k);
 }
 
 // ---- records ---------------------------------------------------------------------------------
@@ -217,7 +249,8 @@ LumStatus createRecord(Record** out, int tag, int width, int height, int sizeX, 
   const uint64_t limit = 0x7fffffff;
   // Sizes whose work buffer no int can describe fail before any engine is built.
   if (H > limit / 256 || W > limit / 8 || (plane && W * H > limit / 4)) return lumStatusMemAllocErr;
-  const uint64_t colsBytes = round64(H * kGroup * sizeof(Lum32fc)) + round64(2 * H * sizeof(float));
+  const uint64_t groupBytes = round64(H * kGroup * sizeof(Lum32fc));
+  const uint64_t colsBytes = 2 * groupBytes + round64(2 * H * sizeof(float));
   const uint64_t rowBytes = real ? round64(W * sizeof(float)) : 0;
   const uint64_t planeBytes = plane ? round64(W * H * sizeof(float)) : 0;
   if (colsBytes + rowBytes + planeBytes > limit) return lumStatusMemAllocErr;
@@ -253,7 +286,8 @@ LumStatus createRecord(Record** out, int tag, int width, int height, int sizeX, 
   if (r->rowC) work = std::max<uint64_t>(work, r->rowC->workBytes());
   if (r->rowR) work = std::max<uint64_t>(work, r->rowR->workBytes());
   if (r->colR) work = std::max<uint64_t>(work, r->colR->workBytes());
-  r->realOff = static_cast<std::size_t>(round64(H * kGroup * sizeof(Lum32fc)));
+  r->colsOff = static_cast<std::size_t>(groupBytes);
+  r->realOff = static_cast<std::size_t>(2 * groupBytes);
   r->rowOff = static_cast<std::size_t>(colsBytes);
   r->planeOff = static_cast<std::size_t>(colsBytes + rowBytes);
   r->workOff = static_cast<std::size_t>(colsBytes + rowBytes + planeBytes);

@@ -3,7 +3,8 @@
 // A transform runs the 1-D engines of src/signal/fft.h over the rows, then over the columns
 // (the inverse real transform the other way round). Columns are never transformed with a
 // stride: groups of up to kGroup complex columns are gathered row by row into the work buffer,
-// side by side, transformed there as one batch and written back.
+// side by side, transformed there as one batch and written back in the sweep that gathers the
+// next group.
 #pragma once
 
 #include <cstddef>
@@ -30,7 +31,7 @@ constexpr int kGroup = 16;  // complex columns per batch (two 64-byte lines of a
 
 // The work buffer, carved from one block at 64-byte boundaries.
 struct Scratch {
-  Lum32fc* cols;  // kGroup complex columns side by side (H x kGroup)
+  Lum32fc* cols[2];  // two blocks of kGroup complex columns side by side (H x kGroup each)
   float* real;    // columns 0 and W-1 of the packed layout (2 x H)
   float* row;     // one row of one channel (W floats)
   float* plane;   // integer members: one channel of the image in float (W x H)
@@ -49,7 +50,7 @@ struct Record {
   signal::ComplexFft* rowC;  // rows of the complex record (null when rows and columns match)
   signal::RealFft* rowR;     // rows of the real records
   signal::RealFft* colR;     // columns 0 and W-1 of the real records (null when they match)
-  std::size_t realOff, rowOff, planeOff, workOff;  // offsets in the aligned work buffer
+  std::size_t colsOff, realOff, rowOff, planeOff, workOff;  // offsets in the aligned buffer
 
   const signal::ComplexFft& rowsComplex() const { return rowC ? *rowC : *colC; }
   const signal::RealFft& colsReal() const { return colR ? *colR : *rowR; }
@@ -58,7 +59,8 @@ struct Record {
     auto base = reinterpret_cast<std::uintptr_t>(buffer);
     base = (base + 63) & ~static_cast<std::uintptr_t>(63);
     Lum8u* b = reinterpret_cast<Lum8u*>(base);
-    return Scratch{reinterpret_cast<Lum32fc*>(b), reinterpret_cast<float*>(b + realOff),
+    return Scratch{{reinterpret_cast<Lum32fc*>(b), reinterpret_cast<Lum32fc*>(b + colsOff)},
+                   reinterpret_cast<float*>(b + realOff),
                    reinterpret_cast<float*>(b + rowOff),
                    reinterpret_cast<float*>(b + planeOff), b + workOff};
   }
