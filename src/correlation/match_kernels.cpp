@@ -4,11 +4,10 @@
 // bit for bit; the twins finish the columns past the last whole vector.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/correlation/match_kernels.cpp"
-#include "correlation/match_kernels.h"
-
-#include "core/simd.h"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
+#include "core/simd.h"
+#include "correlation/match_kernels.h"
 
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
