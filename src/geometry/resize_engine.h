@@ -67,7 +67,7 @@ template <class T, class L>
 Half2Fn<T> pickHalf2();
 
 // Pixel-taps per call above which the rows are shared among threads.
-constexpr long long kForkWork = 1LL << 17;
+constexpr long long kForkWork = 1LL << 18;
 
 // Nearest: destination rows from the same source row as the row above are copies of it.
 template <class T, class L>

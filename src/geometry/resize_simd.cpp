@@ -326,6 +326,17 @@ void linFf(const float* HWY_RESTRICT s0, const float* HWY_RESTRICT s1,
         continue;
       }
       const uint16_t* ix = win->idx + bl * 2 * resize::kBlock;
+      const __m512i i0 = _mm512_cvtepu16_epi32(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(ix)));
+      const __m512i i1 = _mm512_cvtepu16_epi32(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(ix + resize::kBlock)));
+      const __m512i far = _mm512_or_si512(i0, i1);
+      if (_mm512_test_epi32_mask(far, _mm512_set1_epi32(32)) == 0) {  // a 32-float window does
+        const float *p = s0 + lo, *q = s1 + lo;
+        const __m512 a0 = _mm512_loadu_ps(p), a1 = _mm512_loadu_ps(p + 16);
+        const __m512 b0 = _mm512_loadu_ps(q), b1 = _mm512_loadu_ps(q + 16);
+        both(e, V{_mm512_permutex2var_ps(a0, i0, a1)}, V{_mm512_permutex2var_ps(a0, i1, a1)},
+             V{_mm512_permutex2var_ps(b0, i0, b1)}, V{_mm512_permutex2var_ps(b0, i1, b1)});
+        continue;
+      }
       both(e, V{windowF(s0 + lo, ix)}, V{windowF(s0 + lo, ix + resize::kBlock)},
            V{windowF(s1 + lo, ix)}, V{windowF(s1 + lo, ix + resize::kBlock)});
     }
