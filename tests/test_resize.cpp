@@ -355,6 +355,57 @@ TEST(Resize, ShiftWithFractReproducesResize) {
       }
 }
 
+// ResizeShift with its own steps and shifts: counts by the step rules, positions shift +
+// (i + 0.5) step (nearest) or shift + i step, kept inside the image.
+template <class T>
+void checkShift(int layout, double fr, double shift, int mode) {
+  const Layout L = kLayouts[layout];
+  Rng rng = makeRng(31);
+  GuardedImage<T> src(37, 23, L.ch);
+  src.fillRandom(rng);
+  const LumiRect roi{3, 2, 30, 19};
+  const LumiSize dsz{45, 40};
+  GuardedImage<T> dst(dsz.width, dsz.height, L.ch);
+  dst.fillRandom(rng);
+  const std::vector<T> before = dst.pixels();
+  ASSERT_EQ(fns<T>().shift[layout](src.ptr(), src.roi(), src.step(), roi, dst.ptr(), dst.step(), dsz, fr, fr * 1.3, shift, -shift, mode), lumStatusOk);
+  auto axis = [&](int w, double f, double sh, int dstN, int origin, int extent) {
+    RefAxis a;
+    a.origin = origin, a.extent = extent;
+    const double q = std::trunc((mode == 1 ? w : w - 1) / f + 1e-7);
+    a.n = mode == 1 ? std::max(1, static_cast<int>(std::min<double>(q, dstN))) : q < dstN - 1 ? static_cast<int>(q) + 1 : dstN;
+    for (int i = 0; i < a.n; ++i) {
+      const double x = sh + (mode == 1 ? i + 0.5 : i) * f;
+      a.x.push_back(std::min(std::max(x, -1.0 * origin), extent - 1.0 - origin));
+    }
+    return a;
+  };
+  const RefAxis ax = axis(30, fr, shift, dsz.width, roi.x, 37), ay = axis(19, fr * 1.3, -shift, dsz.height, roi.y, 23);
+  for (int y = 0; y < dsz.height; ++y)
+    for (int x = 0; x < dsz.width; ++x)
+      for (int c = 0; c < L.ch; ++c) {
+        const T got = dst.at(x, y, c);
+        if (x >= ax.n || y >= ay.n || c >= L.use) {
+          ASSERT_EQ(got, before[(static_cast<std::size_t>(y) * dsz.width + x) * L.ch + c]);
+          continue;
+        }
+        double v = refValue(src, ax, ay, mode, 0, 0, x, y, c);
+        if (!std::is_floating_point_v<T> && mode == 4)
+          v = std::min(std::max(std::trunc(static_cast<float>(v) + 0.5000001f), 0.0f), static_cast<float>(std::numeric_limits<T>::max()));
+        ASSERT_NEAR(got, v, std::is_floating_point_v<T> ? 1e-3 : 0) << L.name << " mode " << mode << " shift " << shift << " at " << x << "," << y;
+      }
+  ASSERT_TRUE(dst.guardsIntact());
+}
+TEST(Resize, ShiftStepsAndOffsets) {
+  for (int mode : {1, 2, 4})
+    for (double shift : {0.0, 2.75, -4.5, 40.0})
+      for (int layout : {0, 1, 3}) {
+        checkShift<Lum8u>(layout, 0.7, shift, mode);
+        checkShift<Lum32f>(layout, 1.9, shift, mode);
+      }
+  checkShift<Lum16u>(2, 0.45, 1.5, 2);
+}
+
 TEST(Resize, CenterMapping) {
   Rng rng = makeRng(6);
   GuardedImage<Lum32f> src(20, 16, 1);
