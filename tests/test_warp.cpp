@@ -18,36 +18,49 @@ using lumitest::GuardedImage;
 
 namespace {
 
-constexpr int kCh[6] = {1, 3, 4, 4, 1, 1}, kUse[6] = {1, 3, 4, 3, 1, 1}, kPlanes[6] = {1, 1, 1, 1, 3, 4};
+constexpr int kCh[6] = {1, 3, 4, 4, 1, 1}, kUse[6] = {1, 3, 4, 3, 1, 1},
+              kPlanes[6] = {1, 1, 1, 1, 3, 4};
 
 template <class T>
 using WarpFn = std::function<LumStatus(int layout, const T* const* s, T* const* d, LumiSize ss,
                                        int sstep, LumiRect sr, int dstep, LumiRect dr, int mode)>;
 
 // The six exports of one operation and type, by layout index (C1, C3, C4, AC4, P3, P4).
-#define WARP_FN(T, t, OP, ...)                                                                         \
+#define WARP_FN(T, t, OP, ...)                                                                    \
   WarpFn<T>([=](int li, const T* const* s, T* const* d, LumiSize ss, int st, LumiRect sr, int dt, \
-                LumiRect dr, int m) -> LumStatus {                                                     \
-    switch (li) {                                                                                      \
-      case 0: return lumi##OP##_##t##_C1R(s[0], ss, st, sr, d[0], dt, dr, __VA_ARGS__, m);            \
-      case 1: return lumi##OP##_##t##_C3R(s[0], ss, st, sr, d[0], dt, dr, __VA_ARGS__, m);            \
-      case 2: return lumi##OP##_##t##_C4R(s[0], ss, st, sr, d[0], dt, dr, __VA_ARGS__, m);            \
-      case 3: return lumi##OP##_##t##_AC4R(s[0], ss, st, sr, d[0], dt, dr, __VA_ARGS__, m);           \
-      case 4: return lumi##OP##_##t##_P3R(s, ss, st, sr, d, dt, dr, __VA_ARGS__, m);                  \
-      default: return lumi##OP##_##t##_P4R(s, ss, st, sr, d, dt, dr, __VA_ARGS__, m);                 \
-    }                                                                                                  \
+                LumiRect dr, int m) -> LumStatus {                                                \
+    switch (li) {                                                                                 \
+      case 0:                                                                                     \
+        return lumi##OP##_##t##_C1R(s[0], ss, st, sr, d[0], dt, dr, __VA_ARGS__, m);              \
+      case 1:                                                                                     \
+        return lumi##OP##_##t##_C3R(s[0], ss, st, sr, d[0], dt, dr, __VA_ARGS__, m);              \
+      case 2:                                                                                     \
+        return lumi##OP##_##t##_C4R(s[0], ss, st, sr, d[0], dt, dr, __VA_ARGS__, m);              \
+      case 3:                                                                                     \
+        return lumi##OP##_##t##_AC4R(s[0], ss, st, sr, d[0], dt, dr, __VA_ARGS__, m);             \
+      case 4:                                                                                     \
+        return lumi##OP##_##t##_P3R(s, ss, st, sr, d, dt, dr, __VA_ARGS__, m);                    \
+      default:                                                                                    \
+        return lumi##OP##_##t##_P4R(s, ss, st, sr, d, dt, dr, __VA_ARGS__, m);                    \
+    }                                                                                             \
   })
-#define WARP_FN_QUAD(T, t, OP, SQ, DQ)                                                                 \
+#define WARP_FN_QUAD(T, t, OP, SQ, DQ)                                                            \
   WarpFn<T>([=](int li, const T* const* s, T* const* d, LumiSize ss, int st, LumiRect sr, int dt, \
-                LumiRect dr, int m) -> LumStatus {                                                     \
-    switch (li) {                                                                                      \
-      case 0: return lumi##OP##_##t##_C1R(s[0], ss, st, sr, SQ, d[0], dt, dr, DQ, m);                 \
-      case 1: return lumi##OP##_##t##_C3R(s[0], ss, st, sr, SQ, d[0], dt, dr, DQ, m);                 \
-      case 2: return lumi##OP##_##t##_C4R(s[0], ss, st, sr, SQ, d[0], dt, dr, DQ, m);                 \
-      case 3: return lumi##OP##_##t##_AC4R(s[0], ss, st, sr, SQ, d[0], dt, dr, DQ, m);                \
-      case 4: return lumi##OP##_##t##_P3R(s, ss, st, sr, SQ, d, dt, dr, DQ, m);                       \
-      default: return lumi##OP##_##t##_P4R(s, ss, st, sr, SQ, d, dt, dr, DQ, m);                      \
-    }                                                                                                  \
+                LumiRect dr, int m) -> LumStatus {                                                \
+    switch (li) {                                                                                 \
+      case 0:                                                                                     \
+        return lumi##OP##_##t##_C1R(s[0], ss, st, sr, SQ, d[0], dt, dr, DQ, m);                   \
+      case 1:                                                                                     \
+        return lumi##OP##_##t##_C3R(s[0], ss, st, sr, SQ, d[0], dt, dr, DQ, m);                   \
+      case 2:                                                                                     \
+        return lumi##OP##_##t##_C4R(s[0], ss, st, sr, SQ, d[0], dt, dr, DQ, m);                   \
+      case 3:                                                                                     \
+        return lumi##OP##_##t##_AC4R(s[0], ss, st, sr, SQ, d[0], dt, dr, DQ, m);                  \
+      case 4:                                                                                     \
+        return lumi##OP##_##t##_P3R(s, ss, st, sr, SQ, d, dt, dr, DQ, m);                         \
+      default:                                                                                    \
+        return lumi##OP##_##t##_P4R(s, ss, st, sr, SQ, d, dt, dr, DQ, m);                         \
+    }                                                                                             \
   })
 
 // Guarded source and destination planes of one layout; sources random, destinations random too
@@ -92,7 +105,8 @@ double refSample(const GuardedImage<T>& s, int ch, double x, double y, int mode)
       const int64_t wx = std::llround(std::floor((x - ix) * 16384 + 0.5));
       const int64_t wy = std::llround(std::floor((y - iy) * 16384 + 0.5));
       const int64_t h0 = ((16384 - wx) * s.at(ix, iy, ch) + wx * s.at(ix + 1, iy, ch)) / 256;
-      const int64_t h1 = ((16384 - wx) * s.at(ix, iy + 1, ch) + wx * s.at(ix + 1, iy + 1, ch)) / 256;
+      const int64_t h1 =
+          ((16384 - wx) * s.at(ix, iy + 1, ch) + wx * s.at(ix + 1, iy + 1, ch)) / 256;
       return double((h0 * (16384 - wy) + h1 * wy + (1 << 19)) >> 20);
     }
   }
@@ -100,9 +114,12 @@ double refSample(const GuardedImage<T>& s, int ch, double x, double y, int mode)
   auto taps = [](double v, int n, double* t) {
     int b = int(v);
     *t = v - b;
-    if (b == 0) b = 1, *t -= 1;
-    else if (b == n - 2) b = n - 3, *t += 1;
-    else if (b == n - 1) b = n - 3, *t = 2;
+    if (b == 0)
+      b = 1, *t -= 1;
+    else if (b == n - 2)
+      b = n - 3, *t += 1;
+    else if (b == n - 1)
+      b = n - 3, *t = 2;
     return b;
   };
   double tx, ty, wx[4], wy[4];
@@ -141,8 +158,8 @@ void checkWarp(const WarpFn<T>& fn, int li, int mode, LumiSize ss, LumiRect sr, 
             ASSERT_EQ(got, old) << "pixel " << x << "," << y << " channel " << c << " outside";
           } else if (out < -1e-6) {
             const double want = refSample(im.src[p], c, sx, sy, mode & 7);
-            ASSERT_NEAR(got, want, tol)
-                << "pixel " << x << "," << y << " channel " << c << " layout " << li << " mode " << mode;
+            ASSERT_NEAR(got, want, tol) << "pixel " << x << "," << y << " channel " << c
+                                        << " layout " << li << " mode " << mode;
             ++written;
           }
         }
@@ -160,12 +177,16 @@ double tolOf(int mode) {
 }
 
 // The typed exports of each operation.
-template <class T> struct Ops;
+template <class T>
+struct Ops;
 #define WARP_OPS(T, t)                                                                             \
-  template <> struct Ops<T> {                                                                      \
+  template <>                                                                                      \
+  struct Ops<T> {                                                                                  \
     static WarpFn<T> affine(const double (*c)[3]) { return WARP_FN(T, t, WarpAffine, c); }         \
     static WarpFn<T> affineBack(const double (*c)[3]) { return WARP_FN(T, t, WarpAffineBack, c); } \
-    static WarpFn<T> rotate(double a, double x, double y) { return WARP_FN(T, t, Rotate, a, x, y); } \
+    static WarpFn<T> rotate(double a, double x, double y) {                                        \
+      return WARP_FN(T, t, Rotate, a, x, y);                                                       \
+    }                                                                                              \
     static WarpFn<T> rotateCenter(double a, double x, double y) {                                  \
       return WARP_FN(T, t, RotateCenter, a, x, y);                                                 \
     }                                                                                              \
@@ -173,17 +194,21 @@ template <class T> struct Ops;
       return WARP_FN(T, t, Shear, a, b, x, y);                                                     \
     }                                                                                              \
     static WarpFn<T> persp(const double (*c)[3]) { return WARP_FN(T, t, WarpPerspective, c); }     \
-    static WarpFn<T> perspBack(const double (*c)[3]) { return WARP_FN(T, t, WarpPerspectiveBack, c); } \
+    static WarpFn<T> perspBack(const double (*c)[3]) {                                             \
+      return WARP_FN(T, t, WarpPerspectiveBack, c);                                                \
+    }                                                                                              \
     static WarpFn<T> bilinear(const double (*c)[4]) { return WARP_FN(T, t, WarpBilinear, c); }     \
-    static WarpFn<T> bilinearBack(const double (*c)[4]) { return WARP_FN(T, t, WarpBilinearBack, c); } \
-    static WarpFn<T> affineQuad(const double (*sq)[2], const double (*dq)[2]) {                      \
-      return WARP_FN_QUAD(T, t, WarpAffineQuad, sq, dq);                                             \
+    static WarpFn<T> bilinearBack(const double (*c)[4]) {                                          \
+      return WARP_FN(T, t, WarpBilinearBack, c);                                                   \
     }                                                                                              \
-    static WarpFn<T> perspQuad(const double (*sq)[2], const double (*dq)[2]) {                       \
-      return WARP_FN_QUAD(T, t, WarpPerspectiveQuad, sq, dq);                                        \
+    static WarpFn<T> affineQuad(const double (*sq)[2], const double (*dq)[2]) {                    \
+      return WARP_FN_QUAD(T, t, WarpAffineQuad, sq, dq);                                           \
     }                                                                                              \
-    static WarpFn<T> bilinearQuad(const double (*sq)[2], const double (*dq)[2]) {                    \
-      return WARP_FN_QUAD(T, t, WarpBilinearQuad, sq, dq);                                           \
+    static WarpFn<T> perspQuad(const double (*sq)[2], const double (*dq)[2]) {                     \
+      return WARP_FN_QUAD(T, t, WarpPerspectiveQuad, sq, dq);                                      \
+    }                                                                                              \
+    static WarpFn<T> bilinearQuad(const double (*sq)[2], const double (*dq)[2]) {                  \
+      return WARP_FN_QUAD(T, t, WarpBilinearQuad, sq, dq);                                         \
     }                                                                                              \
   };
 WARP_OPS(Lum8u, 8u)
@@ -204,23 +229,29 @@ const int kModes[3] = {lumInterpNearest, lumInterpLinear, lumInterpCubic};
 TYPED_TEST(Warp, AffineFamilyMatchesReference) {
   using T = TypeParam;
   const double a = 17 * M_PI / 180, cx = 18, cy = 11;
-  const double xs = cx - cx * std::cos(a) - cy * std::sin(a), ys = cy + cx * std::sin(a) - cy * std::cos(a);
-  const double fwd[2][3] = {{std::cos(a), std::sin(a), xs + 2}, {-std::sin(a), std::cos(a), ys + 3}};
+  const double xs = cx - cx * std::cos(a) - cy * std::sin(a),
+               ys = cy + cx * std::sin(a) - cy * std::cos(a);
+  const double fwd[2][3] = {{std::cos(a), std::sin(a), xs + 2},
+                            {-std::sin(a), std::cos(a), ys + 3}};
   const double det = fwd[0][0] * fwd[1][1] - fwd[0][1] * fwd[1][0];
-  double inv[2][3] = {{fwd[1][1] / det, -fwd[0][1] / det, 0}, {-fwd[1][0] / det, fwd[0][0] / det, 0}};
+  double inv[2][3] = {{fwd[1][1] / det, -fwd[0][1] / det, 0},
+                      {-fwd[1][0] / det, fwd[0][0] / det, 0}};
   inv[0][2] = -(inv[0][0] * fwd[0][2] + inv[0][1] * fwd[1][2]);
   inv[1][2] = -(inv[1][0] * fwd[0][2] + inv[1][1] * fwd[1][2]);
   auto pos = [&](double x, double y, double* sx, double* sy) {
     *sx = inv[0][0] * x + inv[0][1] * y + inv[0][2];
     *sy = inv[1][0] * x + inv[1][1] * y + inv[1][2];
   };
-  const WarpFn<T> fns[3] = {Ops<T>::affine(fwd), Ops<T>::affineBack(inv), Ops<T>::rotate(17, xs + 2, ys + 3)};
+  const WarpFn<T> fns[3] = {Ops<T>::affine(fwd), Ops<T>::affineBack(inv),
+                            Ops<T>::rotate(17, xs + 2, ys + 3)};
   for (int li = 0; li < 6; ++li)
     for (int m : kModes)
-      for (const auto& fn : fns) checkWarp<T>(fn, li, m, kSrc, kSrcRoi, kDst, kDstRoi, pos, tolOf<T>(m));
+      for (const auto& fn : fns)
+        checkWarp<T>(fn, li, m, kSrc, kSrcRoi, kDst, kDstRoi, pos, tolOf<T>(m));
   // about the centre, shifted back: the same mapping without the (2, 3) shift
   auto pos0 = [&](double x, double y, double* sx, double* sy) { pos(x + 2, y + 3, sx, sy); };
-  checkWarp<T>(Ops<T>::rotateCenter(17, cx, cy), 1, lumInterpLinear, kSrc, kSrcRoi, kDst, kDstRoi, pos0, tolOf<T>(2));
+  checkWarp<T>(Ops<T>::rotateCenter(17, cx, cy), 1, lumInterpLinear, kSrc, kSrcRoi, kDst, kDstRoi,
+               pos0, tolOf<T>(2));
 }
 
 // Dyadic maps give exact positions: integer linear results must then match bit for bit, and
@@ -234,11 +265,11 @@ TYPED_TEST(Warp, ExactPositionsAcrossMappings) {
     *sx = back[0][0] * x + back[0][1] * y + back[0][2];
     *sy = back[1][0] * x + back[1][1] * y + back[1][2];
   };
-  const WarpFn<T> fns[3] = {Ops<T>::affineBack(back), Ops<T>::perspBack(pback), Ops<T>::bilinearBack(bback)};
+  const WarpFn<T> fns[3] = {Ops<T>::affineBack(back), Ops<T>::perspBack(pback),
+                            Ops<T>::bilinearBack(bback)};
   for (int li : {0, 1, 3, 5})
     for (int m : {lumInterpNearest, lumInterpLinear})
-      for (const auto& fn : fns)
-        checkWarp<T>(fn, li, m, kSrc, kSrcRoi, kDst, kDstRoi, pos, 0);
+      for (const auto& fn : fns) checkWarp<T>(fn, li, m, kSrc, kSrcRoi, kDst, kDstRoi, pos, 0);
   // shear x' = x + 0.5 y - 4: source x = x' - 0.5 y + 4
   auto spos = [&](double x, double y, double* sx, double* sy) { *sx = x - 0.5 * y + 4, *sy = y; };
   checkWarp<T>(Ops<T>::shear(0.5, 0, -4, 0), 2, lumInterpLinear, kSrc, kSrcRoi, kDst, kDstRoi, spos,
@@ -251,7 +282,8 @@ TYPED_TEST(Warp, PerspectiveAndBilinearMatchReference) {
   const double h[3][3] = {{1.1, 0.1, 1}, {-0.05, 0.95, 2}, {0.004, -0.003, 1}};
   double hi[3][3];
   {
-    const double d = h[0][0] * (h[1][1] * h[2][2] - h[1][2] * h[2][1]) - h[0][1] * (h[1][0] * h[2][2] - h[1][2] * h[2][0]) +
+    const double d = h[0][0] * (h[1][1] * h[2][2] - h[1][2] * h[2][1]) -
+                     h[0][1] * (h[1][0] * h[2][2] - h[1][2] * h[2][0]) +
                      h[0][2] * (h[1][0] * h[2][1] - h[1][1] * h[2][0]);
     for (int i = 0; i < 3; ++i)
       for (int j = 0; j < 3; ++j) {
@@ -265,7 +297,8 @@ TYPED_TEST(Warp, PerspectiveAndBilinearMatchReference) {
     *sy = (hi[1][0] * x + hi[1][1] * y + hi[1][2]) / w;
   };
   const double b[2][4] = {{0.002, 1.05, 0.1, 1.0}, {-0.003, 0.05, 0.9, 2.5}};
-  auto bpos = [&](double u, double v, double* sx, double* sy) {  // Newton's method on b(x, y) = (u, v)
+  auto bpos = [&](double u, double v, double* sx,
+                  double* sy) {  // Newton's method on b(x, y) = (u, v)
     double x = u, y = v;
     for (int i = 0; i < 30; ++i) {
       const double fx = b[0][0] * x * y + b[0][1] * x + b[0][2] * y + b[0][3] - u;
@@ -279,7 +312,8 @@ TYPED_TEST(Warp, PerspectiveAndBilinearMatchReference) {
     *sx = x, *sy = y;
   };
   // the quadrangle forms: the source ROI corners and their images
-  const double x0 = kSrcRoi.x, y0 = kSrcRoi.y, x1 = x0 + kSrcRoi.width - 1, y1 = y0 + kSrcRoi.height - 1;
+  const double x0 = kSrcRoi.x, y0 = kSrcRoi.y, x1 = x0 + kSrcRoi.width - 1,
+               y1 = y0 + kSrcRoi.height - 1;
   const double sq[4][2] = {{x0, y0}, {x1, y0}, {x1, y1}, {x0, y1}};
   double pq[4][2], bq[4][2];
   for (int i = 0; i < 4; ++i) {
@@ -304,14 +338,18 @@ TYPED_TEST(Warp, PerspectiveAndBilinearMatchReference) {
 TYPED_TEST(Warp, ValidationOrder) {
   using T = TypeParam;
   const double aff[2][3] = {{1, 0, 0}, {0, 1, 0}}, zero[2][3] = {{0, 0, 0}, {0, 0, 0}};
-  const double per[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}, perZ[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 0}};
+  const double per[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
+               perZ[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 0}};
   const double bil[2][4] = {{0, 1, 0, 0}, {0, 0, 1, 0}}, bilZ[2][4] = {{0, 0, 0, 0}, {0, 0, 0, 0}};
-  const double q[4][2] = {{0, 0}, {9, 0}, {9, 9}, {0, 9}}, flat[4][2] = {{0, 0}, {9, 0}, {18, 0}, {0, 9}};
-  const WarpFn<T> good[4] = {Ops<T>::affine(aff), Ops<T>::persp(per), Ops<T>::bilinear(bil), Ops<T>::affineQuad(q, q)};
-  const WarpFn<T> bad[6] = {Ops<T>::affine(zero), Ops<T>::persp(perZ), Ops<T>::bilinearBack(bilZ),
-                            Ops<T>::affineQuad(q, flat), Ops<T>::perspQuad(flat, q), Ops<T>::bilinearQuad(q, flat)};
+  const double q[4][2] = {{0, 0}, {9, 0}, {9, 9}, {0, 9}},
+               flat[4][2] = {{0, 0}, {9, 0}, {18, 0}, {0, 9}};
+  const WarpFn<T> good[4] = {Ops<T>::affine(aff), Ops<T>::persp(per), Ops<T>::bilinear(bil),
+                             Ops<T>::affineQuad(q, q)};
+  const WarpFn<T> bad[6] = {Ops<T>::affine(zero),       Ops<T>::persp(perZ),
+                            Ops<T>::bilinearBack(bilZ), Ops<T>::affineQuad(q, flat),
+                            Ops<T>::perspQuad(flat, q), Ops<T>::bilinearQuad(q, flat)};
   const LumStatus badWant[6] = {lumStatusCoeffErr, lumStatusCoeffErr, lumStatusCoeffErr,
-                                lumStatusQuadErr, lumStatusQuadErr, lumStatusQuadErr};
+                                lumStatusQuadErr,  lumStatusQuadErr,  lumStatusQuadErr};
   T s[4 * 16 * 16] = {}, d[4 * 16 * 16] = {};
   const T* sp[4] = {s, s, s, s};
   T* dp[4] = {d, d, d, d};
@@ -332,7 +370,8 @@ TYPED_TEST(Warp, ValidationOrder) {
       if (li == 4) {
         EXPECT_EQ(fn(li, spNull, dp, ss, st, r, st, r, 1), lumStatusNullPtrErr);
       }
-      EXPECT_EQ(fn(li, sp, dp, ss, st, LumiRect{16, 0, 4, 4}, st, r, 1), lumStatusNoIntersectionWarn);
+      EXPECT_EQ(fn(li, sp, dp, ss, st, LumiRect{16, 0, 4, 4}, st, r, 1),
+                lumStatusNoIntersectionWarn);
       EXPECT_EQ(fn(li, sp, dp, ss, st, LumiRect{15, 0, 4, 4}, st, r, 1), lumStatusRectErr);
       EXPECT_EQ(fn(li, sp, dp, ss, st, LumiRect{0, 3, 2, 1}, st, r, 1), lumStatusRectErr);
     }
@@ -343,8 +382,9 @@ TYPED_TEST(Warp, ValidationOrder) {
   }
   // a quadrangle wholly outside the destination ROI: 30, nothing written
   const double far[2][3] = {{1, 0, 100}, {0, 1, 0}};
-  checkWarp<T>(Ops<T>::affine(far), 0, 2, kSrc, kSrcRoi, kDst, kDstRoi,
-               [](double, double, double* sx, double* sy) { *sx = *sy = -99; }, 0, lumStatusQuadOutsideWarn);
+  checkWarp<T>(
+      Ops<T>::affine(far), 0, 2, kSrc, kSrcRoi, kDst, kDstRoi,
+      [](double, double, double* sx, double* sy) { *sx = *sy = -99; }, 0, lumStatusQuadOutsideWarn);
 }
 
 // Quarter turns with whole shifts copy pixels exactly whatever the mode; an empty overlap is 29.
@@ -356,14 +396,18 @@ TYPED_TEST(Warp, QuarterTurnsCopyPixels) {
   };
   const Turn turns[3] = {
       {90, -1, 35, [](double x, double y, double* sx, double* sy) { *sx = 35 - y, *sy = x + 1; }},
-      {-180, 38, 27, [](double x, double y, double* sx, double* sy) { *sx = 38 - x, *sy = 27 - y; }},
-      {630.0 + 360 * 3, 26, -2, [](double x, double y, double* sx, double* sy) { *sx = y + 2, *sy = 26 - x; }}};
+      {-180, 38, 27,
+       [](double x, double y, double* sx, double* sy) { *sx = 38 - x, *sy = 27 - y; }},
+      {630.0 + 360 * 3, 26, -2,
+       [](double x, double y, double* sx, double* sy) { *sx = y + 2, *sy = 26 - x; }}};
   for (const Turn& t : turns)
     for (int li : {0, 3, 4})
-      checkWarp<T>(Ops<T>::rotate(t.angle, t.xs, t.ys), li, lumInterpCubic | lumSmoothEdge, kSrc, kSrcRoi,
-                   kDst, kDstRoi, t.pos, 0);
-  checkWarp<T>(Ops<T>::rotate(90, 500, 0), 1, 2, kSrc, kSrcRoi, kDst, kDstRoi,
-               [](double, double, double* sx, double* sy) { *sx = *sy = -99; }, 0, lumStatusNoIntersectionWarn);
+      checkWarp<T>(Ops<T>::rotate(t.angle, t.xs, t.ys), li, lumInterpCubic | lumSmoothEdge, kSrc,
+                   kSrcRoi, kDst, kDstRoi, t.pos, 0);
+  checkWarp<T>(
+      Ops<T>::rotate(90, 500, 0), 1, 2, kSrc, kSrcRoi, kDst, kDstRoi,
+      [](double, double, double* sx, double* sy) { *sx = *sy = -99; }, 0,
+      lumStatusNoIntersectionWarn);
 }
 
 // Rounding points: nearest rounds 2.5 up; linear at the last column returns that column; the
@@ -376,14 +420,17 @@ TYPED_TEST(Warp, RoundingPointsAndIdentity) {
   const LumiSize ss{5, 2};
   const LumiRect all{0, 0, 5, 2};
   const int st = 5 * sizeof(T);
-  ASSERT_EQ(lumiWarpAffineBack_8u_C1R(nullptr, ss, st, all, nullptr, st, all, half, 1), lumStatusNullPtrErr);
+  ASSERT_EQ(lumiWarpAffineBack_8u_C1R(nullptr, ss, st, all, nullptr, st, all, half, 1),
+            lumStatusNullPtrErr);
   const T* sp[1] = {&src[0][0]};
   T* dp[1] = {&dst[0][0]};
-  ASSERT_EQ(Ops<T>::affineBack(half)(0, sp, dp, ss, st, all, st, all, lumInterpNearest), lumStatusOk);
+  ASSERT_EQ(Ops<T>::affineBack(half)(0, sp, dp, ss, st, all, st, all, lumInterpNearest),
+            lumStatusOk);
   EXPECT_EQ(dst[0][2], 40);  // 2.5 -> column 3
   EXPECT_EQ(dst[1][0], 70);
   EXPECT_EQ(dst[0][4], 0);  // 4.5 lies outside the ROI: untouched
-  ASSERT_EQ(Ops<T>::affineBack(half)(0, sp, dp, ss, st, all, st, all, lumInterpLinear), lumStatusOk);
+  ASSERT_EQ(Ops<T>::affineBack(half)(0, sp, dp, ss, st, all, st, all, lumInterpLinear),
+            lumStatusOk);
   EXPECT_EQ(dst[0][3], 45);  // 3.5 between 40 and 50
   const double ident[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
   T out[2][5] = {};
@@ -399,7 +446,9 @@ TEST(Warp16u, FullScaleLinear) {
   std::vector<Lum16u> s(20 * 20, 65535), d(20 * 20, 0);
   const LumiSize ss{20, 20};
   const LumiRect r{0, 0, 20, 20};
-  ASSERT_EQ(lumiRotateCenter_16u_C1R(s.data(), ss, 40, r, d.data(), 40, r, 60, 9.5, 9.5, lumInterpLinear), lumStatusOk);
+  ASSERT_EQ(
+      lumiRotateCenter_16u_C1R(s.data(), ss, 40, r, d.data(), 40, r, 60, 9.5, 9.5, lumInterpLinear),
+      lumStatusOk);
   int written = 0;
   for (Lum16u v : d) {
     written += v == 65535;
@@ -414,7 +463,9 @@ TEST(WarpSmooth, BorderPixelsBlendHalf) {
   const double id[2][3] = {{1, 0, 0}, {0, 1, 0}};
   const LumiSize ss{8, 6};
   const LumiRect r{0, 0, 8, 6};
-  ASSERT_EQ(lumiWarpAffine_8u_C1R(s.data(), ss, 8, r, d.data(), 8, r, id, lumInterpLinear | lumSmoothEdge), lumStatusOk);
+  ASSERT_EQ(lumiWarpAffine_8u_C1R(s.data(), ss, 8, r, d.data(), 8, r, id,
+                                  lumInterpLinear | lumSmoothEdge),
+            lumStatusOk);
   for (int y = 0; y < 6; ++y)
     for (int x = 0; x < 8; ++x)
       EXPECT_EQ(d[y * 8 + x], (x == 0 || y == 0 || x == 7 || y == 5) ? 150 : 200) << x << "," << y;
@@ -427,9 +478,10 @@ TEST(WarpOpenCV, QuarterTurnMatchesRotate) {
   cv::randu(s, 0, 256);
   cv::rotate(s, want, cv::ROTATE_90_COUNTERCLOCKWISE);
   // x' = y, y' = 33 - x
-  ASSERT_EQ(lumiRotate_8u_C3R(s.ptr(), LumiSize{34, 21}, int(s.step), LumiRect{0, 0, 34, 21}, d.ptr(),
-                              int(d.step), LumiRect{0, 0, 21, 34}, 90, 0, 33, lumInterpLinear),
-            lumStatusOk);
+  ASSERT_EQ(
+      lumiRotate_8u_C3R(s.ptr(), LumiSize{34, 21}, int(s.step), LumiRect{0, 0, 34, 21}, d.ptr(),
+                        int(d.step), LumiRect{0, 0, 21, 34}, 90, 0, 33, lumInterpLinear),
+      lumStatusOk);
   EXPECT_EQ(cv::norm(d, want, cv::NORM_INF), 0);
 }
 #endif

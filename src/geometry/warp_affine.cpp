@@ -86,8 +86,10 @@ LumStatus quarterTurn(const Planes<T>& im, const Frame& f, int k, double xs, dou
   if (f.srcRoi.x >= f.srcSize.width || f.srcRoi.y >= f.srcSize.height)
     return lumStatusNoIntersectionWarn;
   const double x0 = f.srcRoi.x, y0 = f.srcRoi.y;
-  const double x1 = std::fmin(static_cast<double>(f.srcRoi.x) + f.srcRoi.width, f.srcSize.width) - 1;
-  const double y1 = std::fmin(static_cast<double>(f.srcRoi.y) + f.srcRoi.height, f.srcSize.height) - 1;
+  const double x1 =
+      std::fmin(static_cast<double>(f.srcRoi.x) + f.srcRoi.width, f.srcSize.width) - 1;
+  const double y1 =
+      std::fmin(static_cast<double>(f.srcRoi.y) + f.srcRoi.height, f.srcSize.height) - 1;
   double X0, X1, Y0, Y1;  // the turned ROI in the destination
   if (k == 1) {
     X0 = y0 + xs, X1 = y1 + xs, Y0 = ys - x1, Y1 = ys - x0;
@@ -147,14 +149,16 @@ LumStatus rotateImpl(const Planes<T>& im, const Frame& f, double angle, double x
 }
 
 template <class T, class L>
-LumStatus rotateCenterImpl(const Planes<T>& im, const Frame& f, double angle, double xc, double yc) {
+LumStatus rotateCenterImpl(const Planes<T>& im, const Frame& f, double angle, double xc,
+                           double yc) {
   double xs = 0, ys = 0;
   lumiGetRotateShift(xc, yc, angle, &xs, &ys);
   return rotateImpl<T, L>(im, f, angle, xs, ys);
 }
 
 template <class T, class L>
-LumStatus shearImpl(const Planes<T>& im, const Frame& f, double sx, double sy, double xs, double ys) {
+LumStatus shearImpl(const Planes<T>& im, const Frame& f, double sx, double sy, double xs,
+                    double ys) {
   const double c[2][3] = {{1.0, sx, xs}, {sy, 1.0, ys}};
   return affineImpl<T, L>(im, f, c, false);
 }
@@ -166,67 +170,102 @@ LumStatus shearImpl(const Planes<T>& im, const Frame& f, double sx, double sy, d
 using namespace lumi;
 using namespace lumi::warp;
 
-
-#define LUMI_WARP_AFFINE(NAME, T, L) \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, int dstStep, LumiRect dstRoi, const double coeffs[2][3], int interpolation) { \
-    return affineImpl<T, L>(packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs, false); \
+#define LUMI_WARP_AFFINE(NAME, T, L)                                                              \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
+                          int dstStep, LumiRect dstRoi, const double coeffs[2][3],                \
+                          int interpolation) {                                                    \
+    return affineImpl<T, L>(packed(pSrc, pDst),                                                   \
+                            frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),    \
+                            coeffs, false);                                                       \
   }
-#define LUMI_WARP_AFFINE_P(NAME, T, N) \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, T* const pDst[N], int dstStep, LumiRect dstRoi, const double coeffs[2][3], int interpolation) { \
-    return affineImpl<T, C1>(planar<T, N>(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs, false); \
+#define LUMI_WARP_AFFINE_P(NAME, T, N)                                                            \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          T* const pDst[N], int dstStep, LumiRect dstRoi,                         \
+                          const double coeffs[2][3], int interpolation) {                         \
+    return affineImpl<T, C1>(planar<T, N>(pSrc, pDst),                                            \
+                             frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),   \
+                             coeffs, false);                                                      \
   }
-#define LUMI_WARP_AFFINE_BACK(NAME, T, L) \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, int dstStep, LumiRect dstRoi, const double coeffs[2][3], int interpolation) { \
-    return affineImpl<T, L>(packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs, true); \
+#define LUMI_WARP_AFFINE_BACK(NAME, T, L)                                                         \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
+                          int dstStep, LumiRect dstRoi, const double coeffs[2][3],                \
+                          int interpolation) {                                                    \
+    return affineImpl<T, L>(packed(pSrc, pDst),                                                   \
+                            frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),    \
+                            coeffs, true);                                                        \
   }
-#define LUMI_WARP_AFFINE_BACK_P(NAME, T, N) \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, T* const pDst[N], int dstStep, LumiRect dstRoi, const double coeffs[2][3], int interpolation) { \
-    return affineImpl<T, C1>(planar<T, N>(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs, true); \
+#define LUMI_WARP_AFFINE_BACK_P(NAME, T, N)                                                       \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          T* const pDst[N], int dstStep, LumiRect dstRoi,                         \
+                          const double coeffs[2][3], int interpolation) {                         \
+    return affineImpl<T, C1>(planar<T, N>(pSrc, pDst),                                            \
+                             frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),   \
+                             coeffs, true);                                                       \
   }
-#define LUMI_WARP_AFFINE_QUAD(NAME, T, L) \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, \
-                          const double srcQuad[4][2], T* pDst, int dstStep, LumiRect dstRoi, \
-                          const double dstQuad[4][2], int interpolation) { \
-    return affineQuadImpl<T, L>(packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), srcQuad, dstQuad); \
+#define LUMI_WARP_AFFINE_QUAD(NAME, T, L)                                                          \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi,           \
+                          const double srcQuad[4][2], T* pDst, int dstStep, LumiRect dstRoi,       \
+                          const double dstQuad[4][2], int interpolation) {                         \
+    return affineQuadImpl<T, L>(packed(pSrc, pDst),                                                \
+                                frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), \
+                                srcQuad, dstQuad);                                                 \
   }
-#define LUMI_WARP_AFFINE_QUAD_P(NAME, T, N) \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, \
-                          LumiRect srcRoi, const double srcQuad[4][2], T* const pDst[N], \
-                          int dstStep, LumiRect dstRoi, const double dstQuad[4][2], \
-                          int interpolation) { \
-    return affineQuadImpl<T, C1>(planar<T, N>(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), srcQuad, dstQuad); \
+#define LUMI_WARP_AFFINE_QUAD_P(NAME, T, N)                                                       \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          const double srcQuad[4][2], T* const pDst[N], int dstStep,              \
+                          LumiRect dstRoi, const double dstQuad[4][2], int interpolation) {       \
+    return affineQuadImpl<T, C1>(                                                                 \
+        planar<T, N>(pSrc, pDst),                                                                 \
+        frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), srcQuad, dstQuad);     \
   }
-#define LUMI_ROTATE(NAME, T, L) \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, int dstStep, LumiRect dstRoi, double angle, double xShift, double yShift, \
-                          int interpolation) { \
-    return rotateImpl<T, L>(packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), angle, xShift, yShift); \
+#define LUMI_ROTATE(NAME, T, L)                                                                   \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
+                          int dstStep, LumiRect dstRoi, double angle, double xShift,              \
+                          double yShift, int interpolation) {                                     \
+    return rotateImpl<T, L>(packed(pSrc, pDst),                                                   \
+                            frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),    \
+                            angle, xShift, yShift);                                               \
   }
-#define LUMI_ROTATE_P(NAME, T, N) \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, T* const pDst[N], int dstStep, LumiRect dstRoi, double angle, double xShift, double yShift, \
-                          int interpolation) { \
-    return rotateImpl<T, C1>(planar<T, N>(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), angle, xShift, yShift); \
+#define LUMI_ROTATE_P(NAME, T, N)                                                                 \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          T* const pDst[N], int dstStep, LumiRect dstRoi, double angle,           \
+                          double xShift, double yShift, int interpolation) {                      \
+    return rotateImpl<T, C1>(planar<T, N>(pSrc, pDst),                                            \
+                             frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),   \
+                             angle, xShift, yShift);                                              \
   }
-#define LUMI_ROTATE_CENTER(NAME, T, L) \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, int dstStep, LumiRect dstRoi, double angle, double xCenter, double yCenter, \
-                          int interpolation) { \
-    return rotateCenterImpl<T, L>(packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), angle, xCenter, yCenter); \
+#define LUMI_ROTATE_CENTER(NAME, T, L)                                                            \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
+                          int dstStep, LumiRect dstRoi, double angle, double xCenter,             \
+                          double yCenter, int interpolation) {                                    \
+    return rotateCenterImpl<T, L>(                                                                \
+        packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),    \
+        angle, xCenter, yCenter);                                                                 \
   }
-#define LUMI_ROTATE_CENTER_P(NAME, T, N) \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, T* const pDst[N], int dstStep, LumiRect dstRoi, double angle, double xCenter, \
-                          double yCenter, int interpolation) { \
-    return rotateCenterImpl<T, C1>(planar<T, N>(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), angle, xCenter, \
-                                   yCenter); \
+#define LUMI_ROTATE_CENTER_P(NAME, T, N)                                                          \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          T* const pDst[N], int dstStep, LumiRect dstRoi, double angle,           \
+                          double xCenter, double yCenter, int interpolation) {                    \
+    return rotateCenterImpl<T, C1>(                                                               \
+        planar<T, N>(pSrc, pDst),                                                                 \
+        frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), angle, xCenter,        \
+        yCenter);                                                                                 \
   }
-#define LUMI_SHEAR(NAME, T, L) \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, int dstStep, LumiRect dstRoi, double xShear, double yShear, double xShift, \
-                          double yShift, int interpolation) { \
-    return shearImpl<T, L>(packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), xShear, yShear, xShift, yShift); \
+#define LUMI_SHEAR(NAME, T, L)                                                                    \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
+                          int dstStep, LumiRect dstRoi, double xShear, double yShear,             \
+                          double xShift, double yShift, int interpolation) {                      \
+    return shearImpl<T, L>(packed(pSrc, pDst),                                                    \
+                           frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),     \
+                           xShear, yShear, xShift, yShift);                                       \
   }
-#define LUMI_SHEAR_P(NAME, T, N) \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, T* const pDst[N], int dstStep, LumiRect dstRoi, double xShear, double yShear, \
-                          double xShift, double yShift, int interpolation) { \
-    return shearImpl<T, C1>(planar<T, N>(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), xShear, yShear, xShift, \
-                            yShift); \
+#define LUMI_SHEAR_P(NAME, T, N)                                                                  \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          T* const pDst[N], int dstStep, LumiRect dstRoi, double xShear,          \
+                          double yShear, double xShift, double yShift, int interpolation) {       \
+    return shearImpl<T, C1>(planar<T, N>(pSrc, pDst),                                             \
+                            frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),    \
+                            xShear, yShear, xShift, yShift);                                      \
   }
 
 LUMI_WARP_AFFINE(lumiWarpAffine_8u_C1R, Lum8u, C1)
@@ -342,4 +381,3 @@ LUMI_SHEAR(lumiShear_32f_C4R, Lum32f, C4)
 LUMI_SHEAR(lumiShear_32f_AC4R, Lum32f, AC4)
 LUMI_SHEAR_P(lumiShear_32f_P3R, Lum32f, 3)
 LUMI_SHEAR_P(lumiShear_32f_P4R, Lum32f, 4)
-

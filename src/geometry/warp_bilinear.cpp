@@ -14,8 +14,10 @@ namespace {
 
 // Distance of (x, y) outside the rectangle r (0 inside).
 inline double outside(double x, double y, const LumiRect& r) {
-  const double dx = std::fmax(std::fmax(r.x - x, x - (static_cast<double>(r.x) + r.width - 1)), 0.0);
-  const double dy = std::fmax(std::fmax(r.y - y, y - (static_cast<double>(r.y) + r.height - 1)), 0.0);
+  const double dx =
+      std::fmax(std::fmax(r.x - x, x - (static_cast<double>(r.x) + r.width - 1)), 0.0);
+  const double dy =
+      std::fmax(std::fmax(r.y - y, y - (static_cast<double>(r.y) + r.height - 1)), 0.0);
   return dx + dy;
 }
 
@@ -36,7 +38,8 @@ inline bool solveBilinear(const double c[2][4], double u, double v, const LumiRe
   for (double r : roots) {
     if (!std::isfinite(r)) continue;
     const double d1 = c[0][0] * r + c[0][1], d2 = c[1][0] * r + c[1][1];
-    const double px = std::fabs(d1) >= std::fabs(d2) ? (A - c[0][2] * r) / d1 : (B - c[1][2] * r) / d2;
+    const double px =
+        std::fabs(d1) >= std::fabs(d2) ? (A - c[0][2] * r) / d1 : (B - c[1][2] * r) / d2;
     if (!std::isfinite(px)) continue;
     const double o = outside(px, r, ref);
     if (!found || o < best) {
@@ -181,29 +184,53 @@ LumStatus bilinearQuadImpl(const Planes<T>& im, const Frame& f, const double sq[
 using namespace lumi;
 using namespace lumi::warp;
 
-#define LUMI_WARP_BILINEAR(NAME, T, L) \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, int dstStep, LumiRect dstRoi, const double coeffs[2][4], int interpolation) { \
-    return bilinearImpl<T, L>(packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs); \
+#define LUMI_WARP_BILINEAR(NAME, T, L)                                                            \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
+                          int dstStep, LumiRect dstRoi, const double coeffs[2][4],                \
+                          int interpolation) {                                                    \
+    return bilinearImpl<T, L>(packed(pSrc, pDst),                                                 \
+                              frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),  \
+                              coeffs);                                                            \
   }
-#define LUMI_WARP_BILINEAR_P(NAME, T, N) \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, T* const pDst[N], int dstStep, LumiRect dstRoi, const double coeffs[2][4], int interpolation) { \
-    return bilinearImpl<T, C1>(planar<T, N>(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs); \
+#define LUMI_WARP_BILINEAR_P(NAME, T, N)                                                          \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          T* const pDst[N], int dstStep, LumiRect dstRoi,                         \
+                          const double coeffs[2][4], int interpolation) {                         \
+    return bilinearImpl<T, C1>(planar<T, N>(pSrc, pDst),                                          \
+                               frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), \
+                               coeffs);                                                           \
   }
-#define LUMI_WARP_BILINEAR_BACK(NAME, T, L) \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, int dstStep, LumiRect dstRoi, const double coeffs[2][4], int interpolation) { \
-    return bilinearBackImpl<T, L>(packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs); \
+#define LUMI_WARP_BILINEAR_BACK(NAME, T, L)                                                       \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
+                          int dstStep, LumiRect dstRoi, const double coeffs[2][4],                \
+                          int interpolation) {                                                    \
+    return bilinearBackImpl<T, L>(                                                                \
+        packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),    \
+        coeffs);                                                                                  \
   }
-#define LUMI_WARP_BILINEAR_BACK_P(NAME, T, N) \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, T* const pDst[N], int dstStep, LumiRect dstRoi, const double coeffs[2][4], int interpolation) { \
-    return bilinearBackImpl<T, C1>(planar<T, N>(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs); \
+#define LUMI_WARP_BILINEAR_BACK_P(NAME, T, N)                                                     \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          T* const pDst[N], int dstStep, LumiRect dstRoi,                         \
+                          const double coeffs[2][4], int interpolation) {                         \
+    return bilinearBackImpl<T, C1>(                                                               \
+        planar<T, N>(pSrc, pDst),                                                                 \
+        frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs);               \
   }
-#define LUMI_WARP_BILINEAR_QUAD(NAME, T, L) \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, const double srcQuad[4][2], T* pDst, int dstStep, LumiRect dstRoi, const double dstQuad[4][2], int interpolation) { \
-    return bilinearQuadImpl<T, L>(packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), srcQuad, dstQuad); \
+#define LUMI_WARP_BILINEAR_QUAD(NAME, T, L)                                                    \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi,       \
+                          const double srcQuad[4][2], T* pDst, int dstStep, LumiRect dstRoi,   \
+                          const double dstQuad[4][2], int interpolation) {                     \
+    return bilinearQuadImpl<T, L>(                                                             \
+        packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), \
+        srcQuad, dstQuad);                                                                     \
   }
-#define LUMI_WARP_BILINEAR_QUAD_P(NAME, T, N) \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, const double srcQuad[4][2], T* const pDst[N], int dstStep, LumiRect dstRoi, const double dstQuad[4][2], int interpolation) { \
-    return bilinearQuadImpl<T, C1>(planar<T, N>(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), srcQuad, dstQuad); \
+#define LUMI_WARP_BILINEAR_QUAD_P(NAME, T, N)                                                     \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          const double srcQuad[4][2], T* const pDst[N], int dstStep,              \
+                          LumiRect dstRoi, const double dstQuad[4][2], int interpolation) {       \
+    return bilinearQuadImpl<T, C1>(                                                               \
+        planar<T, N>(pSrc, pDst),                                                                 \
+        frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), srcQuad, dstQuad);     \
   }
 
 LUMI_WARP_BILINEAR(lumiWarpBilinear_8u_C1R, Lum8u, C1)
@@ -262,4 +289,3 @@ LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_32f_C4R, Lum32f, C4)
 LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_32f_AC4R, Lum32f, AC4)
 LUMI_WARP_BILINEAR_QUAD_P(lumiWarpBilinearQuad_32f_P3R, Lum32f, 3)
 LUMI_WARP_BILINEAR_QUAD_P(lumiWarpBilinearQuad_32f_P4R, Lum32f, 4)
-

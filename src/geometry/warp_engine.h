@@ -165,11 +165,17 @@ inline void clipBy(Poly& p, S side, Cut cut) {
 inline void clipAxis(Poly& p, bool vertical, double v, bool keepAbove) {
   const double s = keepAbove ? 1.0 : -1.0;
   if (vertical)
-    clipBy(p, [=](Pt a) { return s * (a.x - v); },
-           [=](Pt a, Pt b, double) { return Pt{v, a.y + (v - a.x) * (b.y - a.y) / (b.x - a.x)}; });
+    clipBy(
+        p, [=](Pt a) { return s * (a.x - v); },
+        [=](Pt a, Pt b, double) {
+          return Pt{v, a.y + (v - a.x) * (b.y - a.y) / (b.x - a.x)};
+        });
   else
-    clipBy(p, [=](Pt a) { return s * (a.y - v); },
-           [=](Pt a, Pt b, double) { return Pt{a.x + (v - a.y) * (b.x - a.x) / (b.y - a.y), v}; });
+    clipBy(
+        p, [=](Pt a) { return s * (a.y - v); },
+        [=](Pt a, Pt b, double) {
+          return Pt{a.x + (v - a.y) * (b.x - a.x) / (b.y - a.y), v};
+        });
 }
 // Clips to the convex quadrangle q (either orientation).
 inline void clipQuad(Poly& p, const Pt q[4]) {
@@ -178,10 +184,11 @@ inline void clipQuad(Poly& p, const Pt q[4]) {
   const double o = area > 0 ? 1.0 : -1.0;
   for (int i = 0; i < 4; ++i) {
     const Pt a = q[i], b = q[(i + 1) & 3];
-    clipBy(p, [=](Pt c) { return o * ((b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x)); },
-           [](Pt a0, Pt b0, double t) {
-             return Pt{a0.x + t * (b0.x - a0.x), a0.y + t * (b0.y - a0.y)};
-           });
+    clipBy(
+        p, [=](Pt c) { return o * ((b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x)); },
+        [](Pt a0, Pt b0, double t) {
+          return Pt{a0.x + t * (b0.x - a0.x), a0.y + t * (b0.y - a0.y)};
+        });
   }
 }
 
@@ -191,7 +198,8 @@ inline Poly clipToRect(const Pt q[4], LumiRect r) {
   for (int i = 0; i < 4; ++i) p.v[i] = q[i];
   p.n = 4;
   const double x0 = r.x, y0 = r.y;
-  const double x1 = static_cast<double>(r.x) + r.width - 1, y1 = static_cast<double>(r.y) + r.height - 1;
+  const double x1 = static_cast<double>(r.x) + r.width - 1,
+               y1 = static_cast<double>(r.y) + r.height - 1;
   clipAxis(p, false, y0, true);
   clipAxis(p, false, y1, false);
   clipAxis(p, true, x0, true);
@@ -304,8 +312,10 @@ inline void linearPixel(const Source<T>& s, double x, double y, T* d) {
     const T* p1 = s.row(iy + 1) + elemsOf(ix, kCh);
     using Acc = std::conditional_t<sizeof(T) == 1, int32_t, int64_t>;  // 16u rows pass 2^22
     for (int c = 0; c < kUse; ++c) {
-      const Acc h0 = (static_cast<Acc>(kOne - wx) * p0[c] + static_cast<Acc>(wx) * p0[c + kCh]) >> 8;
-      const Acc h1 = (static_cast<Acc>(kOne - wx) * p1[c] + static_cast<Acc>(wx) * p1[c + kCh]) >> 8;
+      const Acc h0 =
+          (static_cast<Acc>(kOne - wx) * p0[c] + static_cast<Acc>(wx) * p0[c + kCh]) >> 8;
+      const Acc h1 =
+          (static_cast<Acc>(kOne - wx) * p1[c] + static_cast<Acc>(wx) * p1[c + kCh]) >> 8;
       d[c] = static_cast<T>((h0 * (kOne - wy) + h1 * wy + (1 << 19)) >> 20);
     }
   }
@@ -338,7 +348,8 @@ inline T roundCubic(float v) {
   } else {
     const float r = v + 0.5000001f;
     if (!(r >= 0.0f)) return 0;  // also NaN
-    if (r >= static_cast<float>(std::numeric_limits<T>::max())) return std::numeric_limits<T>::max();
+    if (r >= static_cast<float>(std::numeric_limits<T>::max()))
+      return std::numeric_limits<T>::max();
     return static_cast<T>(static_cast<int>(r));
   }
 }
@@ -450,48 +461,54 @@ LumStatus walk(const Planes<T>& im, const Frame& f, const LumiRect& roi, int mod
   const long long taps = mode == kNearest ? 1 : mode == kLinear ? 4 : 16;
   const bool parallel = forkByWork(LumiSize{width, rows}, taps * im.n, kForkWork);
   const std::size_t posBytes = sizeof(double) * 2 * static_cast<std::size_t>(width);
-  const std::size_t oldBytes = smooth ? static_cast<std::size_t>(bytesOf(width, L::kCh, sizeof(T))) : 0;
+  const std::size_t oldBytes =
+      smooth ? static_cast<std::size_t>(bytesOf(width, L::kCh, sizeof(T))) : 0;
   const SpanFn<T> fn = pickSpan<T, L>(mode, Map::kPos);
-  return forRowsWithScratch(rows, parallel, posBytes + oldBytes, [&](int b0, int b1, Lum8u* scratch) {
-    double* X = reinterpret_cast<double*>(scratch);
-    double* Y = X + width;
-    T* old = reinterpret_cast<T*>(scratch + posBytes);
-    SpanArgs<T> a{nullptr, f.srcStep, f.srcSize.width, f.srcSize.height, 0, 0, 0, 0, 0, 0, X, Y};
-    // one run of n pixels of row y from column xs
-    auto run = [&](int y, int xs, int n) {
-      if (Map::kPos == kPosArrays || smooth) map.span(y, xs, n, X, Y);
-      if constexpr (Map::kPos != kPosArrays) map.start(y, xs, &a);
-      for (int p = 0; p < im.n; ++p) {
-        a.src = im.src[p];
-        T* d = rowAt(im.dst[p], f.dstStep, y) + elemsOf(xs, L::kCh);
-        if (smooth) std::memcpy(old, d, static_cast<std::size_t>(bytesOf(n, L::kCh, sizeof(T))));
-        fn(a, d, n);
-        if (smooth) blendSpan<T, L::kCh, L::kUse>(d, old, n, X, Y, roi);
-      }
-    };
-    // Tiles of kTileRows rows by kTileCols columns (columns counted from 0, so a pixel's run
-    // does not depend on the band): the source pixels a tile reads stay in the first-level cache.
-    int sx[kTileRows], ex[kTileRows];
-    for (int g0 = b0; g0 < b1; g0 += kTileRows) {
-      const int g1 = g0 + kTileRows < b1 ? g0 + kTileRows : b1;
-      int lo = INT_MAX, hi = INT_MIN;
-      for (int r = g0; r < g1; ++r) {
-        if (!spanAt(poly, ry0 + r, f.dstRoi, &sx[r - g0], &ex[r - g0])) {
-          sx[r - g0] = 1, ex[r - g0] = 0;
-          continue;
+  return forRowsWithScratch(
+      rows, parallel, posBytes + oldBytes, [&](int b0, int b1, Lum8u* scratch) {
+        double* X = reinterpret_cast<double*>(scratch);
+        double* Y = X + width;
+        T* old = reinterpret_cast<T*>(scratch + posBytes);
+        SpanArgs<T> a{nullptr, f.srcStep, f.srcSize.width, f.srcSize.height, 0, 0, 0, 0, 0, 0,
+                      X,       Y};
+        // one run of n pixels of row y from column xs
+        auto run = [&](int y, int xs, int n) {
+          if (Map::kPos == kPosArrays || smooth) map.span(y, xs, n, X, Y);
+          if constexpr (Map::kPos != kPosArrays) map.start(y, xs, &a);
+          for (int p = 0; p < im.n; ++p) {
+            a.src = im.src[p];
+            T* d = rowAt(im.dst[p], f.dstStep, y) + elemsOf(xs, L::kCh);
+            if (smooth)
+              std::memcpy(old, d, static_cast<std::size_t>(bytesOf(n, L::kCh, sizeof(T))));
+            fn(a, d, n);
+            if (smooth) blendSpan<T, L::kCh, L::kUse>(d, old, n, X, Y, roi);
+          }
+        };
+        // Tiles of kTileRows rows by kTileCols columns (columns counted from 0, so a pixel's run
+        // does not depend on the band): the source pixels a tile reads stay in the first-level
+        // cache.
+        int sx[kTileRows], ex[kTileRows];
+        for (int g0 = b0; g0 < b1; g0 += kTileRows) {
+          const int g1 = g0 + kTileRows < b1 ? g0 + kTileRows : b1;
+          int lo = INT_MAX, hi = INT_MIN;
+          for (int r = g0; r < g1; ++r) {
+            if (!spanAt(poly, ry0 + r, f.dstRoi, &sx[r - g0], &ex[r - g0])) {
+              sx[r - g0] = 1, ex[r - g0] = 0;
+              continue;
+            }
+            lo = sx[r - g0] < lo ? sx[r - g0] : lo;
+            hi = ex[r - g0] > hi ? ex[r - g0] : hi;
+          }
+          if (lo > hi) continue;
+          for (long long c = lo / kTileCols * kTileCols; c <= hi; c += kTileCols)
+            for (int r = g0; r < g1; ++r) {
+              const int xs = sx[r - g0] > c ? sx[r - g0] : static_cast<int>(c);
+              const int xe =
+                  ex[r - g0] < c + kTileCols - 1 ? ex[r - g0] : static_cast<int>(c + kTileCols - 1);
+              if (xs <= xe) run(ry0 + r, xs, xe - xs + 1);
+            }
         }
-        lo = sx[r - g0] < lo ? sx[r - g0] : lo;
-        hi = ex[r - g0] > hi ? ex[r - g0] : hi;
-      }
-      if (lo > hi) continue;
-      for (long long c = lo / kTileCols * kTileCols; c <= hi; c += kTileCols)
-        for (int r = g0; r < g1; ++r) {
-          const int xs = sx[r - g0] > c ? sx[r - g0] : static_cast<int>(c);
-          const int xe = ex[r - g0] < c + kTileCols - 1 ? ex[r - g0] : static_cast<int>(c + kTileCols - 1);
-          if (xs <= xe) run(ry0 + r, xs, xe - xs + 1);
-        }
-    }
-  });
+      });
 }
 
 // The common tail after the coefficient test: the source ROI cut (29, -57), the forward corner

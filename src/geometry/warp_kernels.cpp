@@ -11,10 +11,10 @@
 // take the twin.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/geometry/warp_kernels.cpp"
-#include "hwy/foreach_target.h"
-#include "hwy/highway.h"
 #include "core/simd.h"
 #include "geometry/warp_engine.h"
+#include "hwy/foreach_target.h"
+#include "hwy/highway.h"
 
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
@@ -56,16 +56,19 @@ HWY_INLINE hn::Vec<D> linearIndex(D d, hn::Vec<D>* v, int n) {
 template <class DI>
 HWY_INLINE hn::Vec<DI> byteOf(DI di, hn::Vec<DI> g, int c) {
   const hn::RebindToUnsigned<DI> du;
-  return hn::BitCast(di, hn::And(hn::ShiftRightSame(hn::BitCast(du, g), 8 * c), hn::Set(du, 0xFFu)));
+  return hn::BitCast(di,
+                     hn::And(hn::ShiftRightSame(hn::BitCast(du, g), 8 * c), hn::Set(du, 0xFFu)));
 }
 
 // 8u linear: two-stage 14-bit interpolation of channel bytes, as linearPixel.
 template <class DI>
-HWY_INLINE hn::Vec<DI> lerp8(DI di, hn::Vec<DI> p00, hn::Vec<DI> p01, hn::Vec<DI> p10, hn::Vec<DI> p11,
-                             hn::Vec<DI> wx, hn::Vec<DI> wx0, hn::Vec<DI> wy, hn::Vec<DI> wy0) {
+HWY_INLINE hn::Vec<DI> lerp8(DI di, hn::Vec<DI> p00, hn::Vec<DI> p01, hn::Vec<DI> p10,
+                             hn::Vec<DI> p11, hn::Vec<DI> wx, hn::Vec<DI> wx0, hn::Vec<DI> wy,
+                             hn::Vec<DI> wy0) {
   const auto h0 = hn::ShiftRight<8>(hn::Add(hn::Mul(wx0, p00), hn::Mul(wx, p01)));
   const auto h1 = hn::ShiftRight<8>(hn::Add(hn::Mul(wx0, p10), hn::Mul(wx, p11)));
-  return hn::ShiftRight<20>(hn::Add(hn::Add(hn::Mul(h0, wy0), hn::Mul(h1, wy)), hn::Set(di, 1 << 19)));
+  return hn::ShiftRight<20>(
+      hn::Add(hn::Add(hn::Mul(h0, wy0), hn::Mul(h1, wy)), hn::Set(di, 1 << 19)));
 }
 
 // Four bytes at base + off[j] per lane, by scalar loads: on the processors we tune for these
@@ -130,8 +133,8 @@ void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
             const VI g11 = gather(di, base, hn::Add(o1, hn::Set(di, rb)));
             VI r = hn::Zero(di);
             for (int c = 0; c < kUse; ++c) {
-              const VI v = lerp8(di, byteOf(di, g00, c), byteOf(di, g01, c + sh), byteOf(di, g10, c),
-                                 byteOf(di, g11, c + sh), wx, wx0, wy, wy0);
+              const VI v = lerp8(di, byteOf(di, g00, c), byteOf(di, g01, c + sh),
+                                 byteOf(di, g10, c), byteOf(di, g11, c + sh), wx, wx0, wy, wy0);
               r = hn::Or(r, hn::ShiftLeftSame(v, 8 * c));
             }
             if constexpr (kCh == 4) {
@@ -173,8 +176,10 @@ void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
         }
       } else if constexpr (kMode == warp::kNearest) {
         const VD half = hn::Set(d64, 0.5);
-        const VI ix = hn::Min(hn::DemoteTo(di, hn::Add(clampPos(d64, x, a.w), half)), hn::Set(di, a.w - 1));
-        const VI iy = hn::Min(hn::DemoteTo(di, hn::Add(clampPos(d64, y, a.h), half)), hn::Set(di, a.h - 1));
+        const VI ix =
+            hn::Min(hn::DemoteTo(di, hn::Add(clampPos(d64, x, a.w), half)), hn::Set(di, a.w - 1));
+        const VI iy =
+            hn::Min(hn::DemoteTo(di, hn::Add(clampPos(d64, y, a.h), half)), hn::Set(di, a.h - 1));
         const VI off = hn::Add(hn::Mul(iy, step), hn::Mul(ix, chBytes));
         if constexpr (sizeof(T) == 4 || kCh == 4) {  // one whole element or pixel per lane
           const VI g = gather(di, base, off);
@@ -222,23 +227,26 @@ void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
         };
         auto coeffs = [&](VF t) {  // cubicCoeffs
           const VF ta = hn::Add(t, hn::Set(df, 1.0f));
-          return K{ta, hn::Div(hn::Mul(t, ta), hn::Set(df, 2.0f)),
-                   hn::Div(hn::Mul(hn::Mul(hn::Sub(t, hn::Set(df, 1.0f)), t), ta), hn::Set(df, 6.0f))};
+          return K{
+              ta, hn::Div(hn::Mul(t, ta), hn::Set(df, 2.0f)),
+              hn::Div(hn::Mul(hn::Mul(hn::Sub(t, hn::Set(df, 1.0f)), t), ta), hn::Set(df, 6.0f))};
         };
         auto newton = [&](VF p0, VF p1, VF p2, VF p3, const K& kc) {  // cubicNewton
           const VF two = hn::Set(df, 2.0f), three = hn::Set(df, 3.0f);
           const VF d1 = hn::Sub(p1, p0);
           const VF d2 = hn::Add(hn::Sub(p2, hn::Mul(two, p1)), p0);
           const VF d3 = hn::Sub(hn::Add(hn::Sub(p3, hn::Mul(three, p2)), hn::Mul(three, p1)), p0);
-          return hn::Add(hn::Add(hn::Add(p0, hn::Mul(kc.a, d1)), hn::Mul(kc.b, d2)), hn::Mul(kc.c, d3));
+          return hn::Add(hn::Add(hn::Add(p0, hn::Mul(kc.a, d1)), hn::Mul(kc.b, d2)),
+                         hn::Mul(kc.c, d3));
         };
         const K kx = coeffs(tx), ky = coeffs(ty);
         VF h[4];
         VI off = hn::Add(hn::Mul(hn::Sub(by, hn::Set(di, 1)), step), hn::Sub(bx, hn::Set(di, 1)));
         for (int j = 0; j < 4; ++j, off = hn::Add(off, step)) {
           const VI g = gather(di, base, off);
-          h[j] = newton(hn::ConvertTo(df, byteOf(di, g, 0)), hn::ConvertTo(df, byteOf(di, g, 1)),
-                        hn::ConvertTo(df, byteOf(di, g, 2)), hn::ConvertTo(df, byteOf(di, g, 3)), kx);
+          h[j] =
+              newton(hn::ConvertTo(df, byteOf(di, g, 0)), hn::ConvertTo(df, byteOf(di, g, 1)),
+                     hn::ConvertTo(df, byteOf(di, g, 2)), hn::ConvertTo(df, byteOf(di, g, 3)), kx);
         }
         VF v = hn::Add(newton(h[0], h[1], h[2], h[3], ky), hn::Set(df, 0.5000001f));
         v = hn::Min(hn::IfThenElse(hn::Ge(v, hn::Zero(df)), v, hn::Zero(df)), hn::Set(df, 255.0f));
@@ -267,8 +275,10 @@ namespace warp {
 // Which span kernels have a vector version.
 template <class T, int kCh, int kMode>
 constexpr bool kVector = std::is_same_v<T, Lum8u>
-                             ? (kMode == kLinear || (kMode == kNearest && kCh != 3) || (kMode == kCubic && kCh == 1))
-                             : std::is_same_v<T, Lum32f> && (kMode == kLinear || (kMode == kNearest && kCh == 1));
+                             ? (kMode == kLinear || (kMode == kNearest && kCh != 3) ||
+                                (kMode == kCubic && kCh == 1))
+                             : std::is_same_v<T, Lum32f> &&
+                                   (kMode == kLinear || (kMode == kNearest && kCh == 1));
 
 template <class T, class L, int kMode, int kPos>
 SpanFn<T> pickSpanOf() {
@@ -289,15 +299,15 @@ SpanFn<T> pickSpanAt(int mode) {
 
 template <class T, class L>
 SpanFn<T> pickSpan(int mode, int pos) {
-  return pos == kPosLinear        ? pickSpanAt<T, L, kPosLinear>(mode)
+  return pos == kPosLinear       ? pickSpanAt<T, L, kPosLinear>(mode)
          : pos == kPosProjective ? pickSpanAt<T, L, kPosProjective>(mode)
                                  : pickSpanAt<T, L, kPosArrays>(mode);
 }
 
-#define LUMI_WARP_PICKS(T)                                  \
-  template SpanFn<T> pickSpan<T, C1>(int, int);            \
-  template SpanFn<T> pickSpan<T, C3>(int, int);            \
-  template SpanFn<T> pickSpan<T, C4>(int, int);            \
+#define LUMI_WARP_PICKS(T)                      \
+  template SpanFn<T> pickSpan<T, C1>(int, int); \
+  template SpanFn<T> pickSpan<T, C3>(int, int); \
+  template SpanFn<T> pickSpan<T, C4>(int, int); \
   template SpanFn<T> pickSpan<T, AC4>(int, int);
 LUMI_WARP_PICKS(Lum8u)
 LUMI_WARP_PICKS(Lum16u)

@@ -32,7 +32,8 @@ LumStatus perspectiveImpl(const Planes<T>& im, const Frame& f, const double c[3]
     std::memcpy(fwd, c, sizeof(fwd));
     if (!invert3(c, map.a)) return lumStatusCoeffErr;
   }
-  return warpTail<T, L>(im, f, map, [&](LumiRect roi, Pt q[4]) { return perspectiveQuadOf(fwd, roi, q); });
+  return warpTail<T, L>(im, f, map,
+                        [&](LumiRect roi, Pt q[4]) { return perspectiveQuadOf(fwd, roi, q); });
 }
 
 inline void mul3(const double a[3][3], const double b[3][3], double r[3][3]) {
@@ -72,29 +73,53 @@ LumStatus perspectiveQuadImpl(const Planes<T>& im, const Frame& f, const double 
 using namespace lumi;
 using namespace lumi::warp;
 
-#define LUMI_WARP_PERSPECTIVE(NAME, T, L) \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, int dstStep, LumiRect dstRoi, const double coeffs[3][3], int interpolation) { \
-    return perspectiveImpl<T, L>(packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs, false); \
+#define LUMI_WARP_PERSPECTIVE(NAME, T, L)                                                         \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
+                          int dstStep, LumiRect dstRoi, const double coeffs[3][3],                \
+                          int interpolation) {                                                    \
+    return perspectiveImpl<T, L>(                                                                 \
+        packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),    \
+        coeffs, false);                                                                           \
   }
-#define LUMI_WARP_PERSPECTIVE_P(NAME, T, N) \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, T* const pDst[N], int dstStep, LumiRect dstRoi, const double coeffs[3][3], int interpolation) { \
-    return perspectiveImpl<T, C1>(planar<T, N>(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs, false); \
+#define LUMI_WARP_PERSPECTIVE_P(NAME, T, N)                                                       \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          T* const pDst[N], int dstStep, LumiRect dstRoi,                         \
+                          const double coeffs[3][3], int interpolation) {                         \
+    return perspectiveImpl<T, C1>(                                                                \
+        planar<T, N>(pSrc, pDst),                                                                 \
+        frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs, false);        \
   }
-#define LUMI_WARP_PERSPECTIVE_BACK(NAME, T, L) \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, int dstStep, LumiRect dstRoi, const double coeffs[3][3], int interpolation) { \
-    return perspectiveImpl<T, L>(packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs, true); \
+#define LUMI_WARP_PERSPECTIVE_BACK(NAME, T, L)                                                    \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
+                          int dstStep, LumiRect dstRoi, const double coeffs[3][3],                \
+                          int interpolation) {                                                    \
+    return perspectiveImpl<T, L>(                                                                 \
+        packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),    \
+        coeffs, true);                                                                            \
   }
-#define LUMI_WARP_PERSPECTIVE_BACK_P(NAME, T, N) \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, T* const pDst[N], int dstStep, LumiRect dstRoi, const double coeffs[3][3], int interpolation) { \
-    return perspectiveImpl<T, C1>(planar<T, N>(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs, true); \
+#define LUMI_WARP_PERSPECTIVE_BACK_P(NAME, T, N)                                                  \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          T* const pDst[N], int dstStep, LumiRect dstRoi,                         \
+                          const double coeffs[3][3], int interpolation) {                         \
+    return perspectiveImpl<T, C1>(                                                                \
+        planar<T, N>(pSrc, pDst),                                                                 \
+        frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs, true);         \
   }
-#define LUMI_WARP_PERSPECTIVE_QUAD(NAME, T, L) \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, const double srcQuad[4][2], T* pDst, int dstStep, LumiRect dstRoi, const double dstQuad[4][2], int interpolation) { \
-    return perspectiveQuadImpl<T, L>(packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), srcQuad, dstQuad); \
+#define LUMI_WARP_PERSPECTIVE_QUAD(NAME, T, L)                                                 \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi,       \
+                          const double srcQuad[4][2], T* pDst, int dstStep, LumiRect dstRoi,   \
+                          const double dstQuad[4][2], int interpolation) {                     \
+    return perspectiveQuadImpl<T, L>(                                                          \
+        packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), \
+        srcQuad, dstQuad);                                                                     \
   }
-#define LUMI_WARP_PERSPECTIVE_QUAD_P(NAME, T, N) \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, const double srcQuad[4][2], T* const pDst[N], int dstStep, LumiRect dstRoi, const double dstQuad[4][2], int interpolation) { \
-    return perspectiveQuadImpl<T, C1>(planar<T, N>(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), srcQuad, dstQuad); \
+#define LUMI_WARP_PERSPECTIVE_QUAD_P(NAME, T, N)                                                  \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          const double srcQuad[4][2], T* const pDst[N], int dstStep,              \
+                          LumiRect dstRoi, const double dstQuad[4][2], int interpolation) {       \
+    return perspectiveQuadImpl<T, C1>(                                                            \
+        planar<T, N>(pSrc, pDst),                                                                 \
+        frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), srcQuad, dstQuad);     \
   }
 
 LUMI_WARP_PERSPECTIVE(lumiWarpPerspective_8u_C1R, Lum8u, C1)
@@ -153,4 +178,3 @@ LUMI_WARP_PERSPECTIVE_QUAD(lumiWarpPerspectiveQuad_32f_C4R, Lum32f, C4)
 LUMI_WARP_PERSPECTIVE_QUAD(lumiWarpPerspectiveQuad_32f_AC4R, Lum32f, AC4)
 LUMI_WARP_PERSPECTIVE_QUAD_P(lumiWarpPerspectiveQuad_32f_P3R, Lum32f, 3)
 LUMI_WARP_PERSPECTIVE_QUAD_P(lumiWarpPerspectiveQuad_32f_P4R, Lum32f, 4)
-
