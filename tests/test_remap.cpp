@@ -76,14 +76,15 @@ double reference(Px px, const Box& b, int mode, float x, float y) {
   return std::min(std::max(std::floor(v + 0.5), double(std::numeric_limits<T>::min())), double(std::numeric_limits<T>::max()));
 }
 
-// Map points: mostly inside the box (many on whole and half pixels), some just outside each
-// edge, on the last row and column, and NaN.
+// Map points: on even rows mostly inside the box (many on whole and half pixels), some just
+// outside each edge, on the last row and column, and NaN; odd rows wholly inside.
 void fillMaps(lumitest::Rng& r, const Box& b, GuardedImage<Lum32f>& mx, GuardedImage<Lum32f>& my) {
   for (int y = 0; y < mx.height(); ++y)
     for (int x = 0; x < mx.width(); ++x) {
-      float u = std::uniform_real_distribution<float>(b.x0 - 0.7f, b.x1 + 0.7f)(r);
-      float v = std::uniform_real_distribution<float>(b.y0 - 0.7f, b.y1 + 0.7f)(r);
-      switch (lumitest::randInt(r, 0, 9)) {
+      const float e = y % 2 ? 0.0f : 0.7f;
+      float u = std::uniform_real_distribution<float>(b.x0 - e, b.x1 + e)(r);
+      float v = std::uniform_real_distribution<float>(b.y0 - e, b.y1 + e)(r);
+      switch (y % 2 ? 9 : lumitest::randInt(r, 0, 9)) {
         case 0: u = std::round(u * 2) / 2, v = std::round(v * 2) / 2; break;
         case 1: u = float(b.x1); break;
         case 2: v = float(b.y1); break;
@@ -179,8 +180,10 @@ TEST(Remap, AllLayoutsAndModesAgainstReference) {
 TEST(Remap, LargeOneChannelImages) {
   // Wide enough for the vector kernels and the thread bands, with points near the image's
   // last bytes.
-  checkType(k8u, 6, LumiSize{301, 203}, LumiRect{0, 0, 301, 203}, LumiSize{263, 131});
-  checkType(k32f, 7, LumiSize{301, 203}, LumiRect{1, 1, 300, 202}, LumiSize{263, 131});
+  checkType(k8u, 6, LumiSize{301, 203}, LumiRect{0, 0, 301, 203}, LumiSize{263, 37});
+  checkType(k32f, 7, LumiSize{301, 203}, LumiRect{1, 1, 300, 202}, LumiSize{263, 37});
+  // Colour layouts on rows long enough for their vector kernels too.
+  checkType(k8u, 8, LumiSize{157, 95}, LumiRect{2, 3, 150, 90}, LumiSize{131, 19});
 }
 
 TEST(Remap, ChecksInOrder) {

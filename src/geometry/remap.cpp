@@ -1,14 +1,14 @@
 // Remapping through two float coordinate maps with nearest, linear or cubic interpolation.
 //
-// Vector kernels: nearest and linear for 8u and 32f one-channel images. They load a vector of
-// map points, test them against the box, convert and round them lane-wise exactly as the
-// scalar twins do, and fetch the source pixels with gathers: 32f by element index, 8u as 32-bit
-// words at byte offsets (the pixel and its right neighbour in the low bytes). A word may reach
-// three bytes past the pixel, so a vector any of whose words would pass the image's last byte
-// is done by the scalar twin. Lanes outside the box fetch from the box corner and store back
-// the destination's own value. Integer results equal the scalar twins bit for bit; 32f linear
-// results may differ from them by fused multiply-adds, within 2^-21 of the largest of the four
-// source magnitudes.
+// Vector kernels: nearest and linear for 8u and 32f one-channel images, linear for 8u three-
+// and four-channel images, cubic for 8u one-channel images. They load a vector of map points,
+// test them against the box, convert and round them lane-wise exactly as the scalar twins do,
+// and fetch the source pixels with gathers: 32f by element index, 8u as 32-bit words at byte
+// offsets (a word holds the pixel and what follows it). A word may reach past the pixels
+// needed, so a vector any of whose words would pass the image's last byte is done by the
+// scalar twin. Lanes outside the box fetch from inside it and store back the destination's own
+// value. Float arithmetic is done in the twins' order without fused multiply-adds, so every
+// result, 32f included, equals the scalar twin's bit for bit.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/geometry/remap.cpp"
 #include "hwy/foreach_target.h"
@@ -171,13 +171,154 @@ void linearRow32f(const float* src, int step, const remap::Box& b, const float* 
       const auto p00 = hn::GatherIndex(df, src, i0), p01 = hn::GatherIndex(df, src, hn::Add(i0, ione));
       const auto p10 = hn::GatherIndex(df, src, i1), p11 = hn::GatherIndex(df, src, hn::Add(i1, ione));
       const auto gx = hn::Sub(one, fx);
-      const auto h0 = hn::MulAdd(p01, fx, hn::Mul(p00, gx));
-      const auto h1 = hn::MulAdd(p11, fx, hn::Mul(p10, gx));
-      const auto v = hn::MulAdd(h1, fy, hn::Mul(h0, hn::Sub(one, fy)));
+      const auto h0 = hn::Add(hn::Mul(p00, gx), hn::Mul(p01, fx));
+      const auto h1 = hn::Add(hn::Mul(p10, gx), hn::Mul(p11, fx));
+      const auto v = hn::Add(hn::Mul(h0, hn::Sub(one, fy)), hn::Mul(h1, fy));
       hn::StoreU(hn::IfThenElse(in, v, hn::LoadU(df, dst + x)), df, dst + x);
     }
   }
   remap::linearRowScalar<float, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
+}
+
+// 8u three- and four-channel pixels: one 32-bit word per pixel and neighbour (three-channel
+// words carry a byte of the next pixel), each channel taken out, interpolated in 32-bit lanes
+// and put back. Four-channel results are stored as words (AC4: with the destination's alpha),
+// three-channel ones pixel by pixel.
+template <class L>
+void linearRow8uPix(const uint8_t* src, int step, const remap::Box& b, const float* mx,
+                    const float* my, uint8_t* dst, int width) {
+  constexpr int kCh = L::kCh;
+  const hn::ScalableTag<float> df;
+  const hn::RebindToSigned<decltype(df)> di;
+  const int N = static_cast<int>(hn::Lanes(df));
+  const auto vstep = hn::Set(di, step), vch = hn::Set(di, kCh);
+  // The last word is read at offset + step + kCh, up to 3 bytes further.
+  const std::ptrdiff_t lim = b.limit - step - kCh - 4;
+  const auto limit = hn::Set(di, static_cast<int32_t>(lim < -1 ? -1 : lim));
+  const auto k1 = hn::Set(di, remap::kOne), k33 = hn::Set(di, 33), kFF = hn::Set(di, 0xFF);
+  const auto scale = hn::Set(df, static_cast<float>(remap::kOne));
+  HWY_ALIGN int32_t words[hn::MaxLanes(di)];
+  int x = 0;
+  if (b.gather32) {
+    for (; x + N <= width; x += N) {
+      auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
+      const auto in = clampToBox(df, b, vx, vy);
+      if (hn::AllFalse(df, in)) continue;
+      hn::Vec<decltype(di)> ix, iy;
+      hn::Vec<decltype(df)> fx, fy;
+      linearCellV(df, di, b, vx, vy, ix, iy, fx, fy);
+      const auto off = hn::Add(hn::Mul(iy, vstep), hn::Mul(ix, vch));
+      if (!hn::AllFalse(di, hn::Gt(off, limit))) {
+        remap::linearRowScalar<uint8_t, L>(src, step, b, mx + x, my + x, dst + elemsOf(x, kCh), N);
+        continue;
+      }
+      const auto wx = roundEvenV(df, di, hn::Mul(fx, scale));
+      const auto wy = roundEvenV(df, di, hn::Mul(fy, scale));
+      const auto wx0 = hn::Sub(k1, wx), wy0 = hn::Sub(k1, wy);
+      const auto* base = reinterpret_cast<const int32_t*>(src);
+      const auto g00 = hn::GatherOffset(di, base, off), g01 = hn::GatherOffset(di, base, hn::Add(off, vch));
+      const auto off1 = hn::Add(off, vstep);
+      const auto g10 = hn::GatherOffset(di, base, off1), g11 = hn::GatherOffset(di, base, hn::Add(off1, vch));
+      auto res = hn::Zero(di);
+      for (int c = 0; c < L::kUse; ++c) {
+        auto chan = [&](hn::Vec<decltype(di)> g) { return hn::And(hn::ShiftRightSame(g, 8 * c), kFF); };
+        const auto h0 = hn::ShiftRight<8>(hn::Add(hn::Mul(wx0, chan(g00)), hn::Mul(wx, chan(g01))));
+        const auto h1 = hn::ShiftRight<8>(hn::Add(hn::Mul(wx0, chan(g10)), hn::Mul(wx, chan(g11))));
+        const auto v = hn::ShiftRight<20>(hn::Add(hn::Add(hn::Mul(h0, wy0), hn::Mul(h1, wy)), k33));
+        res = hn::Or(res, hn::ShiftLeftSame(v, 8 * c));
+      }
+      if constexpr (kCh == 4) {
+        int32_t* out = reinterpret_cast<int32_t*>(dst + elemsOf(x, 4));
+        const auto old = hn::LoadU(di, out);
+        if constexpr (L::kUse == 3) res = hn::Or(res, hn::And(old, hn::Set(di, static_cast<int32_t>(0xFF000000u))));
+        hn::StoreU(hn::IfThenElse(hn::RebindMask(di, in), res, old), di, out);
+      } else {
+        hn::Store(res, di, words);
+        if (hn::AllTrue(df, in) && x + N + 2 <= width) {
+          // Four words to four packed pixels per block; the store's last four bytes write back
+          // what the destination holds there (the next block's, or pixels past this vector).
+          const hn::Full128<uint8_t> d16;
+          alignas(16) static constexpr uint8_t kPack[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 0x80, 0x80, 0x80, 0x80};
+          const auto pack = hn::Load(d16, kPack);
+          const auto keep = hn::FirstN(d16, 12);
+          for (int j = 0; j < N / 4; ++j) {
+            uint8_t* o = dst + elemsOf(x + 4 * j, 3);
+            const auto w = hn::Load(d16, reinterpret_cast<const uint8_t*>(words + 4 * j));
+            hn::StoreU(hn::IfThenElse(keep, hn::TableLookupBytesOr0(w, pack), hn::LoadU(d16, o)), d16, o);
+          }
+        } else {
+          for (int i = 0; i < N; ++i)
+            if (remap::inside(b, mx[x + i], my[x + i])) std::memcpy(dst + elemsOf(x + i, 3), &words[i], 3);
+        }
+      }
+    }
+  }
+  remap::linearRowScalar<uint8_t, L>(src, step, b, mx + x, my + x, dst + elemsOf(x, kCh), width - x);
+}
+
+// 8u one channel, cubic: vectors whose points all lie at least one pixel inside the box (the
+// 4 x 4 neighbourhood then needs no clamping) read one 32-bit word per neighbourhood row; the
+// 4-point cubic is evaluated in float with the very operations of the scalar twin (no fused
+// multiply-adds), so the results agree bit for bit. Other vectors go to the twin.
+void cubicRow8u(const uint8_t* src, int step, const remap::Box& b, const float* mx,
+                const float* my, uint8_t* dst, int width) {
+  const hn::ScalableTag<float> df;
+  const hn::RebindToSigned<decltype(df)> di;
+  const hn::Rebind<uint8_t, decltype(di)> d8;
+  const int N = static_cast<int>(hn::Lanes(df));
+  const auto vstep = hn::Set(di, step), kFF = hn::Set(di, 0xFF), one = hn::Set(di, 1);
+  const auto f1 = hn::Set(df, 1.0f), f2 = hn::Set(df, 2.0f), f3 = hn::Set(df, 3.0f), f6 = hn::Set(df, 6.0f);
+  const auto half = hn::Set(df, 0.5f), top = hn::Set(df, 255.0f);
+  // Points outside the box are moved to (x0 + 1, y0 + 1), an inner point (the box is at least
+  // 4 x 4 in cubic mode).
+  const auto inner0x = hn::Set(df, b.fx0 + 1), inner0y = hn::Set(df, b.fy0 + 1);
+  auto newton = [&](hn::Vec<decltype(df)> p0, hn::Vec<decltype(df)> p1, hn::Vec<decltype(df)> p2,
+                    hn::Vec<decltype(df)> p3, hn::Vec<decltype(df)> ka, hn::Vec<decltype(df)> kb,
+                    hn::Vec<decltype(df)> kc) {
+    const auto d1 = hn::Sub(p1, p0);
+    const auto d2 = hn::Add(hn::Sub(p2, hn::Mul(f2, p1)), p0);
+    const auto d3 = hn::Sub(hn::Add(hn::Sub(p3, hn::Mul(f3, p2)), hn::Mul(f3, p1)), p0);
+    return hn::Add(hn::Add(hn::Add(p0, hn::Mul(ka, d1)), hn::Mul(kb, d2)), hn::Mul(kc, d3));
+  };
+  auto coeffs = [&](hn::Vec<decltype(df)> t, hn::Vec<decltype(df)>& ka, hn::Vec<decltype(df)>& kb,
+                    hn::Vec<decltype(df)>& kc) {
+    ka = hn::Add(t, f1);
+    kb = hn::Div(hn::Mul(t, ka), f2);
+    kc = hn::Div(hn::Mul(hn::Mul(hn::Sub(t, f1), t), ka), f6);
+  };
+  int x = 0;
+  for (; x + N <= width; x += N) {
+    auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
+    const auto in = clampToBox(df, b, vx, vy);
+    if (hn::AllFalse(df, in)) continue;
+    vx = hn::IfThenElse(in, vx, inner0x);
+    vy = hn::IfThenElse(in, vy, inner0y);
+    const auto ix = hn::ConvertTo(di, vx), iy = hn::ConvertTo(di, vy);
+    const auto inner = hn::And(hn::And(hn::Gt(ix, hn::Set(di, b.x0)), hn::Lt(ix, hn::Set(di, b.x1 - 1))),
+                               hn::And(hn::Gt(iy, hn::Set(di, b.y0)), hn::Lt(iy, hn::Set(di, b.y1 - 1))));
+    if (!hn::AllTrue(di, inner) || !b.gather32) {
+      remap::cubicRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, N);
+      continue;
+    }
+    hn::Vec<decltype(df)> xa, xb, xc, ya, yb, yc;
+    coeffs(hn::Sub(vx, hn::ConvertTo(df, ix)), xa, xb, xc);
+    coeffs(hn::Sub(vy, hn::ConvertTo(df, iy)), ya, yb, yc);
+    auto off = hn::Add(hn::Mul(hn::Sub(iy, one), vstep), hn::Sub(ix, one));
+    const auto* base = reinterpret_cast<const int32_t*>(src);
+    hn::Vec<decltype(df)> h[4];
+    for (int r = 0; r < 4; ++r) {
+      const auto g = hn::GatherOffset(di, base, off);
+      auto byte = [&](int k) { return hn::ConvertTo(df, hn::And(hn::ShiftRightSame(g, 8 * k), kFF)); };
+      h[r] = newton(byte(0), byte(1), byte(2), byte(3), xa, xb, xc);
+      off = hn::Add(off, vstep);
+    }
+    const auto v = newton(h[0], h[1], h[2], h[3], ya, yb, yc);
+    // floor(v + 0.5) saturated: clamping first gives the same for every finite v.
+    const auto r = hn::ConvertTo(di, hn::Add(hn::Min(hn::Max(v, hn::Zero(df)), top), half));
+    const auto old = hn::PromoteTo(di, hn::LoadU(d8, dst + x));
+    hn::StoreU(hn::DemoteTo(d8, hn::IfThenElse(hn::RebindMask(di, in), r, old)), d8, dst + x);
+  }
+  remap::cubicRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
 }
 
 }  // namespace
@@ -213,6 +354,18 @@ RowFn<T> pickRow(int mode) {
         LUMI_SIMD_TABLE(RowFn<T>, table, linearRow32f);
         return pick(table, &linearRowScalar<T, L>);
       }
+    }
+  }
+  if constexpr (std::is_same_v<T, Lum8u> && L::kCh >= 3) {
+    if (mode == lumInterpLinear) {
+      LUMI_SIMD_TABLE(RowFn<T>, table, linearRow8uPix<L>);
+      return pick(table, &linearRowScalar<T, L>);
+    }
+  }
+  if constexpr (std::is_same_v<T, Lum8u> && std::is_same_v<L, C1>) {
+    if (mode == lumInterpCubic) {
+      LUMI_SIMD_TABLE(RowFn<T>, table, cubicRow8u);
+      return pick(table, &cubicRowScalar<T, L>);
     }
   }
   if (mode == lumInterpNearest) return &nearestRowScalar<T, L>;
