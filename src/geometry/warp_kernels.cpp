@@ -11,10 +11,12 @@
 // take the twin.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/geometry/warp_kernels.cpp"
-#include "core/simd.h"
-#include "geometry/warp_engine.h"
+// clang-format off
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
+#include "core/simd.h"
+#include "geometry/warp_engine.h"
+// clang-format on
 
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
