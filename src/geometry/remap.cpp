@@ -1,7 +1,9 @@
 // Remapping through two float coordinate maps with nearest, linear or cubic interpolation.
 //
 // Vector kernels: nearest and linear for 8u and 32f one-channel images, linear for 8u three-
-// and four-channel images, cubic for 8u one-channel images. They load a vector of map points,
+// and four-channel images, cubic for 8u one-channel images; every other nearest and linear
+// remap turns the map points into offsets and weights a vector at a time and blends pixel by
+// pixel. They load a vector of map points,
 // test them against the box, convert and round them lane-wise exactly as the scalar twins do,
 // and fetch the source pixels with gathers: 32f by element index, 8u as 32-bit words at byte
 // offsets (a word holds the pixel and what follows it). A word may reach past the pixels
@@ -178,6 +180,103 @@ void linearRow32f(const float* src, int step, const remap::Box& b, const float* 
     }
   }
   remap::linearRowScalar<float, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
+}
+
+// Any type and layout, nearest or linear, in two passes over chunks of a row: the map points
+// are turned into byte offsets of the (top-left) source pixel, -1 outside the box, and for
+// linear into weights, a vector at a time exactly as the scalar twins do it; then each pixel
+// is fetched and blended in a plain loop with the twins' arithmetic.
+constexpr int kChunk = 256;
+
+template <class T, class L, bool kLinear>
+void remapRowAny(const T* src, int step, const remap::Box& b, const float* mx, const float* my,
+                 T* dst, int width) {
+  if (!b.gather32) {
+    if constexpr (kLinear)
+      remap::linearRowScalar<T, L>(src, step, b, mx, my, dst, width);
+    else
+      remap::nearestRowScalar<T, L>(src, step, b, mx, my, dst, width);
+    return;
+  }
+  constexpr int kPix = static_cast<int>(sizeof(T)) * L::kCh;
+  constexpr bool kFloat = std::is_floating_point_v<T>;
+  const hn::ScalableTag<float> df;
+  const hn::RebindToSigned<decltype(df)> di;
+  const int N = static_cast<int>(hn::Lanes(df));
+  const auto vstep = hn::Set(di, step), vpix = hn::Set(di, kPix), none = hn::Set(di, -1);
+  const auto scale = hn::Set(df, static_cast<float>(remap::kOne));
+  HWY_ALIGN int32_t off[kChunk];
+  HWY_ALIGN int32_t wxi[kChunk], wyi[kChunk];
+  HWY_ALIGN float fxs[kChunk], fys[kChunk];
+  const auto* bytes = reinterpret_cast<const uint8_t*>(src);
+  for (int x0 = 0; x0 < width; x0 += kChunk) {
+    const int n = width - x0 < kChunk ? width - x0 : kChunk;
+    const float* px = mx + x0;
+    const float* py = my + x0;
+    int i = 0;
+    for (; i + N <= n; i += N) {
+      auto vx = hn::LoadU(df, px + i), vy = hn::LoadU(df, py + i);
+      const auto in = hn::RebindMask(di, clampToBox(df, b, vx, vy));
+      if constexpr (kLinear) {
+        hn::Vec<decltype(di)> ix, iy;
+        hn::Vec<decltype(df)> fx, fy;
+        linearCellV(df, di, b, vx, vy, ix, iy, fx, fy);
+        hn::Store(hn::IfThenElse(in, hn::Add(hn::Mul(iy, vstep), hn::Mul(ix, vpix)), none), di, off + i);
+        if constexpr (kFloat) {
+          hn::Store(fx, df, fxs + i);
+          hn::Store(fy, df, fys + i);
+        } else {
+          hn::Store(roundEvenV(df, di, hn::Mul(fx, scale)), di, wxi + i);
+          hn::Store(roundEvenV(df, di, hn::Mul(fy, scale)), di, wyi + i);
+        }
+      } else {
+        const auto o = hn::Add(hn::Mul(roundEvenV(df, di, vy), vstep), hn::Mul(roundEvenV(df, di, vx), vpix));
+        hn::Store(hn::IfThenElse(in, o, none), di, off + i);
+      }
+    }
+    for (; i < n; ++i) {
+      off[i] = -1;
+      if (!remap::inside(b, px[i], py[i])) continue;
+      if constexpr (kLinear) {
+        int ix, iy;
+        float fx, fy;
+        remap::linearCell(b, px[i], py[i], &ix, &iy, &fx, &fy);
+        off[i] = iy * step + ix * kPix;
+        fxs[i] = fx, fys[i] = fy;
+        wxi[i] = remap::roundEven(fx * remap::kOne), wyi[i] = remap::roundEven(fy * remap::kOne);
+      } else {
+        off[i] = remap::roundEven(py[i]) * step + remap::roundEven(px[i]) * kPix;
+      }
+    }
+    T* d = dst + elemsOf(x0, L::kCh);
+    for (i = 0; i < n; ++i, d += L::kCh) {
+      if (off[i] < 0) continue;
+      const T* p0 = reinterpret_cast<const T*>(bytes + off[i]);
+      if constexpr (!kLinear) {
+        for (int c = 0; c < L::kUse; ++c) d[c] = p0[c];
+      } else {
+        const T* p1 = reinterpret_cast<const T*>(bytes + off[i] + step);
+        if constexpr (kFloat) {
+          const float fx = fxs[i], fy = fys[i];
+          for (int c = 0; c < L::kUse; ++c) {
+            const float h0 = p0[c] * (1 - fx) + p0[c + L::kCh] * fx;
+            const float h1 = p1[c] * (1 - fx) + p1[c + L::kCh] * fx;
+            d[c] = h0 * (1 - fy) + h1 * fy;
+          }
+        } else {
+          const int wx = wxi[i], wy = wyi[i];
+          for (int c = 0; c < L::kUse; ++c) {
+            const int h0 = ((remap::kOne - wx) * p0[c] + wx * p0[c + L::kCh]) >> 8;
+            const int h1 = ((remap::kOne - wx) * p1[c] + wx * p1[c + L::kCh]) >> 8;
+            if constexpr (sizeof(T) == 1)
+              d[c] = static_cast<T>((h0 * (remap::kOne - wy) + h1 * wy + 33) >> 20);
+            else
+              d[c] = static_cast<T>((static_cast<int64_t>(h0) * (remap::kOne - wy) + static_cast<int64_t>(h1) * wy + 33) >> 20);
+          }
+        }
+      }
+    }
+  }
 }
 
 // 8u three- and four-channel pixels: one 32-bit word per pixel and neighbour (three-channel
@@ -368,8 +467,14 @@ RowFn<T> pickRow(int mode) {
       return pick(table, &cubicRowScalar<T, L>);
     }
   }
-  if (mode == lumInterpNearest) return &nearestRowScalar<T, L>;
-  if (mode == lumInterpLinear) return &linearRowScalar<T, L>;
+  if (mode == lumInterpNearest) {
+    LUMI_SIMD_TABLE(RowFn<T>, table, remapRowAny<T, L, false>);
+    return pick(table, &nearestRowScalar<T, L>);
+  }
+  if (mode == lumInterpLinear) {
+    LUMI_SIMD_TABLE(RowFn<T>, table, remapRowAny<T, L, true>);
+    return pick(table, &linearRowScalar<T, L>);
+  }
   return &cubicRowScalar<T, L>;
 }
 
