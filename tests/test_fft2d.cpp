@@ -425,7 +425,8 @@ TEST(Pack, MulPackIntegerScaling) {
   };
   // 1x1: one real product
   for (Case k : {Case{3, 1, 1, 2}, Case{5, 1, 1, 2}, Case{7, 1, 1, 4}, Case{-3, 1, 1, -2}, Case{-5, 1, 1, -2},
-                 Case{300, 300, 0, 32767}, Case{-300, 300, 2, -22500}, Case{3, 3, -2, 36}, Case{1, 1, -16, 32767}}) {
+                 Case{300, 300, 0, 32767}, Case{-300, 300, 2, -22500}, Case{3, 3, -2, 36}, Case{1, 1, -16, 32767},
+                 Case{-3, 3, INT32_MIN, -32768}, Case{0, 3, INT32_MIN, 0}, Case{-300, 300, INT32_MAX, 0}}) {
     Lum16s a = Lum16s(k.a), b = Lum16s(k.b), d = 0;
     ASSERT_EQ(lumiMulPack_16s_C1RSfs(&a, 2, &b, 2, &d, 2, {1, 1}, k.sf), lumStatusOk);
     EXPECT_EQ(d, Lum16s(std::max(-32768, std::min(32767, k.want)))) << k.a << "*" << k.b << " sf " << k.sf;

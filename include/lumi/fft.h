@@ -17,7 +17,8 @@
  *     (for odd W the last pair is (W-2, W-1)).
  * The complex members use plain interleaved Lum32fc images.
  *
- * Specifications: InitAlloc creates one (lumStatusMemAllocErr when memory runs out), Free
+ * Specifications: InitAlloc creates one (lumStatusMemAllocErr when memory runs out or the work
+ * buffer would pass INT_MAX bytes), Free
  * releases it, GetBufSize reports the work-buffer bytes a transform needs. A specification is
  * read-only while in use, so one may serve several threads, each with its own work buffer.
  * Every use checks the record's kind (lumStatusContextMismatchErr for a record of another kind).
