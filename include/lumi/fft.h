@@ -18,9 +18,9 @@
  * The complex members use plain interleaved Lum32fc images.
  *
  * Specifications: InitAlloc creates one (lumStatusMemAllocErr when memory runs out or the work
- * buffer would pass INT_MAX bytes), Free
- * releases it, GetBufSize reports the work-buffer bytes a transform needs. A specification is
- * read-only while in use, so one may serve several threads, each with its own work buffer.
+ * buffer would pass INT_MAX bytes), Free releases it, GetBufSize reports the work-buffer bytes
+ * a transform needs. A specification is read-only while in use, so one may serve several
+ * threads, each with its own work buffer.
  * Every use checks the record's kind (lumStatusContextMismatchErr for a record of another kind).
  * Transforms take a work buffer of GetBufSize bytes at any address, or allocate one themselves
  * when pBuffer is null. Multi-channel members transform each channel on its own; AC4 leaves
