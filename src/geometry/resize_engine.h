@@ -27,11 +27,12 @@ using LinH8Fn = void (*)(const Lum8u*, const int32_t*, const int16_t*, int, int,
 using LinV8Fn = void (*)(const int16_t*, const int16_t*, int, int, Lum8u*, bool);
 using LinHfFn = void (*)(const float*, const int32_t*, const float*, int, int, int, const Windows*,
                          float*);
-using LinVfFn = void (*)(const float*, const float*, float, float, int, float*, bool);
+// stream: non-temporal stores allowed (large destinations)
+using LinVfFn = void (*)(const float*, const float*, float, float, int, float*, bool, bool);
 template <class T>
 using CubHFn = void (*)(const T*, const int32_t*, const float*, int, int, int, const Windows*, float*);
 template <class T>
-using CubVFn = void (*)(const float* const*, const float*, int, T*, bool);
+using CubVFn = void (*)(const float* const*, const float*, int, T*, bool, bool);
 // The horizontal choosers also give the elements their vector kernel reads from a tap on (span,
 // 0 when it reads no further than the taps) for safePrefix, and the window size their kernel
 // takes (0: none; see buildWindows).
@@ -121,7 +122,7 @@ struct RowRing {
 template <class T, class L>
 void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const Taps& ty,
              int mode, const Axis& ax, const Axis& ay, int y0, int y1, Lum8u* scratch,
-             std::size_t slotBytes) {
+             std::size_t slotBytes, bool stream) {
   constexpr int kCh = L::kCh;
   constexpr bool kAlpha = L::kUse != L::kCh;
   const int n = static_cast<int>(elemsOf(ax.count, kCh));
@@ -190,7 +191,7 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
           auto fill = [&](int r, float* h) { hf(srow(r), tx.off, tx.wf, n, kCh, n, &win, h); };
           const float* h0 = ring.get(b, fill);
           const float* h1 = ring.get(b + 1, fill);
-          vf(h0, h1, ty.wf[2 * j], ty.wf[2 * j + 1], n, rowAt(dst, dstep, j), kAlpha);
+          vf(h0, h1, ty.wf[2 * j], ty.wf[2 * j + 1], n, rowAt(dst, dstep, j), kAlpha, stream);
         }
       }
       break;
@@ -205,7 +206,7 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
         auto fill = [&](int r, float* h) { hf(srow(r), tx.off, tx.wf, n, kCh, safe, &win, h); };
         const float* rows[4];
         for (int k = 0; k < 4; ++k) rows[k] = ring.get(b + k, fill);
-        vf(rows, ty.wf + 3 * j, n, rowAt(dst, dstep, j), kAlpha);
+        vf(rows, ty.wf + 3 * j, n, rowAt(dst, dstep, j), kAlpha, stream);
       }
       break;
     }
@@ -292,6 +293,11 @@ LumStatus run(const T* const* src, int sstep, T* const* dst, int dstep, const Ax
     case kSuper: taps = static_cast<long long>(mx) * my; break;
     default: break;
   }
+  // destinations much larger than the caches are written around them
+  int cache = 0;
+  lumGetMaxCacheSizeB(&cache);
+  const bool stream = std::is_same_v<T, float> && L::kUse == L::kCh && cache > 0 &&
+                      static_cast<double>(ax.count) * ay.count * kCh * sizeof(T) * P > cache / 2.0;
   const bool parallel = forkByWork(LumiSize{ax.count, ay.count}, taps * kCh * P, kForkWork);
   LumStatus st = lumStatusOk;
   for (int p = 0; p < P && st == lumStatusOk; ++p) {
@@ -299,7 +305,7 @@ LumStatus run(const T* const* src, int sstep, T* const* dst, int dstep, const Ax
     T* d = dst[p];
     st = forRowsWithScratch(ay.count, parallel, std::max<std::size_t>(slot * slots, 64),
                             [&](int y0, int y1, Lum8u* scratch) {
-                              runRows<T, L>(s, sstep, d, dstep, tx, ty, mode, ax, ay, y0, y1, scratch, slot);
+                              runRows<T, L>(s, sstep, d, dstep, tx, ty, mode, ax, ay, y0, y1, scratch, slot, stream);
                             });
   }
   if (tables == nullptr) lumsFree(mem);

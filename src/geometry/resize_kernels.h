@@ -347,7 +347,7 @@ inline void linHfScalar(const float* s, const int32_t* off, const float* wf, int
   }
 }
 inline void linVfScalar(const float* h0, const float* h1, float w0, float w1, int n, float* d,
-                        bool keepAlpha) {
+                        bool keepAlpha, bool /*stream*/ = false) {
   for (int e = 0; e < n; ++e) {
     if (keepAlpha && (e & 3) == 3) continue;
     d[e] = h0[e] * w0 + h1[e] * w1;
@@ -392,7 +392,8 @@ inline void cubHScalar(const T* s, const int32_t* off, const float* k, int n, in
 }
 // Cubic down the columns of four row buffers.
 template <class T>
-inline void cubVScalar(const float* const* rows, const float* k, int n, T* d, bool keepAlpha) {
+inline void cubVScalar(const float* const* rows, const float* k, int n, T* d, bool keepAlpha,
+                       bool /*stream*/ = false) {
   const geometry::CubicCoeffs<float> c{k[0], k[1], k[2]};
   const float *r0 = rows[0], *r1 = rows[1], *r2 = rows[2], *r3 = rows[3];
   for (int e = 0; e < n; ++e) {

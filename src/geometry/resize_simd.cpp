@@ -10,6 +10,7 @@
 #define HWY_TARGET_INCLUDE "src/geometry/resize_simd.cpp"
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
+#include "hwy/cache_control.h"
 #include "core/alpha-inl.h"
 #include "core/simd.h"
 #include "geometry/resize_engine.h"
@@ -106,6 +107,15 @@ void nearestRow(const T* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off, int n,
     }
   }
   if (e < n) resize::nearestRowScalar(s, off + e, n - e, 0, nullptr, dst + e, keepAlpha);
+}
+
+// Elements before the first one aligned for non-temporal vector stores of N floats (the whole
+// row when the row is not even float-aligned).
+HWY_INLINE int streamHead(const float* p, int n, int N) {
+  const uintptr_t a = reinterpret_cast<uintptr_t>(p), bytes = static_cast<uintptr_t>(N) * 4;
+  if (a % 4 != 0) return n;
+  const int head = static_cast<int>(((bytes - a % bytes) % bytes) / 4);
+  return head < n ? head : n;
 }
 
 // Linear 8u along a row: pairs of taps from one (C1, C3) or two (C4) 32-bit gathers.
@@ -213,15 +223,20 @@ void linHf(const float* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off,
 }
 
 void linVf(const float* HWY_RESTRICT h0, const float* HWY_RESTRICT h1, float w0, float w1, int n,
-           float* HWY_RESTRICT dst, bool keepAlpha) {
+           float* HWY_RESTRICT dst, bool keepAlpha, bool stream) {
   const hn::ScalableTag<float> df;
   const int N = static_cast<int>(hn::Lanes(df));
   const auto a = hn::Set(df, w0), b = hn::Set(df, w1);
   const auto colour = colourLanes(df);
+  auto at = [&](int e) { return hn::Add(hn::Mul(hn::LoadU(df, h0 + e), a), hn::Mul(hn::LoadU(df, h1 + e), b)); };
   int e = 0;
-  for (; e + N <= n; e += N)
-    storeColour(df, hn::Add(hn::Mul(hn::LoadU(df, h0 + e), a), hn::Mul(hn::LoadU(df, h1 + e), b)),
-                dst + e, keepAlpha, colour);
+  if (stream && !keepAlpha) {
+    const int head = streamHead(dst, n, N);
+    if (head > 0) resize::linVfScalar(h0, h1, w0, w1, head, dst, false);
+    for (e = head; e + N <= n; e += N) hn::Stream(at(e), df, dst + e);
+    hwy::FlushStream();
+  }
+  for (; e + N <= n; e += N) storeColour(df, at(e), dst + e, keepAlpha, colour);
   if (e < n) resize::linVfScalar(h0 + e, h1 + e, w0, w1, n - e, dst + e, keepAlpha);
 }
 
@@ -429,7 +444,8 @@ void cubH(const T* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off, const float*
 }
 
 template <class T>
-void cubV(const float* const* rows, const float* k, int n, T* HWY_RESTRICT dst, bool keepAlpha) {
+void cubV(const float* const* rows, const float* k, int n, T* HWY_RESTRICT dst, bool keepAlpha,
+          bool stream) {
   const hn::ScalableTag<float> df;
   const hn::RebindToSigned<decltype(df)> di;
   const hn::Rebind<T, decltype(df)> dt;
@@ -437,10 +453,21 @@ void cubV(const float* const* rows, const float* k, int n, T* HWY_RESTRICT dst, 
   const auto a = hn::Set(df, k[0]), b = hn::Set(df, k[1]), c = hn::Set(df, k[2]);
   const float *r0 = rows[0], *r1 = rows[1], *r2 = rows[2], *r3 = rows[3];
   const auto colour = colourLanes(dt);
+  auto at = [&](int e) {
+    return newton(df, hn::LoadU(df, r0 + e), hn::LoadU(df, r1 + e), hn::LoadU(df, r2 + e),
+                  hn::LoadU(df, r3 + e), a, b, c);
+  };
   int e = 0;
+  if constexpr (std::is_same_v<T, float>) {
+    if (stream && !keepAlpha) {
+      const int head = streamHead(dst, n, N);
+      if (head > 0) resize::cubVScalar<T>(rows, k, head, dst, false);
+      for (e = head; e + N <= n; e += N) hn::Stream(at(e), df, dst + e);
+      hwy::FlushStream();
+    }
+  }
   for (; e + N <= n; e += N) {
-    const auto v = newton(df, hn::LoadU(df, r0 + e), hn::LoadU(df, r1 + e), hn::LoadU(df, r2 + e),
-                          hn::LoadU(df, r3 + e), a, b, c);
+    const auto v = at(e);
     if constexpr (std::is_same_v<T, float>) {
       storeColour(df, v, dst + e, keepAlpha, colour);
     } else {
