@@ -186,6 +186,60 @@ void passStrided(D d, const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc*
   }
 }
 
+// A pass whose stride is half a wide vector: each vector holds the points of two groups p and
+// p+1 (the twiddles of each in its half), stored back half by half. An odd last group runs on
+// half vectors.
+template <int R, bool kInv>
+void passPaired(const FftPass& ps, const Lum32fc* HWY_RESTRICT x, Lum32fc* HWY_RESTRICT y,
+                std::ptrdiff_t s) {
+  const DW d;
+  const hn::Half<DW> dh;
+  using VD = hn::Vec<DW>;
+  using VH = hn::Vec<hn::Half<DW>>;
+  const Signs<DW> sg(d);
+  const Signs<hn::Half<DW>> sgh(dh);
+  const std::ptrdiff_t m = ps.m, sm = s * m;
+  VD a[R], b[R];
+  std::ptrdiff_t p = 0;
+  for (; p + 1 < m; p += 2) {
+    const float* t0 = ps.tw + 4 * p * (R - 1);
+    const float* t1 = t0 + 4 * (R - 1);
+    const Lum32fc* xp = x + s * p;
+    LUMI_FFT_UNROLL
+    for (int j = 0; j < R; ++j) a[j] = load(d, xp + sm * j);
+    butterflyV<R, kInv>(d, sg, a, b);
+    Lum32fc* y0 = y + s * R * p;
+    Lum32fc* y1 = y0 + s * R;
+    store(dh, hn::LowerHalf(dh, b[0]), y0);
+    store(dh, hn::UpperHalf(dh, b[0]), y1);
+    LUMI_FFT_UNROLL
+    for (int k = 1; k < R; ++k) {
+      const float* u0 = t0 + 4 * (k - 1);
+      const float* u1 = t1 + 4 * (k - 1);
+      const VD wr = hn::Combine(d, broadcastPair(dh, u1), broadcastPair(dh, u0));
+      const VD wi = hn::Combine(d, broadcastPair(dh, u1 + 2), broadcastPair(dh, u0 + 2));
+      const VD v = mulTw<kInv>(d, b[k], wr, wi);
+      store(dh, hn::LowerHalf(dh, v), y0 + s * k);
+      store(dh, hn::UpperHalf(dh, v), y1 + s * k);
+    }
+  }
+  if (p < m) {  // the last group alone
+    VH ah[R], bh[R];
+    const float* t0 = ps.tw + 4 * p * (R - 1);
+    LUMI_FFT_UNROLL
+    for (int j = 0; j < R; ++j) ah[j] = load(dh, x + s * p + sm * j);
+    butterflyV<R, kInv>(dh, sgh, ah, bh);
+    Lum32fc* y0 = y + s * R * p;
+    store(dh, bh[0], y0);
+    LUMI_FFT_UNROLL
+    for (int k = 1; k < R; ++k) {
+      const float* u0 = t0 + 4 * (k - 1);
+      store(dh, mulTw<kInv>(dh, bh[k], broadcastPair(dh, u0), broadcastPair(dh, u0 + 2)),
+            y0 + s * k);
+    }
+  }
+}
+
 // The first pass of a single vector (stride 1): vectors run along p with per-lane twiddles,
 // and the R results of each point are interleaved on the way out.
 template <int R, bool kInv, class D>
@@ -231,6 +285,10 @@ void passOf(const FftPass& ps, const Lum32fc* x, Lum32fc* y, int count) {
   const std::ptrdiff_t s = static_cast<std::ptrdiff_t>(ps.s) * count;
   if (s == 1 && ps.twr) {
     passFirst<R, kInv>(DF(), ps, x, y);
+    return;
+  }
+  if (2 * s == static_cast<std::ptrdiff_t>(hn::Lanes(DW()) / 2) && s >= 2) {
+    passPaired<R, kInv>(ps, x, y, s);
     return;
   }
   std::ptrdiff_t q = 0;
