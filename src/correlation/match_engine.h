@@ -17,8 +17,9 @@
 // is small: by Cauchy-Schwarz |sum src x tpl| <= |tpl| x sqrt(E) and |sum (tpl - tplMean) x
 // (src - winMean)| <= sqrt(sum (tpl - tplMean)^2 x sum (src - winMean)^2), so the numerator is
 // clamped to those bounds (a zero or flat window gives exactly 0); and the mean-removed measure
-// correlates the tile minus one common level, which keeps a large level out of the transforms
-// ((level - window mean) x the sum of the stored template, 0 up to rounding, is added back).
+// works on the tile minus one common level, which keeps a large level out of the transforms
+// and the spread sums (its numerator gets back the window mean about that level times the sum
+// of the stored template, 0 up to rounding).
 #pragma once
 
 #include <atomic>
@@ -166,32 +167,68 @@ struct TileBuffers {
 };
 
 // ---- one tile ------------------------------------------------------------------------------
-// Converts the source area under placements [x0, x0 + tw) x [y0, y0 + th) of channel c into the
-// top-left (tw + w - 1) x (th + h - 1) of the tile, zero outside the source; the rest of the
-// tile is cleared too (it only feeds placements that are not kept, but must hold numbers).
+// The mean-removed measure correlates the covered area minus one level, which keeps a large
+// common level out of the single-precision transforms and the spread sums: the mean of up to
+// 8 x 8 source samples spread over the covered area (rounded to an integer for integer sources,
+// so that the shifted values stay exact).
+template <class S, class L>
+float sampleLevel(const S* src, int srcStep, const Plan& p, int c, int x0, int y0, int tw,
+                  int th) {
+  const int sx0 = x0 - p.ox, sy0 = y0 - p.oy;
+  const int xa = sx0 < 0 ? 0 : sx0, ya = sy0 < 0 ? 0 : sy0;
+  const int xb = sx0 + tw + p.tpl.width - 1 < p.src.width ? sx0 + tw + p.tpl.width - 1 : p.src.width;
+  const int yb = sy0 + th + p.tpl.height - 1 < p.src.height ? sy0 + th + p.tpl.height - 1
+                                                             : p.src.height;
+  double sum = 0;
+  int n = 0;
+  for (int i = 0; i < 8; ++i) {
+    const S* r = rowAt(src, srcStep, ya + static_cast<int>((yb - ya) * (2LL * i + 1) / 16));
+    for (int j = 0; j < 8; ++j, ++n)
+      sum += static_cast<double>(r[elemsOf(xa + static_cast<int>((xb - xa) * (2LL * j + 1) / 16),
+                                           L::kCh) + c]);
+  }
+  const double m = sum / n;
+  return std::is_floating_point_v<S> ? static_cast<float>(m)
+                                     : static_cast<float>(std::floor(m + 0.5));
+}
+
+// Converts the source area under placements [x0, x0 + tw) x [y0, y0 + th) of channel c, minus
+// `level`, into the top-left (tw + w - 1) x (th + h - 1) of the tile, the source being zero
+// outside its ROI (-level there); the rest of the tile is cleared (it only feeds placements
+// that are not kept, but must hold numbers).
 template <class S, class L>
 void loadTile(const S* src, int srcStep, const Plan& p, int c, int x0, int y0, int tw, int th,
-              float* tile) {
+              float level, LoadRowFn<S> loadRow, float* tile) {
   const int cw = tw + p.tpl.width - 1, chh = th + p.tpl.height - 1;
   const int sx0 = x0 - p.ox, sy0 = y0 - p.oy;
   // the columns of the covered area that lie inside the source
   const int jLo = sx0 < 0 ? -sx0 : 0;
   const int jHi = (sx0 + cw > p.src.width ? p.src.width - sx0 : cw);
+  const float outside = -level;
   for (int i = 0; i < p.fftH; ++i) {
     float* o = tile + static_cast<std::size_t>(i) * p.fftW;
     const int sy = sy0 + i;
-    if (i >= chh || sy < 0 || sy >= p.src.height || jLo >= jHi) {
+    if (i >= chh) {
       std::memset(o, 0, p.fftW * sizeof(float));
       continue;
     }
-    const S* r = rowAt(src, srcStep, sy) + elemsOf(sx0 + jLo, L::kCh) + c;
-    for (int j = 0; j < jLo; ++j) o[j] = 0.0f;
-    if constexpr (L::kCh == 1 && std::is_same_v<S, Lum32f>) {
-      std::memcpy(o + jLo, r, (jHi - jLo) * sizeof(float));
-    } else {
-      for (int j = jLo; j < jHi; ++j, r += L::kCh) o[j] = static_cast<float>(*r);
+    if (sy < 0 || sy >= p.src.height || jLo >= jHi) {
+      for (int j = 0; j < cw; ++j) o[j] = outside;
+      for (int j = cw; j < p.fftW; ++j) o[j] = 0.0f;
+      continue;
     }
-    for (int j = jHi; j < p.fftW; ++j) o[j] = 0.0f;
+    const S* r = rowAt(src, srcStep, sy) + elemsOf(sx0 + jLo, L::kCh) + c;
+    for (int j = 0; j < jLo; ++j) o[j] = outside;
+    if constexpr (L::kCh == 1) {
+      if (std::is_same_v<S, Lum32f> && level == 0.0f)
+        std::memcpy(o + jLo, r, (jHi - jLo) * sizeof(float));
+      else
+        loadRow(r, jHi - jLo, level, o + jLo);
+    } else {
+      for (int j = jLo; j < jHi; ++j, r += L::kCh) o[j] = static_cast<float>(*r) - level;
+    }
+    for (int j = jHi; j < cw; ++j) o[j] = outside;
+    for (int j = cw; j < p.fftW; ++j) o[j] = 0.0f;
   }
 }
 
@@ -241,28 +278,6 @@ void rowSums(const float* tile, const Plan& p, int tw, int rows, const TileBuffe
       eu += ai * ai - ao * ao;
     }
   }
-}
-
-// The mean-removed measure correlates the covered area minus one level, the mean of its
-// windows' means (rounded to an integer for integer sources, so that the values stay exact):
-// a large common level would otherwise dominate the single-precision transforms.
-template <class S>
-float subtractLevel(float* tile, const Plan& p, int tw, int th, const float* mean) {
-  const std::size_t n = static_cast<std::size_t>(tw) * th;
-  double sum[4] = {0, 0, 0, 0};
-  std::size_t i = 0;
-  for (; i + 4 <= n; i += 4)
-    for (int k = 0; k < 4; ++k) sum[k] += mean[i + k];
-  for (; i < n; ++i) sum[0] += mean[i];
-  const double m = (sum[0] + sum[1] + sum[2] + sum[3]) / static_cast<double>(n);
-  const float level =
-      std::is_floating_point_v<S> ? static_cast<float>(m) : static_cast<float>(std::floor(m + 0.5));
-  const int cw = tw + p.tpl.width - 1, chh = th + p.tpl.height - 1;
-  for (int i = 0; i < chh; ++i) {
-    float* r = tile + static_cast<std::size_t>(i) * p.fftW;
-    for (int j = 0; j < cw; ++j) r[j] -= level;
-  }
-  return level;
 }
 
 // The chosen kernels of one call.
@@ -340,6 +355,7 @@ LumStatus run(const S* src, int srcStep, LumiSize srcRoi, const S* tpl, int tplS
   kern.finish = M == Measure::kNorm    ? pickFinishNorm()
                 : M == Measure::kLevel ? pickFinishLevel()
                                        : pickFinishSqr();
+  const LoadRowFn<S> loadRow = pickLoadRow<S>();
   const double invN = 1.0 / (static_cast<double>(tplRoi.width) * tplRoi.height);
   std::atomic<int> failure{lumStatusOk};
   const bool parallel = M != Measure::kNorm && forkTiles(p, kUse);
@@ -353,14 +369,14 @@ LumStatus run(const S* src, int srcStep, LumiSize srcRoi, const S* tpl, int tplS
           const int th = p.dst.height - y0 < p.tileH ? p.dst.height - y0 : p.tileH;
           const int rows = th + tplRoi.height - 1;
           for (int c = 0; c < kUse; ++c) {
-            loadTile<S, L>(src, srcStep, p, c, x0, y0, tw, th, b.tile);
-            Norms kc = k[c];
             if constexpr (M == Measure::kLevel) {
+              const float level = sampleLevel<S, L>(src, srcStep, p, c, x0, y0, tw, th);
+              loadTile<S, L>(src, srcStep, p, c, x0, y0, tw, th, level, loadRow, b.tile);
               rowSums<true>(b.tile, p, tw, rows, b);
               kern.slideLevel(b.rowS, b.rowE, tw, th, tplRoi.height, invN, kFlat, b.accS, b.accE,
                               b.a, b.b);
-              kc.level = subtractLevel<S>(b.tile, p, tw, th, b.b);
             } else {
+              loadTile<S, L>(src, srcStep, p, c, x0, y0, tw, th, 0.0f, loadRow, b.tile);
               rowSums<false>(b.tile, p, tw, rows, b);
               kern.slideEnergy(b.rowE, tw, th, tplRoi.height, b.accE, b.a);
             }
@@ -370,7 +386,7 @@ LumStatus run(const S* src, int srcStep, LumiSize srcRoi, const S* tpl, int tplS
               failure.compare_exchange_strong(expected, fs);
               return;
             }
-            finishTile<D, L>(num, p, kc, kern, b, tw, th, dst, dstStep, x0, y0, c, store);
+            finishTile<D, L>(num, p, k[c], kern, b, tw, th, dst, dstStep, x0, y0, c, store);
           }
         }
       });

@@ -1,5 +1,6 @@
-// Vector kernels of template matching: the vertical slide of the window sums (double lanes,
-// written out as float) and the normalisation of a row of placements (float lanes). Each does
+// Vector kernels of template matching: one-channel rows loaded into a tile, the vertical slide
+// of the window sums (double lanes, written out as float), the normalisation of a row of
+// placements (float lanes) and the direct correlation of small templates. Each does
 // the operations of its scalar twin in match_kernels.h in the same order, so the results agree
 // bit for bit; the twins finish the columns past the last whole vector.
 #undef HWY_TARGET_INCLUDE
@@ -96,13 +97,13 @@ void finishRow(const float* num, const float* a, const float* b, int n, const No
   const int N = static_cast<int>(hn::Lanes(d));
   const auto bound = hn::Set(d, k.bound), floored = hn::Set(d, k.floored);
   const auto se = hn::Set(d, k.sqrtEps), energy = hn::Set(d, k.energy), two = hn::Set(d, 2.0f);
-  const auto resid = hn::Set(d, k.resid), level = hn::Set(d, k.level);
+  const auto resid = hn::Set(d, k.resid);
   int x = 0;
   for (; x + N <= n; x += N) {
     const auto av = hn::LoadU(d, a + x);
     const auto r = hn::Sqrt(av);
     auto v = hn::LoadU(d, num + x);
-    if constexpr (kMode == 2) v = hn::Add(v, hn::Mul(hn::Sub(level, hn::LoadU(d, b + x)), resid));
+    if constexpr (kMode == 2) v = hn::Sub(v, hn::Mul(hn::LoadU(d, b + x), resid));
     v = clampVec(d, v, hn::Mul(bound, r));
     const auto den = hn::Mul(floored, hn::IfThenElse(hn::Gt(r, se), r, se));
     if constexpr (kMode == 1) {
@@ -158,6 +159,26 @@ void correlate(const float* tile, const float* tpl, std::size_t stride, int w, i
   correlateFrom(xEnd, tile, tpl, stride, w, h, tw, th, out);
 }
 
+template <class S>
+void loadRow(const S* HWY_RESTRICT in, int n, float level, float* HWY_RESTRICT out) {
+  const hn::ScalableTag<float> df;
+  const int N = static_cast<int>(hn::Lanes(df));
+  const auto lv = hn::Set(df, level);
+  int j = 0;
+  if constexpr (std::is_same_v<S, float>) {
+    for (; j + N <= n; j += N) hn::StoreU(hn::Sub(hn::LoadU(df, in + j), lv), df, out + j);
+  } else {
+    const hn::Rebind<int32_t, decltype(df)> di;
+    const hn::Rebind<int16_t, decltype(df)> dw;
+    const hn::Rebind<S, decltype(df)> ds;
+    for (; j + N <= n; j += N) {
+      const auto wide = hn::PromoteTo(di, hn::PromoteTo(dw, hn::LoadU(ds, in + j)));
+      hn::StoreU(hn::Sub(hn::ConvertTo(df, wide), lv), df, out + j);
+    }
+  }
+  loadRowFrom(j, in, n, level, out);
+}
+
 #endif  // LUMI_TABLE_TARGET
 LUMI_SIMD_END
 
@@ -190,6 +211,15 @@ CorrelateFn pickCorrelate() {
   LUMI_SIMD_TABLE(CorrelateFn, table, correlate);
   return pick(table, &correlateScalar);
 }
+
+template <class S>
+LoadRowFn<S> pickLoadRow() {
+  LUMI_SIMD_TABLE(LoadRowFn<S>, table, loadRow<S>);
+  return pick(table, &loadRowScalar<S>);
+}
+template LoadRowFn<Lum32f> pickLoadRow<Lum32f>();
+template LoadRowFn<Lum8u> pickLoadRow<Lum8u>();
+template LoadRowFn<Lum8s> pickLoadRow<Lum8s>();
 
 }  // namespace match
 }  // namespace lumi

@@ -81,13 +81,13 @@ struct Norms {
   float sqrtEps;  // sqrt(eps): sqrt(max(E, eps)) = max(sqrt(E), sqrt(eps)) as sqrt is monotonic
   float energy;   // |tpl|^2
   float resid;    // sum of the stored mean-removed template (0 up to rounding)
-  float level;    // the level the image tile was shifted by
 };
 
 // Per placement, with the numerator clamped to its Cauchy-Schwarz bound:
 //   Norm:  num / (floored x max(sqrt(E), sqrt(eps)))
 //   Sqr:   max(E - 2 num + energy, 0) / (the same)
-//   Level: (num + (level - mean) x resid) / (floored x max(sqrt(var), sqrt(eps)))
+//   Level: (num - mean x resid) / (floored x max(sqrt(var), sqrt(eps))), num and the window
+//          mean taken about the level the tile was shifted by
 using FinishRowFn = void (*)(const float* num, const float* a, const float* b, int n,
                              const Norms& k, float* out);
 
@@ -115,7 +115,7 @@ inline void finishLevelFrom(int x0, const float* num, const float* var, const fl
                             const Norms& k, float* out) {
   for (int x = x0; x < n; ++x) {
     const float r = std::sqrt(var[x]);
-    const float v = clampTo(num[x] + (k.level - mean[x]) * k.resid, k.bound * r);
+    const float v = clampTo(num[x] - mean[x] * k.resid, k.bound * r);
     out[x] = v / (k.floored * (r > k.sqrtEps ? r : k.sqrtEps));
   }
 }
@@ -155,6 +155,20 @@ inline void correlateScalar(const float* tile, const float* tpl, std::size_t str
   correlateFrom(0, tile, tpl, stride, w, h, tw, th, out);
 }
 
+// ---- loading one-channel rows ------------------------------------------------------------------
+// out[j] = float(in[j]) - level for j < n (32f, 8u and 8s sources).
+template <class S>
+using LoadRowFn = void (*)(const S* in, int n, float level, float* out);
+
+template <class S>
+inline void loadRowFrom(int j0, const S* in, int n, float level, float* out) {
+  for (int j = j0; j < n; ++j) out[j] = static_cast<float>(in[j]) - level;
+}
+template <class S>
+inline void loadRowScalar(const S* in, int n, float level, float* out) {
+  loadRowFrom(0, in, n, level, out);
+}
+
 // Choosers (match_kernels.cpp): the vector kernel the processor allows, else the twin.
 SlideEnergyFn pickSlideEnergy();
 SlideLevelFn pickSlideLevel();
@@ -162,6 +176,8 @@ FinishRowFn pickFinishNorm();
 FinishRowFn pickFinishSqr();
 FinishRowFn pickFinishLevel();
 CorrelateFn pickCorrelate();
+template <class S>
+LoadRowFn<S> pickLoadRow();
 
 }  // namespace match
 }  // namespace lumi
