@@ -7,8 +7,9 @@
 // relative to the input's energy (max |error| / sqrt(sum |x|^2); it reaches about a thirtieth
 // of that), and within 1e-5 of the scalar passes relative to the largest value.
 //
-// Passes of large stride use the widest vectors of the target, the others at most eight
-// floats (four complex points).
+// A pass runs on the widest vectors its stride fills (two groups to a vector when the stride
+// is half a wide vector), then narrower ones; the first pass of a single vector runs along
+// the groups instead and interleaves its results on the way out.
 #if defined(LUMI_SIGNAL_FFT_INL_H_) == defined(HWY_TARGET_TOGGLE)
 #ifdef LUMI_SIGNAL_FFT_INL_H_
 #undef LUMI_SIGNAL_FFT_INL_H_
@@ -34,8 +35,6 @@ namespace fftv {
 using DF = hn::CappedTag<float, 8>;
 using DW = hn::ScalableTag<float>;
 using DH = hn::CappedTag<float, 4>;  // two points: strides 2 and 3
-using DD = hn::Repartition<double, DF>;  // one complex point per lane
-using V = hn::Vec<DF>;
 using signal::FftPass;
 using signal::passPoints;
 
