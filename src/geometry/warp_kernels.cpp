@@ -50,8 +50,8 @@ HWY_INLINE hn::Vec<D> clampPos(D d, hn::Vec<D> v, int n) {
 
 // linearTap: tap index (at most n - 2) as double and the clamped position.
 template <class D>
-HWY_INLINE hn::Vec<D> linearIndex(D d, hn::Vec<D>* v, int n) {
-  *v = clampPos(d, *v, n);
+HWY_INLINE hn::Vec<D> linearIndex(D d, hn::Vec<D>* v, int n, bool inside) {
+  if (!inside) *v = clampPos(d, *v, n);
   return hn::Min(hn::Floor(*v), hn::Set(d, static_cast<double>(n - 2)));
 }
 
@@ -105,12 +105,23 @@ void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
     const auto* base = reinterpret_cast<const int32_t*>(a.src);
     const VI step = hn::Set(di, a.step);
     const VI chBytes = hn::Set(di, kCh * static_cast<int>(sizeof(T)));
+    // Runs whose ends lie inside the image (positions along a run are monotonic) skip the
+    // clamping, which would leave every position as it is.
+    bool inside = false;
+    if constexpr (kPos != warp::kPosArrays) {
+      double xa, ya, xb, yb;
+      warp::positionAt<kPos>(a, 0, &xa, &ya);
+      warp::positionAt<kPos>(a, n - 1, &xb, &yb);
+      const double m = 1e-6;
+      inside = std::fmin(xa, xb) >= m && std::fmax(xa, xb) <= a.w - 1 - m &&
+               std::fmin(ya, yb) >= m && std::fmax(ya, yb) <= a.h - 1 - m;
+    }
     for (; k + N <= n; k += N) {
       VD x, y;
       positions<kPos>(d64, av, k, &x, &y);
       T* out = d + static_cast<std::ptrdiff_t>(k) * kCh;
       if constexpr (kMode == warp::kLinear) {
-        const VD xi = linearIndex(d64, &x, a.w), yi = linearIndex(d64, &y, a.h);
+        const VD xi = linearIndex(d64, &x, a.w, inside), yi = linearIndex(d64, &y, a.h, inside);
         const VI ix = hn::DemoteTo(di, xi), iy = hn::DemoteTo(di, yi);
         const VI off = hn::Add(hn::Mul(iy, step), hn::Mul(ix, chBytes));
         if constexpr (sizeof(T) == 1) {
@@ -179,9 +190,9 @@ void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
       } else if constexpr (kMode == warp::kNearest) {
         const VD half = hn::Set(d64, 0.5);
         const VI ix =
-            hn::Min(hn::DemoteTo(di, hn::Add(clampPos(d64, x, a.w), half)), hn::Set(di, a.w - 1));
+            hn::Min(hn::DemoteTo(di, hn::Add(inside ? x : clampPos(d64, x, a.w), half)), hn::Set(di, a.w - 1));
         const VI iy =
-            hn::Min(hn::DemoteTo(di, hn::Add(clampPos(d64, y, a.h), half)), hn::Set(di, a.h - 1));
+            hn::Min(hn::DemoteTo(di, hn::Add(inside ? y : clampPos(d64, y, a.h), half)), hn::Set(di, a.h - 1));
         const VI off = hn::Add(hn::Mul(iy, step), hn::Mul(ix, chBytes));
         if constexpr (sizeof(T) == 4 || kCh == 4) {  // one whole element or pixel per lane
           const VI g = gather(di, base, off);
@@ -204,7 +215,7 @@ void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
         }
       } else {  // cubic 8u C1
         auto tap = [&](VD v, int len, VI* b, hn::Vec<decltype(df)>* t) {
-          v = clampPos(d64, v, len);
+          if (!inside) v = clampPos(d64, v, len);
           const VD bf = hn::Floor(v);
           VI bi = hn::DemoteTo(di, bf);
           auto f = hn::DemoteTo(df, hn::Sub(v, bf));
