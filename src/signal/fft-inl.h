@@ -34,7 +34,7 @@ namespace fftv {
 // (eight points on AVX-512); a pass takes the widest its stride fills, then narrower ones.
 using DF = hn::CappedTag<float, 8>;
 using DW = hn::ScalableTag<float>;
-using DH = hn::CappedTag<float, 4>;  // two points: strides 2 and 3
+using DH = hn::CappedTag<float, 4>;  // two points: what wider vectors leave of a stride
 using signal::FftPass;
 using signal::passPoints;
 
