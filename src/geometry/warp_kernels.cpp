@@ -87,6 +87,50 @@ HWY_INLINE hn::Vec<D> gather(D d, const void* base, VO off) {
   return hn::Load(d, v);
 }
 
+// 8u C1 taps of a group whose positions advance monotonically (linear runs), so that its first
+// and last lanes bound its columns and rows: when the columns lie within 16 of each other and
+// the rows within 4, the rows are loaded once as 16-byte blocks and every lane picks its bytes
+// (kPair: the pixel and its right neighbour, in bytes 0 and 1). top takes row iy, bottom row
+// iy + 1. False when the group is too spread or a block would leave the image; the caller then
+// loads pixel by pixel.
+template <bool kPair, class DI>
+HWY_INLINE bool blockTaps(DI di, const uint8_t* src, int step, int w, int h, hn::Vec<DI> ix,
+                          hn::Vec<DI> iy, hn::Vec<DI>* top, hn::Vec<DI>* bottom) {
+  const hn::Repartition<uint8_t, DI> d8;
+  if constexpr (hn::MaxLanes(d8) < 16) {
+    return false;
+  } else {
+    const size_t last = hn::Lanes(di) - 1;
+    int x0 = hn::GetLane(ix), x1 = hn::ExtractLane(ix, last);
+    int y0 = hn::GetLane(iy), y1 = hn::ExtractLane(iy, last);
+    if (x0 > x1) std::swap(x0, x1);
+    if (y0 > y1) std::swap(y0, y1);
+    const int rows = y1 - y0 + (kPair ? 2 : 1);
+    if (x1 - x0 > (kPair ? 14 : 15) || rows > 4 || x0 + 16 > w || y0 + rows > h) return false;
+    const uint8_t* p = src + static_cast<std::ptrdiff_t>(y0) * step + x0;
+    const hn::Vec<DI> b = hn::Sub(ix, hn::Set(di, x0));
+    const hn::Vec<DI> idx =
+        kPair ? hn::Or(hn::Or(b, hn::ShiftLeft<8>(hn::Add(b, hn::Set(di, 1)))),
+                       hn::Set(di, static_cast<int32_t>(0x80800000u)))
+              : hn::Or(b, hn::Set(di, static_cast<int32_t>(0x80808000u)));
+    const auto i8 = hn::BitCast(d8, idx);
+    hn::Vec<DI> g[4];
+    for (int r = 0; r < rows; ++r, p += step)
+      g[r] = hn::BitCast(di, hn::TableLookupBytesOr0(hn::LoadDup128(d8, p), i8));
+    const hn::Vec<DI> dy = hn::Sub(iy, hn::Set(di, y0));
+    hn::Vec<DI> t = g[0];
+    for (int r = 1; r < rows - (kPair ? 1 : 0); ++r)
+      t = hn::IfThenElse(hn::Eq(dy, hn::Set(di, r)), g[r], t);
+    *top = t;
+    if constexpr (kPair) {
+      hn::Vec<DI> u = g[1];
+      for (int r = 2; r < rows; ++r) u = hn::IfThenElse(hn::Eq(dy, hn::Set(di, r - 1)), g[r], u);
+      *bottom = u;
+    }
+    return true;
+  }
+}
+
 template <class T, int kCh, int kUse, int kMode, int kPos>
 void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
   const SpanArgs<T> a = args;  // a local copy: the stores below cannot alias it
@@ -103,6 +147,7 @@ void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
   if (a.w >= 4 && a.h >= 2 && last < (1LL << 31) - 64) {
     const SpanArgs<void> av{a.src, a.step, a.w, a.h, a.x0, a.y0, a.dx, a.dy, a.w0, a.dw, a.X, a.Y};
     const auto* base = reinterpret_cast<const int32_t*>(a.src);
+    const auto* b8 = reinterpret_cast<const uint8_t*>(a.src);
     const VI step = hn::Set(di, a.step);
     const VI chBytes = hn::Set(di, kCh * static_cast<int>(sizeof(T)));
     // Runs whose ends lie inside the image (positions along a run are monotonic) skip the
@@ -130,11 +175,17 @@ void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
           const VI wy = hn::DemoteTo(di, hn::Add(hn::Mul(hn::Sub(y, yi), one), half));
           const VI wx0 = hn::Sub(hn::Set(di, 16384), wx), wy0 = hn::Sub(hn::Set(di, 16384), wy);
           if constexpr (kCh == 1) {
-            // p00 p01 from the four bytes at the pixel; p10 p11 from the four ending after p11
-            const VI g0 = gather(di, base, off);
-            const VI g1 = gather(di, base, hn::Sub(hn::Add(off, step), hn::Set(di, 2)));
-            const VI r = lerp8(di, byteOf(di, g0, 0), byteOf(di, g0, 1), byteOf(di, g1, 2),
-                               byteOf(di, g1, 3), wx, wx0, wy, wy0);
+            VI t, u, r;
+            if (kPos == warp::kPosLinear && blockTaps<true>(di, b8, a.step, a.w, a.h, ix, iy, &t, &u)) {
+              r = lerp8(di, byteOf(di, t, 0), byteOf(di, t, 1), byteOf(di, u, 0), byteOf(di, u, 1),
+                        wx, wx0, wy, wy0);
+            } else {
+              // p00 p01 from the four bytes at the pixel; p10 p11 from the four ending after p11
+              const VI g0 = gather(di, base, off);
+              const VI g1 = gather(di, base, hn::Sub(hn::Add(off, step), hn::Set(di, 2)));
+              r = lerp8(di, byteOf(di, g0, 0), byteOf(di, g0, 1), byteOf(di, g1, 2),
+                        byteOf(di, g1, 3), wx, wx0, wy, wy0);
+            }
             hn::StoreU(hn::DemoteTo(du8, r), du8, out);
           } else {
             // the right-hand pixels: C4 exactly, C3 from one byte before (shifted out)
@@ -210,7 +261,6 @@ void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
         } else {  // 8u C1: byte loads (cheaper than a gather here)
           HWY_ALIGN int32_t o[hn::MaxLanes(di)];
           hn::Store(off, di, o);
-          const auto* b8 = reinterpret_cast<const uint8_t*>(a.src);
           for (int j = 0; j < N; ++j) out[j] = b8[o[j]];
         }
       } else {  // cubic 8u C1
