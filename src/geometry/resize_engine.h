@@ -279,8 +279,13 @@ LumStatus run(const T* const* src, int sstep, T* const* dst, int dstep, const Ax
     if (mem == nullptr) return lumStatusMemAllocErr;
   }
   Taps tx, ty;
-  buildTaps(ax, mode, kCh, mem, &tx);
-  buildTaps(ay, mode, 1, mem + bx, &ty);
+  if (mode == kSuper && halves(ax) && halves(ay)) {  // 2x2 means: only the first rows
+    ty.off = reinterpret_cast<int32_t*>(mem + bx);
+    for (int j = 0; j < ay.count; ++j) ty.off[j] = static_cast<int>(ay.start) + 2 * j;
+  } else {
+    buildTaps(ax, mode, kCh, mem, &tx);
+    buildTaps(ay, mode, 1, mem + bx, &ty);
+  }
   // row buffers: 4-byte elements, padded for vector overrun
   const std::size_t slot =
       ((static_cast<std::size_t>(elemsOf(ax.count, kCh)) + 96) * sizeof(float) + 63) & ~std::size_t{63};
@@ -294,8 +299,10 @@ LumStatus run(const T* const* src, int sstep, T* const* dst, int dstep, const Ax
     default: break;
   }
   // destinations much larger than the caches are written around them
-  int cache = 0;
-  lumGetMaxCacheSizeB(&cache);
+  static const int cache = [] {  // asked once: the core library reads it from the system
+    int c = 0;
+    return lumGetMaxCacheSizeB(&c) == 0 ? c : 0;
+  }();
   const bool stream = std::is_same_v<T, float> && L::kUse == L::kCh && cache > 0 &&
                       static_cast<double>(ax.count) * ay.count * kCh * sizeof(T) * P > cache / 2.0;
   const bool parallel = forkByWork(LumiSize{ax.count, ay.count}, taps * kCh * P, kForkWork);
