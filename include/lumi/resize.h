@@ -137,7 +137,8 @@ LUMI_API LumStatus lumiGetResizeFract(LumiSize srcSize, LumiRect srcRoi, double 
    [y, y + height) (edge coordinates). All five modes, super for factors at most 1. The ROI
    is cut to the image and the mode lowered for small ROIs like lumiResize does for small
    images. pBuffer holds at least lumiResizeSqrPixelGetBufSize bytes for dstRoi's size, the
-   channel count (1, 3 or 4; planar: 1) and the mode. Validation: pointers (pBuffer too),
+   channel count (1, 3 or 4; planar: 1) and the mode: the coordinate tables go there (those of
+   super-sampling, sized by the factors, and the row buffers are taken per call). Validation: pointers (pBuffer too),
    sizes (srcSize, srcRoi, dstRoi: negative origin or size below 1), ROI origin outside the
    image (warning), factors, mode; no destination pixel mapping into the ROI returns
    lumStatusNoIntersectionWarn (src/geometry/resize_sqr.cpp). */
@@ -163,9 +164,10 @@ LUMI_API LumStatus lumiResizeSqrPixel_32f_P4R(const Lum32f* const pSrc[4], LumiS
 
 /* ResizeYUV422: two-channel 4:2:2 pixels Y0 U Y1 V: luma is resized at full and chroma (U and
    V as half-width images) at half horizontal resolution, with lumiResize's counts, mapping
-   and rules; nearest, linear and cubic. The destination count is rounded down to an even
-   number of pixels (at least 2). An odd source ROI width or a destination narrower than
-   2 pixels is lumStatusSizeErr (src/geometry/resize_sqr.cpp). */
+   and rules, except that taps stay inside the source ROI (cut to the image) and small ROIs
+   lower the mode; nearest, linear and cubic. The destination count is rounded down to an even
+   number of pixels (at least 2). An odd source ROI width or x, or a destination narrower than
+   2 pixels, is lumStatusSizeErr (src/geometry/resize_sqr.cpp). */
 LUMI_API LumStatus lumiResizeYUV422_8u_C2R(const Lum8u* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, Lum8u* pDst, int dstStep, LumiSize dstRoiSize, double xFactor, double yFactor, int interpolation);
 
 #ifdef __cplusplus
