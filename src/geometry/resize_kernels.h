@@ -249,17 +249,18 @@ constexpr int32_t kNoWindow = INT32_MIN;
 struct Windows {
   int32_t* base = nullptr;
   uint16_t* idx = nullptr;
+  uint8_t* same = nullptr;  // places 0, 1, 2, ...: the window as it stands
 };
-inline std::size_t windowBytes(int n, int taps) {
-  const std::size_t blocks = static_cast<std::size_t>(n / kBlock) + 1;
-  return blocks * 4 + blocks * kBlock * taps * 2 + 128;
-}
+// Bytes: about n / 16 x (5 + 32 taps) + 128, which the row-buffer slots reserved for them hold.
 inline void buildWindows(const int32_t* off, int n, int taps, int pitch, int size,
                          std::ptrdiff_t limit, Lum8u* mem, Windows* w, bool interleaved = false) {
   const int blocks = n / kBlock;
   w->base = reinterpret_cast<int32_t*>(mem);
-  w->idx = reinterpret_cast<uint16_t*>(mem + ((static_cast<std::size_t>(blocks) * 4 + 63) & ~std::size_t{63}));
+  const std::size_t baseBytes = (static_cast<std::size_t>(blocks) * 4 + 63) & ~std::size_t{63};
+  w->same = mem + baseBytes;
+  w->idx = reinterpret_cast<uint16_t*>(mem + baseBytes + ((static_cast<std::size_t>(blocks) + 63) & ~std::size_t{63}));
   for (int b = 0; b < blocks; ++b) {
+    w->same[b] = 0;
     const int32_t* o = off + b * kBlock;
     int32_t lo = o[0], hi = o[0];
     for (int k = 1; k < kBlock; ++k) lo = std::min(lo, o[k]), hi = std::max(hi, o[k]);
@@ -273,6 +274,9 @@ inline void buildWindows(const int32_t* off, int n, int taps, int pitch, int siz
     for (int k = 0; k < kBlock; ++k)
       for (int t = 0; t < taps; ++t)
         ix[interleaved ? k * taps + t : t * kBlock + k] = static_cast<uint16_t>(o[k] + t * pitch - lo);
+    bool same = true;
+    for (int j = 0; j < kBlock * taps; ++j) same = same && ix[j] == j;
+    w->same[b] = same ? 1 : 0;
   }
 }
 

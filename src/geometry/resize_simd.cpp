@@ -29,8 +29,10 @@ HWY_INLINE void window8(const Lum8u* p, const uint16_t* ix, __m512i* a, __m512i*
 }
 // The horizontal sums of linear 8u for a block of 16 elements: both taps of each element out of
 // the 64-byte window (interleaved places), times the weight pairs, >> 8: 16 exact 32-bit sums.
-HWY_INLINE __m512i linSums8(const Lum8u* p, const uint16_t* ix, const int16_t* wq) {
+HWY_INLINE __m512i linSums8(const Lum8u* p, const uint16_t* ix, const int16_t* wq, bool same) {
   const __m512i lo = _mm512_cvtepu8_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)));
+  if (same)  // neighbouring pairs of consecutive bytes: the window is the pairs
+    return _mm512_srai_epi32(_mm512_madd_epi16(lo, _mm512_loadu_si512(wq)), 8);
   const __m512i hi = _mm512_cvtepu8_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p + 32)));
   const __m512i pairs = _mm512_permutex2var_epi16(lo, _mm512_loadu_si512(ix), hi);
   return _mm512_srai_epi32(_mm512_madd_epi16(pairs, _mm512_loadu_si512(wq)), 8);
@@ -154,7 +156,7 @@ void linH8(const Lum8u* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off,
     for (int b = 0; (b + 1) * resize::kBlock <= n; ++b, e += resize::kBlock) {
       const int32_t lo = win->base[b];
       if (lo != resize::kNoWindow) {
-        const __m512i hv = linSums8(s + lo, win->idx + b * 2 * resize::kBlock, wq + 2 * e);
+        const __m512i hv = linSums8(s + lo, win->idx + b * 2 * resize::kBlock, wq + 2 * e, win->same[b]);
         _mm256_storeu_si256(reinterpret_cast<__m256i*>(h + e), _mm512_cvtepi32_epi16(hv));
       } else if (e + N <= safe) {
         gathered(e);
@@ -286,10 +288,11 @@ void linF8(const Lum8u* HWY_RESTRICT s0, const Lum8u* HWY_RESTRICT s1,
       if (la != resize::kNoWindow && lb != resize::kNoWindow) {
         const uint16_t* ia = win->idx + b * 2 * resize::kBlock;
         const uint16_t* ib = ia + 2 * resize::kBlock;
-        const __m512i h0 = _mm512_packs_epi32(linSums8(first + la, ia, wq + 2 * e),
-                                              linSums8(first + lb, ib, wq + 2 * e + 32));
-        const __m512i h1 = _mm512_packs_epi32(linSums8(s1 + la, ia, wq + 2 * e),
-                                              linSums8(s1 + lb, ib, wq + 2 * e + 32));
+        const bool sa = win->same[b], sb = win->same[b + 1];
+        const __m512i h0 = _mm512_packs_epi32(linSums8(first + la, ia, wq + 2 * e, sa),
+                                              linSums8(first + lb, ib, wq + 2 * e + 32, sb));
+        const __m512i h1 = _mm512_packs_epi32(linSums8(s1 + la, ia, wq + 2 * e, sa),
+                                              linSums8(s1 + lb, ib, wq + 2 * e + 32, sb));
         const __m256i v = linColumn8(h0, h1, wy2);
         if (keepAlpha) _mm256_mask_storeu_epi8(dst + e, 0x77777777u, v);
         else _mm256_storeu_si256(reinterpret_cast<__m256i*>(dst + e), v);
