@@ -6,6 +6,8 @@
 // one rounding); magnitudes 1e-6 relative, phases 1e-5 absolute; the integer FFT members within
 // one unit of the rounded reference (the transform runs in single precision); everything
 // integer that is formed exactly (MulPack 16s/32s, the complex/packed conversions) bit-exact.
+#include <omp.h>
+
 #include <complex>
 #include <functional>
 
@@ -301,6 +303,29 @@ void complexForwardAndBack(const Fam<Spec>& f) {
 
 TEST(Fft2d, ComplexMatchesReference) { complexForwardAndBack(fftFam()); }
 TEST(Dft2d, ComplexMatchesReference) { complexForwardAndBack(dftFam()); }
+
+// One record serves several threads at once, each with its own work buffer.
+TEST(Dft2d, OneRecordServesSeveralThreads) {
+  const LumiSize s{24, 18};
+  LumiDFTSpec* spec = nullptr;
+  ASSERT_EQ(lumiDFTInitAlloc_R_32f(&spec, s, lumFftDivFwdByN, 0), lumStatusOk);
+  int n = 0;
+  ASSERT_EQ(lumiDFTGetBufSize_R_32f(spec, &n), lumStatusOk);
+  std::vector<std::vector<float>> img(8, std::vector<float>(24 * 18)), seq = img, par = img;
+  Rng rng = makeRng(21);
+  for (auto& v : img)
+    for (auto& x : v) x = randomValue<float>(rng);
+  std::vector<Lum8u> buf(static_cast<size_t>(n) * 2);
+  for (int i = 0; i < 8; ++i)
+    ASSERT_EQ(lumiDFTFwd_RToPack_32f_C1R(img[i].data(), 96, seq[i].data(), 96, spec, buf.data()), lumStatusOk);
+  int bad = 0;
+#pragma omp parallel for num_threads(2) reduction(+ : bad)
+  for (int i = 0; i < 8; ++i)
+    bad += lumiDFTFwd_RToPack_32f_C1R(img[i].data(), 96, par[i].data(), 96, spec, buf.data() + omp_get_thread_num() * n) != 0;
+  EXPECT_EQ(bad, 0);
+  for (int i = 0; i < 8; ++i) EXPECT_TRUE(sameElements(par[i], seq[i]));
+  EXPECT_EQ(lumiDFTFree_R_32f(spec), lumStatusOk);
+}
 
 #ifdef LUMI_HAVE_OPENCV
 // OpenCV's packed (CCS) forward of a real image is our layout for every parity.
