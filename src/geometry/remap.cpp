@@ -524,7 +524,7 @@ LumStatus remapImpl(const T* const* src, LumiSize srcSize, int srcStep, LumiRect
     return st;
   const RowFn<T> f = pickRow<T, L>(mode);
   const long long taps = mode == lumInterpNearest ? 1 : (mode == lumInterpLinear ? 4 : 16);
-  forRows(dstSize.height, forkByWork(dstSize, taps * kPlanes, 1 << 16), [&](int y0, int y1) {
+  forRows(dstSize.height, forkByWork(dstSize, taps * kPlanes, 1 << 18), [&](int y0, int y1) {
     for (int p = 0; p < kPlanes; ++p)
       for (int y = y0; y < y1; ++y)
         f(src[p], srcStep, b, rowAt(mx, xMapStep, y), rowAt(my, yMapStep, y), rowAt(dst[p], dstStep, y), dstSize.width);
