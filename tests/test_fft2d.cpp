@@ -522,6 +522,12 @@ TEST(Pack, MagnitudeAndPhaseOfTheFullSpectrum) {
   EXPECT_EQ(out[0], INT32_MAX);
   ASSERT_EQ(lumiPhasePack_32s_C1RSfs(big, 8, out, 8, {1, 1}, -28), lumStatusOk);
   EXPECT_EQ(out[0], 843314857);  // pi x 2^28, rounded
+  // ties to even: |3|, |-5|, |7| / 2
+  for (auto [v, want] : {std::pair<int, int>{3, 2}, {-5, 2}, {7, 4}}) {
+    Lum16s in = Lum16s(v), o = 0;
+    ASSERT_EQ(lumiMagnitudePack_16s_C1RSfs(&in, 2, &o, 2, {1, 1}, 1), lumStatusOk);
+    EXPECT_EQ(o, want) << v;
+  }
 }
 
 TEST(Pack, ComplexExtensionAndBack) {

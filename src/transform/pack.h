@@ -26,10 +26,10 @@ inline T roundSat(F x) {
   if (!(x == x)) return T(0);
   if (x <= static_cast<F>(Lim::min())) return Lim::min();
   if (x >= static_cast<F>(Lim::max())) return Lim::max();
-  F r = std::floor(x);
-  F d = x - r;
-  if (d > F(0.5) || (d == F(0.5) && std::fmod(r, F(2)) != F(0))) r += F(1);
-  return static_cast<T>(r);
+  const F r = std::floor(x);  // within T's range here, so exact as an int64_t
+  const F d = x - r;
+  const int64_t i = static_cast<int64_t>(r);
+  return static_cast<T>(d > F(0.5) || (d == F(0.5) && (i & 1)) ? i + 1 : i);
 }
 
 // v x 2^-sf for a value computed in double (magnitudes, phases, transform results).
