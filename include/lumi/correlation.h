@@ -10,8 +10,10 @@
  *
  * Checks, in this order: pSrc, pTpl, pDst null (lumStatusNullPtrErr); a source or template
  * size below 1 or a template larger than the source (lumStatusSizeErr); a step below 1
- * (lumStatusStepErr). The correlation runs through the 2-D real FFT; its failures and failed
- * allocations (lumStatusMemAllocErr) are returned as they are. */
+ * (lumStatusStepErr). The correlation runs through the 2-D real FFT (templates of at most 25
+ * pixels are correlated directly); its failures and failed allocations (lumStatusMemAllocErr)
+ * are returned as they are. The NormLevel and SqrDistance members share their tiles among
+ * threads_omp_of_n_lum threads. */
 #ifndef LUMI_CORRELATION_H
 #define LUMI_CORRELATION_H
 #include "lumi/types.h"
