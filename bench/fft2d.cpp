@@ -1,6 +1,6 @@
 // 2-D FFT/DFT against cv::dft: real forward to the packed (CCS) spectrum and complex forward,
 // at 512x512, 1024x1024 (FFT family) and 600x400, 1000x1000 (DFT family), out of place, with
-// a work buffer allocated once. The "fftw-anchor-2d" family times FFTW's 2-D r2c and c2c
+// a work buffer allocated once. The "fft2d-fftw" family times FFTW's 2-D r2c and c2c
 // (FFTW_MEASURE) in the OpenCV column instead.
 #include <opencv2/core.hpp>
 
@@ -93,7 +93,7 @@ void sizeRows(int w, int h, bool cplx) {
   a->plan = cplx ? fftwf_plan_dft_2d(h, w, reinterpret_cast<fftwf_complex*>(a->in), a->out, FFTW_FORWARD, FFTW_MEASURE)
                  : fftwf_plan_dft_r2c_2d(h, w, a->in, a->out, FFTW_MEASURE);
   std::memcpy(a->in, src->ptr<float>(), sizeof(float) * w * h * (cplx ? 2 : 1));
-  bench::row("fftw-anchor-2d", name, 0, [=] { fftwf_execute(a->plan); }, ours);
+  bench::row("fft2d-fftw", name, 0, [=] { fftwf_execute(a->plan); }, ours);
 #endif
 }
 
