@@ -106,6 +106,14 @@ TEST(Mirror, MatchesOpenCvFlip) {
     ASSERT_EQ(lumiMirror_8u_C3IR(in3.ptr(), int(in3.step), LumiSize{in3.cols, in3.rows}, flip), lumStatusOk);
     EXPECT_EQ(cv::norm(in3, want3, cv::NORM_INF), 0) << flip;
   }
+  // 16 MB: rows shared among threads, in place and out of place.
+  cv::Mat big(4097, 4099, CV_8UC1), wantBig, gotBig(big.size(), CV_8UC1);
+  cv::randu(big, 0, 256);
+  cv::flip(big, wantBig, -1);
+  ASSERT_EQ(lumiMirror_8u_C1R(big.ptr(), int(big.step), gotBig.ptr(), int(gotBig.step), LumiSize{big.cols, big.rows}, 2), lumStatusOk);
+  EXPECT_EQ(cv::norm(gotBig, wantBig, cv::NORM_INF), 0);
+  ASSERT_EQ(lumiMirror_8u_C1IR(big.ptr(), int(big.step), LumiSize{big.cols, big.rows}, 2), lumStatusOk);
+  EXPECT_EQ(cv::norm(big, wantBig, cv::NORM_INF), 0);
 }
 #endif
 

@@ -211,10 +211,11 @@ TwoRowFn<T> pickSwapRows() {
   return pick(table, &swapRowsScalar<T, L>);
 }
 
-// Memory-bound: a second thread pays off from about a quarter of a megabyte.
+// A copy at memory speed: a second thread adds little bandwidth and costs a wake-up that a
+// busy machine can stretch to a scheduler tick, so only images of 16 MB and more are shared.
 template <class T, class L>
 bool forkMirror(LumiSize roi) {
-  return forkByWork(roi, static_cast<long long>(sizeof(T)) * L::kCh, 1 << 18);
+  return forkByWork(roi, static_cast<long long>(sizeof(T)) * L::kCh, 1 << 24);
 }
 
 LumStatus check(const void* src, const void* dst, LumiSize roi, int flip) {
