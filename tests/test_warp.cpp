@@ -6,6 +6,8 @@
 #include <functional>
 #include <vector>
 
+#include <xmmintrin.h>
+
 #include "geometry/cubic.h"
 #include "lumi/warp.h"
 #include "lumitest.h"
@@ -500,6 +502,23 @@ TEST(WarpSmooth, BorderPixelsBlendHalf) {
   for (int y = 0; y < 6; ++y)
     for (int x = 0; x < 8; ++x)
       EXPECT_EQ(d[y * 8 + x], (x == 0 || y == 0 || x == 7 || y == 5) ? 150 : 200) << x << "," << y;
+}
+
+// The caller's rounding mode (here toward zero) neither changes the results nor is lost.
+TEST(WarpRounding, RoundsToNearestWhateverTheCallersMode) {
+  std::vector<Lum32f> s(30 * 20), a(30 * 20, 0), b(30 * 20, 0);
+  for (std::size_t i = 0; i < s.size(); ++i) s[i] = static_cast<float>(i % 7) * 0.3f + i / 9.0f;
+  const LumiSize ss{30, 20};
+  const LumiRect r{0, 0, 30, 20};
+  ASSERT_EQ(lumiRotateCenter_32f_C1R(s.data(), ss, 120, r, a.data(), 120, r, 21, 14, 9, lumInterpCubic), lumStatusOk);
+  const unsigned saved = _MM_GET_ROUNDING_MODE();
+  _MM_SET_ROUNDING_MODE(_MM_ROUND_TOWARD_ZERO);
+  const LumStatus st = lumiRotateCenter_32f_C1R(s.data(), ss, 120, r, b.data(), 120, r, 21, 14, 9, lumInterpCubic);
+  const unsigned mode = _MM_GET_ROUNDING_MODE();
+  _MM_SET_ROUNDING_MODE(saved);
+  EXPECT_EQ(st, lumStatusOk);
+  EXPECT_EQ(mode, static_cast<unsigned>(_MM_ROUND_TOWARD_ZERO));
+  EXPECT_TRUE(lumitest::sameElements(b, a));
 }
 
 #ifdef LUMI_HAVE_OPENCV

@@ -466,6 +466,7 @@ LumStatus walk(const Planes<T>& im, const Frame& f, const LumiRect& roi, int mod
   const SpanFn<T> fn = pickSpan<T, L>(mode, Map::kPos);
   return forRowsWithScratch(
       rows, parallel, posBytes + oldBytes, [&](int b0, int b1, Lum8u* scratch) {
+        NearestRounding rounding;  // per thread
         double* X = reinterpret_cast<double*>(scratch);
         double* Y = X + width;
         T* old = reinterpret_cast<T*>(scratch + posBytes);
@@ -517,6 +518,7 @@ LumStatus walk(const Planes<T>& im, const Frame& f, const LumiRect& roi, int mod
 template <class T, class L, class Map, class QuadOf>
 LumStatus warpTail(const Planes<T>& im, const Frame& f, const Map& map, QuadOf&& quadOf,
                    const Pt* dstQuad = nullptr) {
+  NearestRounding rounding;  // positions and float kernels round to nearest in any caller's mode
   LumiRect roi;
   int mode;
   LumStatus st = cutSource(f, &roi, &mode);
