@@ -1,7 +1,7 @@
 // Remapping through two float coordinate maps with nearest, linear or cubic interpolation.
 //
-// Vector kernels: nearest and linear for 8u and 32f one-channel images, linear for 8u three-
-// and four-channel images, cubic for 8u one-channel images; every other nearest and linear
+// Vector kernels: nearest and linear for 8u and 32f one-channel images, linear and cubic for
+// 8u images of every layout; every other nearest and linear
 // remap turns the map points into offsets and weights a vector at a time and blends pixel by
 // pixel. They load a vector of map points,
 // test them against the box, convert and round them lane-wise exactly as the scalar twins do,
@@ -279,6 +279,40 @@ void remapRowAny(const T* src, int step, const remap::Box& b, const float* mx, c
   }
 }
 
+// Stores a vector of interpolated 8u colour pixels held as words (channel c in byte c) at
+// pixel x of dst: four-channel pixels as words (AC4: with the destination's alpha), three-
+// channel ones packed four to a block when every lane is inside and two more pixels follow
+// (the store's last four bytes write back what the destination holds there), else pixel by
+// pixel. Lanes outside the box keep the destination's pixels.
+template <class L, class DF, class DI>
+HWY_INLINE void storeWords(DF df, DI di, hn::Mask<DF> in, hn::Vec<DI> res, const remap::Box& b,
+                           const float* mx, const float* my, uint8_t* dst, int x, int width) {
+  const int N = static_cast<int>(hn::Lanes(df));
+  if constexpr (L::kCh == 4) {
+    int32_t* out = reinterpret_cast<int32_t*>(dst + elemsOf(x, 4));
+    const auto old = hn::LoadU(di, out);
+    if constexpr (L::kUse == 3) res = hn::Or(res, hn::And(old, hn::Set(di, static_cast<int32_t>(0xFF000000u))));
+    hn::StoreU(hn::IfThenElse(hn::RebindMask(di, in), res, old), di, out);
+  } else {
+    HWY_ALIGN int32_t words[hn::MaxLanes(di)];
+    hn::Store(res, di, words);
+    if (hn::AllTrue(df, in) && x + N + 2 <= width) {
+      const hn::Full128<uint8_t> d16;
+      alignas(16) static constexpr uint8_t kPack[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 0x80, 0x80, 0x80, 0x80};
+      const auto pack = hn::Load(d16, kPack);
+      const auto keep = hn::FirstN(d16, 12);
+      for (int j = 0; j < N / 4; ++j) {
+        uint8_t* o = dst + elemsOf(x + 4 * j, 3);
+        const auto w = hn::Load(d16, reinterpret_cast<const uint8_t*>(words + 4 * j));
+        hn::StoreU(hn::IfThenElse(keep, hn::TableLookupBytesOr0(w, pack), hn::LoadU(d16, o)), d16, o);
+      }
+    } else {
+      for (int i = 0; i < N; ++i)
+        if (remap::inside(b, mx[x + i], my[x + i])) std::memcpy(dst + elemsOf(x + i, 3), &words[i], 3);
+    }
+  }
+}
+
 // 8u three- and four-channel pixels: one 32-bit word per pixel and neighbour (three-channel
 // words carry a byte of the next pixel), each channel taken out, interpolated in 32-bit lanes
 // and put back. Four-channel results are stored as words (AC4: with the destination's alpha),
@@ -296,7 +330,6 @@ void linearRow8uPix(const uint8_t* src, int step, const remap::Box& b, const flo
   const auto limit = hn::Set(di, static_cast<int32_t>(lim < -1 ? -1 : lim));
   const auto k1 = hn::Set(di, remap::kOne), k33 = hn::Set(di, 33), kFF = hn::Set(di, 0xFF);
   const auto scale = hn::Set(df, static_cast<float>(remap::kOne));
-  HWY_ALIGN int32_t words[hn::MaxLanes(di)];
   int x = 0;
   if (b.gather32) {
     for (; x + N <= width; x += N) {
@@ -326,65 +359,49 @@ void linearRow8uPix(const uint8_t* src, int step, const remap::Box& b, const flo
         const auto v = hn::ShiftRight<20>(hn::Add(hn::Add(hn::Mul(h0, wy0), hn::Mul(h1, wy)), k33));
         res = hn::Or(res, hn::ShiftLeftSame(v, 8 * c));
       }
-      if constexpr (kCh == 4) {
-        int32_t* out = reinterpret_cast<int32_t*>(dst + elemsOf(x, 4));
-        const auto old = hn::LoadU(di, out);
-        if constexpr (L::kUse == 3) res = hn::Or(res, hn::And(old, hn::Set(di, static_cast<int32_t>(0xFF000000u))));
-        hn::StoreU(hn::IfThenElse(hn::RebindMask(di, in), res, old), di, out);
-      } else {
-        hn::Store(res, di, words);
-        if (hn::AllTrue(df, in) && x + N + 2 <= width) {
-          // Four words to four packed pixels per block; the store's last four bytes write back
-          // what the destination holds there (the next block's, or pixels past this vector).
-          const hn::Full128<uint8_t> d16;
-          alignas(16) static constexpr uint8_t kPack[16] = {0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14, 0x80, 0x80, 0x80, 0x80};
-          const auto pack = hn::Load(d16, kPack);
-          const auto keep = hn::FirstN(d16, 12);
-          for (int j = 0; j < N / 4; ++j) {
-            uint8_t* o = dst + elemsOf(x + 4 * j, 3);
-            const auto w = hn::Load(d16, reinterpret_cast<const uint8_t*>(words + 4 * j));
-            hn::StoreU(hn::IfThenElse(keep, hn::TableLookupBytesOr0(w, pack), hn::LoadU(d16, o)), d16, o);
-          }
-        } else {
-          for (int i = 0; i < N; ++i)
-            if (remap::inside(b, mx[x + i], my[x + i])) std::memcpy(dst + elemsOf(x + i, 3), &words[i], 3);
-        }
-      }
+      storeWords<L>(df, di, in, res, b, mx, my, dst, x, width);
     }
   }
   remap::linearRowScalar<uint8_t, L>(src, step, b, mx + x, my + x, dst + elemsOf(x, kCh), width - x);
 }
 
-// 8u one channel, cubic: vectors whose points all lie at least one pixel inside the box (the
-// 4 x 4 neighbourhood then needs no clamping) read one 32-bit word per neighbourhood row; the
-// 4-point cubic is evaluated in float with the very operations of the scalar twin (no fused
-// multiply-adds), so the results agree bit for bit. Other vectors go to the twin.
+// 8u cubic: vectors whose points all lie at least one pixel inside the box (the 4 x 4
+// neighbourhood then needs no clamping) read 32-bit words: one per neighbourhood row for one
+// channel (its four pixels), one per neighbour for three and four (its channels; three-channel
+// words may reach a byte past the neighbourhood, so vectors whose last word would pass the
+// image's end go to the twin). The 4-point cubic is evaluated in float with the very
+// operations of the scalar twin (no fused multiply-adds), so the results agree bit for bit.
+// Other vectors go to the twin.
+template <class L>
 void cubicRow8u(const uint8_t* src, int step, const remap::Box& b, const float* mx,
                 const float* my, uint8_t* dst, int width) {
+  constexpr int kCh = L::kCh;
   const hn::ScalableTag<float> df;
   const hn::RebindToSigned<decltype(df)> di;
   const hn::Rebind<uint8_t, decltype(di)> d8;
+  using VF = hn::Vec<decltype(df)>;
   const int N = static_cast<int>(hn::Lanes(df));
-  const auto vstep = hn::Set(di, step), kFF = hn::Set(di, 0xFF), one = hn::Set(di, 1);
+  const auto vstep = hn::Set(di, step), kFF = hn::Set(di, 0xFF), one = hn::Set(di, 1), vch = hn::Set(di, kCh);
   const auto f1 = hn::Set(df, 1.0f), f2 = hn::Set(df, 2.0f), f3 = hn::Set(df, 3.0f), f6 = hn::Set(df, 6.0f);
   const auto half = hn::Set(df, 0.5f), top = hn::Set(df, 255.0f);
+  const std::ptrdiff_t lim = b.limit - 3 * static_cast<std::ptrdiff_t>(step) - 3 * kCh - 4;
+  const auto limit = hn::Set(di, static_cast<int32_t>(lim < -1 ? -1 : lim));
   // Points outside the box are moved to (x0 + 1, y0 + 1), an inner point (the box is at least
   // 4 x 4 in cubic mode).
   const auto inner0x = hn::Set(df, b.fx0 + 1), inner0y = hn::Set(df, b.fy0 + 1);
-  auto newton = [&](hn::Vec<decltype(df)> p0, hn::Vec<decltype(df)> p1, hn::Vec<decltype(df)> p2,
-                    hn::Vec<decltype(df)> p3, hn::Vec<decltype(df)> ka, hn::Vec<decltype(df)> kb,
-                    hn::Vec<decltype(df)> kc) {
+  auto newton = [&](VF p0, VF p1, VF p2, VF p3, VF ka, VF kb, VF kc) {
     const auto d1 = hn::Sub(p1, p0);
     const auto d2 = hn::Add(hn::Sub(p2, hn::Mul(f2, p1)), p0);
     const auto d3 = hn::Sub(hn::Add(hn::Sub(p3, hn::Mul(f3, p2)), hn::Mul(f3, p1)), p0);
     return hn::Add(hn::Add(hn::Add(p0, hn::Mul(ka, d1)), hn::Mul(kb, d2)), hn::Mul(kc, d3));
   };
-  auto coeffs = [&](hn::Vec<decltype(df)> t, hn::Vec<decltype(df)>& ka, hn::Vec<decltype(df)>& kb,
-                    hn::Vec<decltype(df)>& kc) {
+  auto coeffs = [&](VF t, VF& ka, VF& kb, VF& kc) {
     ka = hn::Add(t, f1);
     kb = hn::Div(hn::Mul(t, ka), f2);
     kc = hn::Div(hn::Mul(hn::Mul(hn::Sub(t, f1), t), ka), f6);
   };
+  auto byteOf = [&](hn::Vec<decltype(di)> g, int k) { return hn::ConvertTo(df, hn::And(hn::ShiftRightSame(g, 8 * k), kFF)); };
+  const auto* base = reinterpret_cast<const int32_t*>(src);
   int x = 0;
   for (; x + N <= width; x += N) {
     auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
@@ -395,29 +412,41 @@ void cubicRow8u(const uint8_t* src, int step, const remap::Box& b, const float* 
     const auto ix = hn::ConvertTo(di, vx), iy = hn::ConvertTo(di, vy);
     const auto inner = hn::And(hn::And(hn::Gt(ix, hn::Set(di, b.x0)), hn::Lt(ix, hn::Set(di, b.x1 - 1))),
                                hn::And(hn::Gt(iy, hn::Set(di, b.y0)), hn::Lt(iy, hn::Set(di, b.y1 - 1))));
-    if (!hn::AllTrue(di, inner) || !b.gather32) {
-      remap::cubicRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, N);
+    auto off = hn::Add(hn::Mul(hn::Sub(iy, one), vstep), hn::Mul(hn::Sub(ix, one), vch));
+    if (!b.gather32 || !hn::AllTrue(di, inner) || (kCh == 3 && !hn::AllFalse(di, hn::Gt(off, limit)))) {
+      remap::cubicRowScalar<uint8_t, L>(src, step, b, mx + x, my + x, dst + elemsOf(x, kCh), N);
       continue;
     }
-    hn::Vec<decltype(df)> xa, xb, xc, ya, yb, yc;
+    VF xa, xb, xc, ya, yb, yc;
     coeffs(hn::Sub(vx, hn::ConvertTo(df, ix)), xa, xb, xc);
     coeffs(hn::Sub(vy, hn::ConvertTo(df, iy)), ya, yb, yc);
-    auto off = hn::Add(hn::Mul(hn::Sub(iy, one), vstep), hn::Sub(ix, one));
-    const auto* base = reinterpret_cast<const int32_t*>(src);
-    hn::Vec<decltype(df)> h[4];
-    for (int r = 0; r < 4; ++r) {
-      const auto g = hn::GatherOffset(di, base, off);
-      auto byte = [&](int k) { return hn::ConvertTo(df, hn::And(hn::ShiftRightSame(g, 8 * k), kFF)); };
-      h[r] = newton(byte(0), byte(1), byte(2), byte(3), xa, xb, xc);
-      off = hn::Add(off, vstep);
+    VF h[L::kUse][4];
+    for (int r = 0; r < 4; ++r, off = hn::Add(off, vstep)) {
+      if constexpr (kCh == 1) {
+        const auto g = hn::GatherOffset(di, base, off);
+        h[0][r] = newton(byteOf(g, 0), byteOf(g, 1), byteOf(g, 2), byteOf(g, 3), xa, xb, xc);
+      } else {
+        hn::Vec<decltype(di)> g[4];
+        for (int k = 0; k < 4; ++k) g[k] = hn::GatherOffset(di, base, hn::Add(off, hn::Set(di, k * kCh)));
+        for (int c = 0; c < L::kUse; ++c)
+          h[c][r] = newton(byteOf(g[0], c), byteOf(g[1], c), byteOf(g[2], c), byteOf(g[3], c), xa, xb, xc);
+      }
     }
-    const auto v = newton(h[0], h[1], h[2], h[3], ya, yb, yc);
     // floor(v + 0.5) saturated: clamping first gives the same for every finite v.
-    const auto r = hn::ConvertTo(di, hn::Add(hn::Min(hn::Max(v, hn::Zero(df)), top), half));
-    const auto old = hn::PromoteTo(di, hn::LoadU(d8, dst + x));
-    hn::StoreU(hn::DemoteTo(d8, hn::IfThenElse(hn::RebindMask(di, in), r, old)), d8, dst + x);
+    auto rounded = [&](int c) {
+      const auto v = newton(h[c][0], h[c][1], h[c][2], h[c][3], ya, yb, yc);
+      return hn::ConvertTo(di, hn::Add(hn::Min(hn::Max(v, hn::Zero(df)), top), half));
+    };
+    if constexpr (kCh == 1) {
+      const auto old = hn::PromoteTo(di, hn::LoadU(d8, dst + x));
+      hn::StoreU(hn::DemoteTo(d8, hn::IfThenElse(hn::RebindMask(di, in), rounded(0), old)), d8, dst + x);
+    } else {
+      auto res = hn::Zero(di);
+      for (int c = 0; c < L::kUse; ++c) res = hn::Or(res, hn::ShiftLeftSame(rounded(c), 8 * c));
+      storeWords<L>(df, di, in, res, b, mx, my, dst, x, width);
+    }
   }
-  remap::cubicRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
+  remap::cubicRowScalar<uint8_t, L>(src, step, b, mx + x, my + x, dst + elemsOf(x, kCh), width - x);
 }
 
 }  // namespace
@@ -461,9 +490,9 @@ RowFn<T> pickRow(int mode) {
       return pick(table, &linearRowScalar<T, L>);
     }
   }
-  if constexpr (std::is_same_v<T, Lum8u> && std::is_same_v<L, C1>) {
+  if constexpr (std::is_same_v<T, Lum8u>) {
     if (mode == lumInterpCubic) {
-      LUMI_SIMD_TABLE(RowFn<T>, table, cubicRow8u);
+      LUMI_SIMD_TABLE(RowFn<T>, table, cubicRow8u<L>);
       return pick(table, &cubicRowScalar<T, L>);
     }
   }
