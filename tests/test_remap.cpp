@@ -186,6 +186,7 @@ TEST(Remap, LargeOneChannelImages) {
   checkType(k32f, 7, LumiSize{301, 203}, LumiRect{1, 1, 300, 202}, LumiSize{263, 23});
   // Colour layouts on rows long enough for their vector kernels too.
   checkType(k8u, 8, LumiSize{157, 95}, LumiRect{2, 3, 150, 90}, LumiSize{131, 19});
+  checkType(k16u, 9, LumiSize{157, 95}, LumiRect{2, 3, 150, 90}, LumiSize{131, 9});
 }
 
 TEST(Remap, ChecksInOrder) {

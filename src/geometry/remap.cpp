@@ -1,7 +1,7 @@
 // Remapping through two float coordinate maps with nearest, linear or cubic interpolation.
 //
 // Vector kernels: nearest and linear for 8u and 32f one-channel images, linear and cubic for
-// 8u images of every layout; every other nearest and linear
+// 8u images of every layout, cubic for 16u and 32f one-channel images; every other nearest and linear
 // remap turns the map points into offsets and weights a vector at a time and blends pixel by
 // pixel. They load a vector of map points,
 // test them against the box, convert and round them lane-wise exactly as the scalar twins do,
@@ -449,6 +449,81 @@ void cubicRow8u(const uint8_t* src, int step, const remap::Box& b, const float* 
   remap::cubicRowScalar<uint8_t, L>(src, step, b, mx + x, my + x, dst + elemsOf(x, kCh), width - x);
 }
 
+// 16u and 32f one channel, cubic: the inner vectors of cubicRow8u, with two 32-bit words per
+// neighbourhood row for 16u (two pixels each) and one float gather per neighbour for 32f (the
+// step a whole number of floats); 16u results are rounded and saturated as in the twin.
+template <class T>
+void cubicRowWide(const T* src, int step, const remap::Box& b, const float* mx, const float* my,
+                  T* dst, int width) {
+  const hn::ScalableTag<float> df;
+  const hn::RebindToSigned<decltype(df)> di;
+  using VF = hn::Vec<decltype(df)>;
+  const int N = static_cast<int>(hn::Lanes(df));
+  const auto one = hn::Set(di, 1);
+  const auto f1 = hn::Set(df, 1.0f), f2 = hn::Set(df, 2.0f), f3 = hn::Set(df, 3.0f), f6 = hn::Set(df, 6.0f);
+  const auto inner0x = hn::Set(df, b.fx0 + 1), inner0y = hn::Set(df, b.fy0 + 1);
+  auto newton = [&](VF p0, VF p1, VF p2, VF p3, VF ka, VF kb, VF kc) {
+    const auto d1 = hn::Sub(p1, p0);
+    const auto d2 = hn::Add(hn::Sub(p2, hn::Mul(f2, p1)), p0);
+    const auto d3 = hn::Sub(hn::Add(hn::Sub(p3, hn::Mul(f3, p2)), hn::Mul(f3, p1)), p0);
+    return hn::Add(hn::Add(hn::Add(p0, hn::Mul(ka, d1)), hn::Mul(kb, d2)), hn::Mul(kc, d3));
+  };
+  auto coeffs = [&](VF t, VF& ka, VF& kb, VF& kc) {
+    ka = hn::Add(t, f1);
+    kb = hn::Div(hn::Mul(t, ka), f2);
+    kc = hn::Div(hn::Mul(hn::Mul(hn::Sub(t, f1), t), ka), f6);
+  };
+  constexpr bool kFloat = std::is_floating_point_v<T>;
+  const bool ok = b.gather32 && (!kFloat || step % 4 == 0);
+  // 32f: element indices; 16u: byte offsets.
+  const auto vrow = hn::Set(di, kFloat ? step / 4 : step), vpix = hn::Set(di, kFloat ? 1 : 2);
+  int x = 0;
+  for (; ok && x + N <= width; x += N) {
+    auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
+    const auto in = clampToBox(df, b, vx, vy);
+    if (hn::AllFalse(df, in)) continue;
+    vx = hn::IfThenElse(in, vx, inner0x);
+    vy = hn::IfThenElse(in, vy, inner0y);
+    const auto ix = hn::ConvertTo(di, vx), iy = hn::ConvertTo(di, vy);
+    const auto inner = hn::And(hn::And(hn::Gt(ix, hn::Set(di, b.x0)), hn::Lt(ix, hn::Set(di, b.x1 - 1))),
+                               hn::And(hn::Gt(iy, hn::Set(di, b.y0)), hn::Lt(iy, hn::Set(di, b.y1 - 1))));
+    if (!hn::AllTrue(di, inner)) {
+      remap::cubicRowScalar<T, C1>(src, step, b, mx + x, my + x, dst + x, N);
+      continue;
+    }
+    VF xa, xb, xc, ya, yb, yc;
+    coeffs(hn::Sub(vx, hn::ConvertTo(df, ix)), xa, xb, xc);
+    coeffs(hn::Sub(vy, hn::ConvertTo(df, iy)), ya, yb, yc);
+    auto at = hn::Add(hn::Mul(hn::Sub(iy, one), vrow), hn::Mul(hn::Sub(ix, one), vpix));
+    VF h[4];
+    for (int r = 0; r < 4; ++r, at = hn::Add(at, vrow)) {
+      VF p[4];
+      if constexpr (kFloat) {
+        for (int k = 0; k < 4; ++k) p[k] = hn::GatherIndex(df, src, hn::Add(at, hn::Set(di, k)));
+      } else {
+        const auto* base = reinterpret_cast<const int32_t*>(src);
+        const auto kLow = hn::Set(di, 0xFFFF);
+        const auto w0 = hn::GatherOffset(di, base, at), w1 = hn::GatherOffset(di, base, hn::Add(at, hn::Set(di, 4)));
+        p[0] = hn::ConvertTo(df, hn::And(w0, kLow));
+        p[1] = hn::ConvertTo(df, hn::And(hn::ShiftRight<16>(w0), kLow));
+        p[2] = hn::ConvertTo(df, hn::And(w1, kLow));
+        p[3] = hn::ConvertTo(df, hn::And(hn::ShiftRight<16>(w1), kLow));
+      }
+      h[r] = newton(p[0], p[1], p[2], p[3], xa, xb, xc);
+    }
+    const auto v = newton(h[0], h[1], h[2], h[3], ya, yb, yc);
+    if constexpr (kFloat) {
+      hn::StoreU(hn::IfThenElse(in, v, hn::LoadU(df, dst + x)), df, dst + x);
+    } else {
+      const hn::Rebind<uint16_t, decltype(di)> d16;
+      const auto r = hn::ConvertTo(di, hn::Add(hn::Min(hn::Max(v, hn::Zero(df)), hn::Set(df, 65535.0f)), hn::Set(df, 0.5f)));
+      const auto old = hn::PromoteTo(di, hn::LoadU(d16, dst + x));
+      hn::StoreU(hn::DemoteTo(d16, hn::IfThenElse(hn::RebindMask(di, in), r, old)), d16, dst + x);
+    }
+  }
+  remap::cubicRowScalar<T, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
+}
+
 }  // namespace
 #endif  // LUMI_TABLE_TARGET
 LUMI_SIMD_END
@@ -493,6 +568,12 @@ RowFn<T> pickRow(int mode) {
   if constexpr (std::is_same_v<T, Lum8u>) {
     if (mode == lumInterpCubic) {
       LUMI_SIMD_TABLE(RowFn<T>, table, cubicRow8u<L>);
+      return pick(table, &cubicRowScalar<T, L>);
+    }
+  }
+  if constexpr (!std::is_same_v<T, Lum8u> && std::is_same_v<L, C1>) {
+    if (mode == lumInterpCubic) {
+      LUMI_SIMD_TABLE(RowFn<T>, table, cubicRowWide<T>);
       return pick(table, &cubicRowScalar<T, L>);
     }
   }
