@@ -55,13 +55,15 @@ std::vector<double> refPack(const Grid& A, int W, int H) {
   std::vector<double> P(A.size());
   auto column = [&](int col, int u) {
     P[col] = A[u].real();
-    for (int i = 1; 2 * i < H; ++i) P[(2 * i - 1) * W + col] = A[i * W + u].real(), P[2 * i * W + col] = A[i * W + u].imag();
+    for (int i = 1; 2 * i < H; ++i)
+      P[(2 * i - 1) * W + col] = A[i * W + u].real(), P[2 * i * W + col] = A[i * W + u].imag();
     if (H % 2 == 0 && H > 1) P[(H - 1) * W + col] = A[H / 2 * W + u].real();
   };
   column(0, 0);
   if (W % 2 == 0) column(W - 1, W / 2);
   for (int r = 0; r < H; ++r)
-    for (int j = 1; 2 * j < W; ++j) P[r * W + 2 * j - 1] = A[r * W + j].real(), P[r * W + 2 * j] = A[r * W + j].imag();
+    for (int j = 1; 2 * j < W; ++j)
+      P[r * W + 2 * j - 1] = A[r * W + j].real(), P[r * W + 2 * j] = A[r * W + j].imag();
   return P;
 }
 
@@ -75,9 +77,12 @@ double tolerance(int W, int H, double rms, double scale) {
   return kTol * std::sqrt(n) * rms * std::log2(2 * n) * scale + 1e-30;
 }
 
-const LumiSize kSizes[] = {{1, 1}, {2, 2}, {1, 7}, {6, 1}, {5, 4}, {4, 5}, {6, 6}, {13, 11}, {2, 9}, {16, 8}, {30, 17}, {35, 6}, {64, 64}};
-const LumiSize kSmall[] = {{1, 1}, {2, 2}, {1, 7}, {6, 1}, {5, 4}, {4, 5}, {6, 6}, {13, 11}, {2, 9}, {16, 8}};
-const LumiSize kPow2[] = {{1, 1}, {2, 2}, {1, 8}, {4, 1}, {8, 4}, {2, 16}, {32, 64}, {64, 16}, {128, 128}};
+const LumiSize kSizes[] = {{1, 1},   {2, 2}, {1, 7},  {6, 1},   {5, 4},  {4, 5},  {6, 6},
+                           {13, 11}, {2, 9}, {16, 8}, {30, 17}, {35, 6}, {64, 64}};
+const LumiSize kSmall[] = {{1, 1}, {2, 2}, {1, 7},   {6, 1}, {5, 4},
+                           {4, 5}, {6, 6}, {13, 11}, {2, 9}, {16, 8}};
+const LumiSize kPow2[] = {{1, 1},  {2, 2},   {1, 8},   {4, 1},    {8, 4},
+                          {2, 16}, {32, 64}, {64, 16}, {128, 128}};
 
 int log2i(int n) {
   int k = 0;
@@ -108,16 +113,18 @@ struct Fam {
   int nSizes;
 };
 
-#define LAYOUTS(P, S) {P##_C1##S, P##_C3##S, P##_C4##S, P##_AC4##S}
-#define FAMILY(F, SPEC, SIZES)                                                                          \
-  Fam<SPEC> {                                                                                            \
-    #F, nullptr, {lumi##F##Free_R_32f, lumi##F##Free_C_32fc, lumi##F##Free_R_32s},                       \
-        {lumi##F##GetBufSize_R_32f, lumi##F##GetBufSize_C_32fc, lumi##F##GetBufSize_R_32s},              \
-        LAYOUTS(lumi##F##Fwd_RToPack_32f, R), LAYOUTS(lumi##F##Inv_PackToR_32f, R),                      \
-        LAYOUTS(lumi##F##Fwd_RToPack_32f, IR), LAYOUTS(lumi##F##Inv_PackToR_32f, IR),                    \
-        lumi##F##Fwd_CToC_32fc_C1R, lumi##F##Inv_CToC_32fc_C1R, lumi##F##Fwd_CToC_32fc_C1IR,             \
-        lumi##F##Inv_CToC_32fc_C1IR, LAYOUTS(lumi##F##Fwd_RToPack_8u32s, RSfs),                          \
-        LAYOUTS(lumi##F##Inv_PackToR_32s8u, RSfs), SIZES, int(sizeof(SIZES) / sizeof(SIZES[0]))          \
+#define LAYOUTS(P, S) \
+  { P##_C1##S, P##_C3##S, P##_C4##S, P##_AC4##S }
+#define FAMILY(F, SPEC, SIZES)                                                                    \
+  Fam<SPEC> {                                                                                     \
+#F, nullptr,                                                                                  \
+        {lumi##F##Free_R_32f, lumi##F##Free_C_32fc, lumi##F##Free_R_32s },                        \
+         {lumi##F##GetBufSize_R_32f, lumi##F##GetBufSize_C_32fc, lumi##F##GetBufSize_R_32s },     \
+          LAYOUTS(lumi##F##Fwd_RToPack_32f, R), LAYOUTS(lumi##F##Inv_PackToR_32f, R),             \
+          LAYOUTS(lumi##F##Fwd_RToPack_32f, IR), LAYOUTS(lumi##F##Inv_PackToR_32f, IR),           \
+          lumi##F##Fwd_CToC_32fc_C1R, lumi##F##Inv_CToC_32fc_C1R, lumi##F##Fwd_CToC_32fc_C1IR,    \
+          lumi##F##Inv_CToC_32fc_C1IR, LAYOUTS(lumi##F##Fwd_RToPack_8u32s, RSfs),                 \
+          LAYOUTS(lumi##F##Inv_PackToR_32s8u, RSfs), SIZES, int(sizeof(SIZES) / sizeof(SIZES[0])) \
   }
 
 Fam<LumiFFTSpec> fftFam() {
@@ -171,7 +178,8 @@ struct GuardedBuffer {
   Lum8u* ptr() { return buf.data() + off; }
   bool intact() const {
     for (size_t i = 0; i < buf.size(); ++i)
-      if ((i < off || i >= off + size) && buf[i] != static_cast<Lum8u>(0x3C ^ (i * 13))) return false;
+      if ((i < off || i >= off + size) && buf[i] != static_cast<Lum8u>(0x3C ^ (i * 13)))
+        return false;
     return true;
   }
 };
@@ -191,7 +199,8 @@ void realForwardAndBack(const Fam<Spec>& f) {
       for (int li = 0; li < 4; ++li) {
         if (flag != lumFftNoDivByAny && li != 0) continue;  // the flags on C1 only
         const Layout L = kLayouts[li];
-        GuardedImage<Lum32f> src(W, H, L.ch, -1, -1, si), dst(W, H, L.ch, -1, -1, si + 50), back(W, H, L.ch);
+        GuardedImage<Lum32f> src(W, H, L.ch, -1, -1, si), dst(W, H, L.ch, -1, -1, si + 50),
+            back(W, H, L.ch);
         src.fillRandom(rng);
         std::vector<Grid> img(L.use);
         for (int c = 0; c < L.use; ++c) {
@@ -209,7 +218,9 @@ void realForwardAndBack(const Fam<Spec>& f) {
           dst = src;
           ASSERT_EQ(f.fwdI[li](dst.ptr(), dst.step(), spec.p, buf.ptr()), lumStatusOk);
         } else {
-          ASSERT_EQ(f.fwd[li](src.ptr(), src.step(), dst.ptr(), dst.step(), spec.p, (si % 3) ? buf.ptr() : nullptr), lumStatusOk);
+          ASSERT_EQ(f.fwd[li](src.ptr(), src.step(), dst.ptr(), dst.step(), spec.p,
+                              (si % 3) ? buf.ptr() : nullptr),
+                    lumStatusOk);
           EXPECT_TRUE(sameElements(src.pixels(), srcBefore));
         }
         EXPECT_TRUE(buf.intact());
@@ -219,7 +230,9 @@ void realForwardAndBack(const Fam<Spec>& f) {
           const std::vector<double> want = refPack(refDft(img[c], W, H, -1), W, H);
           for (int y = 0; y < H; ++y)
             for (int x = 0; x < W; ++x)
-              ASSERT_NEAR(dst.at(x, y, c), want[y * W + x] * fs, tol) << L.name << (inPlace ? "I" : "") << " flag " << flag << " at " << x << "," << y << "," << c;
+              ASSERT_NEAR(dst.at(x, y, c), want[y * W + x] * fs, tol)
+                  << L.name << (inPlace ? "I" : "") << " flag " << flag << " at " << x << "," << y
+                  << "," << c;
         }
         for (int y = 0; y < H && L.use < L.ch; ++y) {
           ASSERT_EQ(dst.at(0, y, 3), inPlace ? srcBefore[y * W * 4 + 3] : dstBefore[y * W * 4 + 3]);
@@ -230,7 +243,8 @@ void realForwardAndBack(const Fam<Spec>& f) {
         if (inPlace) {
           ASSERT_EQ(f.invI[li](dst.ptr(), dst.step(), spec.p, buf.ptr()), lumStatusOk);
         } else {
-          ASSERT_EQ(f.inv[li](dst.ptr(), dst.step(), back.ptr(), back.step(), spec.p, buf.ptr()), lumStatusOk);
+          ASSERT_EQ(f.inv[li](dst.ptr(), dst.step(), back.ptr(), back.step(), spec.p, buf.ptr()),
+                    lumStatusOk);
           EXPECT_TRUE(sameElements(dst.pixels(), packed));
           dst = back;
         }
@@ -238,8 +252,10 @@ void realForwardAndBack(const Fam<Spec>& f) {
         for (int y = 0; y < H; ++y)
           for (int x = 0; x < W; ++x)
             for (int c = 0; c < L.ch; ++c) {
-              const double want = c < L.use ? src.at(x, y, c) * fs * is * n : packed[(y * W + x) * L.ch + c];
-              ASSERT_NEAR(dst.at(x, y, c), want, tolerance(W, H, 0.6, fs * is * n)) << "inverse " << L.name << " flag " << flag;
+              const double want =
+                  c < L.use ? src.at(x, y, c) * fs * is * n : packed[(y * W + x) * L.ch + c];
+              ASSERT_NEAR(dst.at(x, y, c), want, tolerance(W, H, 0.6, fs * is * n))
+                  << "inverse " << L.name << " flag " << flag;
             }
       }
     }
@@ -265,7 +281,8 @@ void complexForwardAndBack(const Fam<Spec>& f) {
     Grid x(static_cast<size_t>(W) * H);
     for (int y = 0; y < H; ++y)
       for (int i = 0; i < W; ++i) {
-        Lum32fc v{std::uniform_real_distribution<float>(-1, 1)(rng), std::uniform_real_distribution<float>(-1, 1)(rng)};
+        Lum32fc v{std::uniform_real_distribution<float>(-1, 1)(rng),
+                  std::uniform_real_distribution<float>(-1, 1)(rng)};
         src.at(i, y) = v;
         x[y * W + i] = Cd(v.re, v.im);
       }
@@ -275,7 +292,8 @@ void complexForwardAndBack(const Fam<Spec>& f) {
       ASSERT_EQ(f.cfwdI(dst.ptr(), dst.step(), spec.p, nullptr), lumStatusOk);
     } else {
       GuardedBuffer buf(spec.bufSize());
-      ASSERT_EQ(f.cfwd(src.ptr(), src.step(), dst.ptr(), dst.step(), spec.p, buf.ptr()), lumStatusOk);
+      ASSERT_EQ(f.cfwd(src.ptr(), src.step(), dst.ptr(), dst.step(), spec.p, buf.ptr()),
+                lumStatusOk);
       EXPECT_TRUE(buf.intact());
     }
     EXPECT_TRUE(dst.guardsIntact());
@@ -291,12 +309,15 @@ void complexForwardAndBack(const Fam<Spec>& f) {
       ASSERT_EQ(f.cinvI(dst.ptr(), dst.step(), spec.p, nullptr), lumStatusOk);
       back = dst;
     } else {
-      ASSERT_EQ(f.cinv(dst.ptr(), dst.step(), back.ptr(), back.step(), spec.p, nullptr), lumStatusOk);
+      ASSERT_EQ(f.cinv(dst.ptr(), dst.step(), back.ptr(), back.step(), spec.p, nullptr),
+                lumStatusOk);
     }
     for (int y = 0; y < H; ++y)
       for (int i = 0; i < W; ++i) {
-        ASSERT_NEAR(back.at(i, y).re, x[y * W + i].real() * fs * is * n, tolerance(W, H, 0.82, fs * is * n));
-        ASSERT_NEAR(back.at(i, y).im, x[y * W + i].imag() * fs * is * n, tolerance(W, H, 0.82, fs * is * n));
+        ASSERT_NEAR(back.at(i, y).re, x[y * W + i].real() * fs * is * n,
+                    tolerance(W, H, 0.82, fs * is * n));
+        ASSERT_NEAR(back.at(i, y).im, x[y * W + i].imag() * fs * is * n,
+                    tolerance(W, H, 0.82, fs * is * n));
       }
   }
 }
@@ -317,11 +338,13 @@ TEST(Dft2d, OneRecordServesSeveralThreads) {
     for (auto& x : v) x = randomValue<float>(rng);
   std::vector<Lum8u> buf(static_cast<size_t>(n) * 2);
   for (int i = 0; i < 8; ++i)
-    ASSERT_EQ(lumiDFTFwd_RToPack_32f_C1R(img[i].data(), 96, seq[i].data(), 96, spec, buf.data()), lumStatusOk);
+    ASSERT_EQ(lumiDFTFwd_RToPack_32f_C1R(img[i].data(), 96, seq[i].data(), 96, spec, buf.data()),
+              lumStatusOk);
   int bad = 0;
 #pragma omp parallel for num_threads(2) reduction(+ : bad)
   for (int i = 0; i < 8; ++i)
-    bad += lumiDFTFwd_RToPack_32f_C1R(img[i].data(), 96, par[i].data(), 96, spec, buf.data() + omp_get_thread_num() * n) != 0;
+    bad += lumiDFTFwd_RToPack_32f_C1R(img[i].data(), 96, par[i].data(), 96, spec,
+                                      buf.data() + omp_get_thread_num() * n) != 0;
   EXPECT_EQ(bad, 0);
   for (int i = 0; i < 8; ++i) EXPECT_TRUE(sameElements(par[i], seq[i]));
   EXPECT_EQ(lumiDFTFree_R_32f(spec), lumStatusOk);
@@ -330,15 +353,19 @@ TEST(Dft2d, OneRecordServesSeveralThreads) {
 #ifdef LUMI_HAVE_OPENCV
 // OpenCV's packed (CCS) forward of a real image is our layout for every parity.
 TEST(Dft2d, PackedLayoutMatchesOpenCv) {
-  for (LumiSize s : {LumiSize{5, 4}, LumiSize{8, 8}, LumiSize{7, 9}, LumiSize{16, 6}, LumiSize{1, 6}, LumiSize{9, 1}}) {
+  for (LumiSize s : {LumiSize{5, 4}, LumiSize{8, 8}, LumiSize{7, 9}, LumiSize{16, 6},
+                     LumiSize{1, 6}, LumiSize{9, 1}}) {
     cv::Mat src(s.height, s.width, CV_32F), want;
     cv::randu(src, -1, 1);
     cv::dft(src, want, 0);
     LumiDFTSpec* spec = nullptr;
     ASSERT_EQ(lumiDFTInitAlloc_R_32f(&spec, s, lumFftNoDivByAny, 0), lumStatusOk);
     cv::Mat got(s.height, s.width, CV_32F);
-    ASSERT_EQ(lumiDFTFwd_RToPack_32f_C1R(src.ptr<float>(), int(src.step), got.ptr<float>(), int(got.step), spec, nullptr), lumStatusOk);
-    EXPECT_LE(cv::norm(got, want, cv::NORM_INF), 1e-5 * cv::norm(want, cv::NORM_INF)) << s.width << "x" << s.height;
+    ASSERT_EQ(lumiDFTFwd_RToPack_32f_C1R(src.ptr<float>(), int(src.step), got.ptr<float>(),
+                                         int(got.step), spec, nullptr),
+              lumStatusOk);
+    EXPECT_LE(cv::norm(got, want, cv::NORM_INF), 1e-5 * cv::norm(want, cv::NORM_INF))
+        << s.width << "x" << s.height;
     EXPECT_EQ(lumiDFTFree_R_32f(spec), lumStatusOk);
   }
 }
@@ -376,10 +403,15 @@ TEST(Pack, MulPackIsTheProductOfFullSpectra) {
         for (int c = 0; c < L.use; ++c) {
           Spectrum x = randomSpectrum(rng, W, H), y = randomSpectrum(rng, W, H);
           Grid p(x.full.size());
-          for (size_t i = 0; i < p.size(); ++i) p[i] = x.full[i] * (conj ? std::conj(y.full[i]) : y.full[i]);
+          for (size_t i = 0; i < p.size(); ++i)
+            p[i] = x.full[i] * (conj ? std::conj(y.full[i]) : y.full[i]);
           want[c] = refPack(p, W, H);
-          a.fill([&](int i, int j, int k) { return k == c ? float(x.packed[j * W + i]) : a.at(i, j, k); });
-          b.fill([&](int i, int j, int k) { return k == c ? float(y.packed[j * W + i]) : b.at(i, j, k); });
+          a.fill([&](int i, int j, int k) {
+            return k == c ? float(x.packed[j * W + i]) : a.at(i, j, k);
+          });
+          b.fill([&](int i, int j, int k) {
+            return k == c ? float(y.packed[j * W + i]) : b.at(i, j, k);
+          });
         }
         const bool inPlace = (W + li) % 2 == 1;
         if (inPlace) {
@@ -388,7 +420,9 @@ TEST(Pack, MulPackIsTheProductOfFullSpectra) {
               for (int c = 0; c < L.use; ++c) d.at(x, y, c) = a.at(x, y, c);
           ASSERT_EQ(kMulI[conj][li](b.ptr(), b.step(), d.ptr(), d.step(), d.roi()), lumStatusOk);
         } else {
-          ASSERT_EQ(kMul[conj][li](a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), d.roi()), lumStatusOk);
+          ASSERT_EQ(
+              kMul[conj][li](a.ptr(), a.step(), b.ptr(), b.step(), d.ptr(), d.step(), d.roi()),
+              lumStatusOk);
         }
         EXPECT_TRUE(d.guardsIntact());
         const double n = double(W) * H;
@@ -400,7 +434,8 @@ TEST(Pack, MulPackIsTheProductOfFullSpectra) {
                 continue;
               }
               // inputs rounded to float: error ~ 2^-24 x |x| x |y| per product
-              ASSERT_NEAR(d.at(x, y, c), want[c][y * W + x], 1e-6 * n) << W << "x" << H << " conj " << conj << " " << L.name;
+              ASSERT_NEAR(d.at(x, y, c), want[c][y * W + x], 1e-6 * n)
+                  << W << "x" << H << " conj " << conj << " " << L.name;
             }
       }
 }
@@ -410,11 +445,16 @@ TEST(Pack, MulPackRoundsTheDoubleProductOnce) {
   Rng rng = makeRng(20);
   const int W = 41;
   std::vector<float> a(W), b(W), d(W), e(W);
-  for (int i = 0; i < W; ++i) a[i] = randomValue<float>(rng) / 7, b[i] = randomValue<float>(rng) / 3;
+  for (int i = 0; i < W; ++i)
+    a[i] = randomValue<float>(rng) / 7, b[i] = randomValue<float>(rng) / 3;
   for (int conj = 0; conj < 2; ++conj) {
-    ASSERT_EQ((conj ? lumiMulPackConj_32f_C1R : lumiMulPack_32f_C1R)(a.data(), 4 * W, b.data(), 4 * W, d.data(), 4 * W, {W, 1}), lumStatusOk);
+    ASSERT_EQ((conj ? lumiMulPackConj_32f_C1R : lumiMulPack_32f_C1R)(
+                  a.data(), 4 * W, b.data(), 4 * W, d.data(), 4 * W, {W, 1}),
+              lumStatusOk);
     e = a;
-    ASSERT_EQ((conj ? lumiMulPackConj_32f_C1IR : lumiMulPack_32f_C1IR)(b.data(), 4 * W, e.data(), 4 * W, {W, 1}), lumStatusOk);
+    ASSERT_EQ((conj ? lumiMulPackConj_32f_C1IR : lumiMulPack_32f_C1IR)(b.data(), 4 * W, e.data(),
+                                                                       4 * W, {W, 1}),
+              lumStatusOk);
     EXPECT_EQ(d[0], float(double(a[0]) * b[0]));
     for (int j = 1; j < W; j += 2) {
       const double xr = a[j], xi = a[j + 1], yr = b[j], yi = conj ? -double(b[j + 1]) : b[j + 1];
@@ -429,7 +469,8 @@ TEST(Pack, MulPackRoundsTheDoubleProductOnce) {
 TEST(Pack, MulPackByTheImpulseSpectrumIsIdentity) {
   for (LumiSize s : {LumiSize{8, 8}, LumiSize{16, 2}, LumiSize{4, 32}}) {
     LumiFFTSpec* spec = nullptr;
-    ASSERT_EQ(lumiFFTInitAlloc_R_32f(&spec, log2i(s.width), log2i(s.height), lumFftNoDivByAny, 0), lumStatusOk);
+    ASSERT_EQ(lumiFFTInitAlloc_R_32f(&spec, log2i(s.width), log2i(s.height), lumFftNoDivByAny, 0),
+              lumStatusOk);
     GuardedImage<Lum32f> imp(s.width, s.height, 1), img(s.width, s.height, 1);
     imp.fill([](int x, int y, int) { return x == 0 && y == 0 ? 1.0f : 0.0f; });
     Rng rng = makeRng(15);
@@ -437,7 +478,8 @@ TEST(Pack, MulPackByTheImpulseSpectrumIsIdentity) {
     ASSERT_EQ(lumiFFTFwd_RToPack_32f_C1IR(imp.ptr(), imp.step(), spec, nullptr), lumStatusOk);
     ASSERT_EQ(lumiFFTFwd_RToPack_32f_C1IR(img.ptr(), img.step(), spec, nullptr), lumStatusOk);
     const std::vector<float> before = img.pixels();
-    ASSERT_EQ(lumiMulPack_32f_C1IR(imp.ptr(), imp.step(), img.ptr(), img.step(), img.roi()), lumStatusOk);
+    ASSERT_EQ(lumiMulPack_32f_C1IR(imp.ptr(), imp.step(), img.ptr(), img.step(), img.roi()),
+              lumStatusOk);
     EXPECT_TRUE(sameElements(img.pixels(), before));
     EXPECT_EQ(lumiFFTFree_R_32f(spec), lumStatusOk);
   }
@@ -449,20 +491,22 @@ TEST(Pack, MulPackIntegerScaling) {
     int32_t a, b, sf, want;
   };
   // 1x1: one real product
-  for (Case k : {Case{3, 1, 1, 2}, Case{5, 1, 1, 2}, Case{7, 1, 1, 4}, Case{-3, 1, 1, -2}, Case{-5, 1, 1, -2},
-                 Case{300, 300, 0, 32767}, Case{-300, 300, 2, -22500}, Case{3, 3, -2, 36}, Case{1, 1, -16, 32767},
-                 Case{-3, 3, INT32_MIN, -32768}, Case{0, 3, INT32_MIN, 0}, Case{-300, 300, INT32_MAX, 0}}) {
+  for (Case k : {Case{3, 1, 1, 2}, Case{5, 1, 1, 2}, Case{7, 1, 1, 4}, Case{-3, 1, 1, -2},
+                 Case{-5, 1, 1, -2}, Case{300, 300, 0, 32767}, Case{-300, 300, 2, -22500},
+                 Case{3, 3, -2, 36}, Case{1, 1, -16, 32767}, Case{-3, 3, INT32_MIN, -32768},
+                 Case{0, 3, INT32_MIN, 0}, Case{-300, 300, INT32_MAX, 0}}) {
     Lum16s a = Lum16s(k.a), b = Lum16s(k.b), d = 0;
     ASSERT_EQ(lumiMulPack_16s_C1RSfs(&a, 2, &b, 2, &d, 2, {1, 1}, k.sf), lumStatusOk);
-    EXPECT_EQ(d, Lum16s(std::max(-32768, std::min(32767, k.want)))) << k.a << "*" << k.b << " sf " << k.sf;
+    EXPECT_EQ(d, Lum16s(std::max(-32768, std::min(32767, k.want))))
+        << k.a << "*" << k.b << " sf " << k.sf;
   }
   // 3x1: P(0,0) real, (1, 2) complex. (-2^31 + -2^31 i)(-2^31 + (2^31-1) i): Re = 2^63 - 2^31
   const int32_t mn = INT32_MIN, mx = INT32_MAX;
   Lum32s a[3] = {mn, mn, mn}, b[3] = {mn, mn, mx}, d[3];
   ASSERT_EQ(lumiMulPack_32s_C1RSfs(a, 12, b, 12, d, 12, {3, 1}, 33), lumStatusOk);
-  EXPECT_EQ(d[0], 1 << 29);         // 2^62 / 2^33 = 2^29
-  EXPECT_EQ(d[1], 1073741824);      // (2^63 - 2^31) / 2^33 = 2^30 - 0.25
-  EXPECT_EQ(d[2], 0);               // Im = -2^62 + 2^31 + 2^62 = 2^31: 0.25 -> 0
+  EXPECT_EQ(d[0], 1 << 29);     // 2^62 / 2^33 = 2^29
+  EXPECT_EQ(d[1], 1073741824);  // (2^63 - 2^31) / 2^33 = 2^30 - 0.25
+  EXPECT_EQ(d[2], 0);           // Im = -2^62 + 2^31 + 2^62 = 2^31: 0.25 -> 0
   ASSERT_EQ(lumiMulPack_32s_C1IRSfs(b, 12, a, 12, {3, 1}, 0), lumStatusOk);
   EXPECT_EQ(a[0], mx);
   EXPECT_EQ(a[1], mx);
@@ -489,13 +533,26 @@ TEST(Pack, MagnitudeAndPhaseOfTheFullSpectrum) {
         }
       }
       const bool c3 = ch == 3;
-      ASSERT_EQ((c3 ? lumiMagnitudePack_32f_C3R : lumiMagnitudePack_32f_C1R)(p.ptr(), p.step(), mag.ptr(), mag.step(), s), lumStatusOk);
-      ASSERT_EQ((c3 ? lumiPhasePack_32f_C3R : lumiPhasePack_32f_C1R)(p.ptr(), p.step(), ph.ptr(), ph.step(), s), lumStatusOk);
-      ASSERT_EQ((c3 ? lumiMagnitudePack_32f_C3R : lumiMagnitudePack_32f_C1R)(pf16.ptr(), pf16.step(), magf16.ptr(), magf16.step(), s), lumStatusOk);
-      ASSERT_EQ((c3 ? lumiPhasePack_32f_C3R : lumiPhasePack_32f_C1R)(pf16.ptr(), pf16.step(), phf16.ptr(), phf16.step(), s), lumStatusOk);
-      ASSERT_EQ((c3 ? lumiMagnitudePack_16s_C3RSfs : lumiMagnitudePack_16s_C1RSfs)(p16.ptr(), p16.step(), mag16.ptr(), mag16.step(), s, -1), lumStatusOk);
-      ASSERT_EQ((c3 ? lumiPhasePack_16s_C3RSfs : lumiPhasePack_16s_C1RSfs)(p16.ptr(), p16.step(), ph16.ptr(), ph16.step(), s, -12), lumStatusOk);
-      EXPECT_TRUE(mag.guardsIntact() && ph.guardsIntact() && mag16.guardsIntact() && ph16.guardsIntact());
+      ASSERT_EQ((c3 ? lumiMagnitudePack_32f_C3R : lumiMagnitudePack_32f_C1R)(
+                    p.ptr(), p.step(), mag.ptr(), mag.step(), s),
+                lumStatusOk);
+      ASSERT_EQ((c3 ? lumiPhasePack_32f_C3R : lumiPhasePack_32f_C1R)(p.ptr(), p.step(), ph.ptr(),
+                                                                     ph.step(), s),
+                lumStatusOk);
+      ASSERT_EQ((c3 ? lumiMagnitudePack_32f_C3R : lumiMagnitudePack_32f_C1R)(
+                    pf16.ptr(), pf16.step(), magf16.ptr(), magf16.step(), s),
+                lumStatusOk);
+      ASSERT_EQ((c3 ? lumiPhasePack_32f_C3R : lumiPhasePack_32f_C1R)(pf16.ptr(), pf16.step(),
+                                                                     phf16.ptr(), phf16.step(), s),
+                lumStatusOk);
+      ASSERT_EQ((c3 ? lumiMagnitudePack_16s_C3RSfs : lumiMagnitudePack_16s_C1RSfs)(
+                    p16.ptr(), p16.step(), mag16.ptr(), mag16.step(), s, -1),
+                lumStatusOk);
+      ASSERT_EQ((c3 ? lumiPhasePack_16s_C3RSfs : lumiPhasePack_16s_C1RSfs)(
+                    p16.ptr(), p16.step(), ph16.ptr(), ph16.step(), s, -12),
+                lumStatusOk);
+      EXPECT_TRUE(mag.guardsIntact() && ph.guardsIntact() && mag16.guardsIntact() &&
+                  ph16.guardsIntact());
       for (int c = 0; c < ch; ++c)
         for (int y = 0; y < H; ++y)
           for (int x = 0; x < W; ++x) {
@@ -504,7 +561,8 @@ TEST(Pack, MagnitudeAndPhaseOfTheFullSpectrum) {
             if (std::abs(a.real()) < 1e-9) a.real(0);
             double wantPh = std::atan2(a.imag(), a.real());
             if (wantPh <= -pi + 1e-12) wantPh = pi;
-            SCOPED_TRACE(testing::Message() << W << "x" << H << " C" << ch << " at " << x << "," << y << "," << c);
+            SCOPED_TRACE(testing::Message()
+                         << W << "x" << H << " C" << ch << " at " << x << "," << y << "," << c);
             ASSERT_NEAR(mag.at(x, y, c), std::abs(a), 1e-6 * (1 + std::abs(a)));
             if (std::abs(a) > 1e-6) {
               ASSERT_NEAR(ph.at(x, y, c), wantPh, 1e-5);
@@ -538,26 +596,33 @@ TEST(Pack, ComplexExtensionAndBack) {
     GuardedImage<Lum32f> p(W, H, 1), back(W, H, 1, -1, -1, 3);
     p.fill([&](int x, int y, int) { return float(sp.packed[y * W + x]); });
     GuardedImage<Lum32fc> full(W, H, 1);
-    ASSERT_EQ(lumiPackToCplxExtend_32f32fc_C1R(p.ptr(), s, p.step(), full.ptr(), full.step()), lumStatusOk);
+    ASSERT_EQ(lumiPackToCplxExtend_32f32fc_C1R(p.ptr(), s, p.step(), full.ptr(), full.step()),
+              lumStatusOk);
     for (int y = 0; y < H; ++y)
       for (int x = 0; x < W; ++x) {
-        ASSERT_NEAR(full.at(x, y).re, sp.full[y * W + x].real(), 1e-6 * (1 + std::abs(sp.full[y * W + x])));
-        ASSERT_NEAR(full.at(x, y).im, sp.full[y * W + x].imag(), 1e-6 * (1 + std::abs(sp.full[y * W + x])));
+        ASSERT_NEAR(full.at(x, y).re, sp.full[y * W + x].real(),
+                    1e-6 * (1 + std::abs(sp.full[y * W + x])));
+        ASSERT_NEAR(full.at(x, y).im, sp.full[y * W + x].imag(),
+                    1e-6 * (1 + std::abs(sp.full[y * W + x])));
       }
-    ASSERT_EQ(lumiCplxExtendToPack_32fc32f_C1R(full.ptr(), full.step(), s, back.ptr(), back.step()), lumStatusOk);
+    ASSERT_EQ(lumiCplxExtendToPack_32fc32f_C1R(full.ptr(), full.step(), s, back.ptr(), back.step()),
+              lumStatusOk);
     EXPECT_TRUE(sameElements(back.pixels(), p.pixels()));
     EXPECT_TRUE(full.guardsIntact() && back.guardsIntact());
     // integers: the round trip is exact; C3 folds each channel
     GuardedImage<Lum32s> q(W, H, 1), q2(W, H, 1);
     q.fillRandom(rng);
     GuardedImage<Lum32sc> qf(W, H, 1);
-    ASSERT_EQ(lumiPackToCplxExtend_32s32sc_C1R(q.ptr(), s, q.step(), qf.ptr(), qf.step()), lumStatusOk);
-    ASSERT_EQ(lumiCplxExtendToPack_32sc32s_C1R(qf.ptr(), qf.step(), s, q2.ptr(), q2.step()), lumStatusOk);
+    ASSERT_EQ(lumiPackToCplxExtend_32s32sc_C1R(q.ptr(), s, q.step(), qf.ptr(), qf.step()),
+              lumStatusOk);
+    ASSERT_EQ(lumiCplxExtendToPack_32sc32s_C1R(qf.ptr(), qf.step(), s, q2.ptr(), q2.step()),
+              lumStatusOk);
     EXPECT_TRUE(sameElements(q2.pixels(), q.pixels()));
     GuardedImage<Lum16sc> c3(W, H, 3);
     GuardedImage<Lum16s> f3(W, H, 3);
     c3.fill([&](int x, int y, int c) { return Lum16sc{Lum16s(100 * c + x), Lum16s(-y)}; });
-    ASSERT_EQ(lumiCplxExtendToPack_16sc16s_C3R(c3.ptr(), c3.step(), s, f3.ptr(), f3.step()), lumStatusOk);
+    ASSERT_EQ(lumiCplxExtendToPack_16sc16s_C3R(c3.ptr(), c3.step(), s, f3.ptr(), f3.step()),
+              lumStatusOk);
     for (int c = 0; c < 3; ++c) {
       ASSERT_EQ(f3.at(0, 0, c), 100 * c);
       if (W > 2) {
@@ -567,7 +632,7 @@ TEST(Pack, ComplexExtensionAndBack) {
     }
   }
   // the conjugate of the most negative 32s value saturates
-  Lum32s q[2] = {0, INT32_MIN};  // 1 x 2 (H = 2): column 0 only, both rows real
+  Lum32s q[2] = {0, INT32_MIN};      // 1 x 2 (H = 2): column 0 only, both rows real
   Lum32s r3[3] = {0, 5, INT32_MIN};  // 3 x 1: A(0, 1) = 5 - 2^31 i, A(0, 2) = 5 + (2^31 - 1) i
   Lum32sc out[3];
   ASSERT_EQ(lumiPackToCplxExtend_32s32sc_C1R(q, {1, 2}, 4, out, 8), lumStatusOk);
@@ -594,9 +659,11 @@ void integerTransforms(const Fam<Spec>& f) {
       src.fillRandom(rng), back.fillRandom(rng), spk.fillRandom(rng);
       const std::vector<Lum8u> backBefore = back.pixels();
       const std::vector<Lum32s> spkBefore = spk.pixels();
-      ASSERT_EQ(f.fwd8u[li](src.ptr(), src.step(), spk.ptr(), spk.step(), wrong.p, nullptr, 0), lumStatusContextMismatchErr);
+      ASSERT_EQ(f.fwd8u[li](src.ptr(), src.step(), spk.ptr(), spk.step(), wrong.p, nullptr, 0),
+                lumStatusContextMismatchErr);
       GuardedBuffer buf(spec.bufSize());
-      ASSERT_EQ(f.fwd8u[li](src.ptr(), src.step(), spk.ptr(), spk.step(), spec.p, buf.ptr(), 2), lumStatusOk);
+      ASSERT_EQ(f.fwd8u[li](src.ptr(), src.step(), spk.ptr(), spk.step(), spec.p, buf.ptr(), 2),
+                lumStatusOk);
       EXPECT_TRUE(buf.intact() && spk.guardsIntact());
       for (int c = 0; c < L.ch; ++c) {
         Grid x(static_cast<size_t>(W) * H);
@@ -610,13 +677,17 @@ void integerTransforms(const Fam<Spec>& f) {
         }
       }
       // back with the spectrum x 4 undone: the input within one
-      ASSERT_EQ(f.fwd8u[li](src.ptr(), src.step(), spk.ptr(), spk.step(), spec.p, nullptr, -2), lumStatusOk);
-      ASSERT_EQ(f.inv8u[li](spk.ptr(), spk.step(), back.ptr(), back.step(), spec.p, buf.ptr(), 2), lumStatusOk);
+      ASSERT_EQ(f.fwd8u[li](src.ptr(), src.step(), spk.ptr(), spk.step(), spec.p, nullptr, -2),
+                lumStatusOk);
+      ASSERT_EQ(f.inv8u[li](spk.ptr(), spk.step(), back.ptr(), back.step(), spec.p, buf.ptr(), 2),
+                lumStatusOk);
       EXPECT_TRUE(buf.intact() && back.guardsIntact());
       for (int y = 0; y < H; ++y)
         for (int x = 0; x < W; ++x)
           for (int c = 0; c < L.ch; ++c)
-            ASSERT_NEAR(back.at(x, y, c), c < L.use ? src.at(x, y, c) : backBefore[(y * W + x) * L.ch + c], c < L.use ? 1 : 0);
+            ASSERT_NEAR(back.at(x, y, c),
+                        c < L.use ? src.at(x, y, c) : backBefore[(y * W + x) * L.ch + c],
+                        c < L.use ? 1 : 0);
     }
   }
   // saturation both ways: 255 everywhere has DC 255 W H
@@ -625,12 +696,15 @@ void integerTransforms(const Fam<Spec>& f) {
   GuardedImage<Lum8u> img(s.width, s.height, 1);
   GuardedImage<Lum32s> spk(s.width, s.height, 1);
   img.fill([](int, int, int) { return Lum8u(255); });
-  ASSERT_EQ(f.fwd8u[0](img.ptr(), img.step(), spk.ptr(), spk.step(), spec.p, nullptr, -30), lumStatusOk);
+  ASSERT_EQ(f.fwd8u[0](img.ptr(), img.step(), spk.ptr(), spk.step(), spec.p, nullptr, -30),
+            lumStatusOk);
   EXPECT_EQ(spk.at(0, 0), INT32_MAX);
-  ASSERT_EQ(f.inv8u[0](spk.ptr(), spk.step(), img.ptr(), img.step(), spec.p, nullptr, 0), lumStatusOk);
+  ASSERT_EQ(f.inv8u[0](spk.ptr(), spk.step(), img.ptr(), img.step(), spec.p, nullptr, 0),
+            lumStatusOk);
   EXPECT_EQ(img.at(0, 0), 255);
   spk.fill([](int x, int y, int) { return x == 0 && y == 0 ? -1000 : 0; });
-  ASSERT_EQ(f.inv8u[0](spk.ptr(), spk.step(), img.ptr(), img.step(), spec.p, nullptr, 0), lumStatusOk);
+  ASSERT_EQ(f.inv8u[0](spk.ptr(), spk.step(), img.ptr(), img.step(), spec.p, nullptr, 0),
+            lumStatusOk);
   EXPECT_EQ(img.at(0, 0), 0);
 }
 
@@ -671,15 +745,20 @@ TEST(Fft2d, SpecificationChecks) {
   float* p = img.ptr();
   const int st = img.step();
   // order: the record (-8), its kind (-17), the images (-8), the steps (-14)
-  EXPECT_EQ(lumiDFTFwd_RToPack_32f_C1R(nullptr, 0, nullptr, 0, nullptr, nullptr), lumStatusNullPtrErr);
-  EXPECT_EQ(lumiFFTFwd_RToPack_32f_C1R(nullptr, 0, nullptr, 0, f, nullptr), lumStatusContextMismatchErr);
+  EXPECT_EQ(lumiDFTFwd_RToPack_32f_C1R(nullptr, 0, nullptr, 0, nullptr, nullptr),
+            lumStatusNullPtrErr);
+  EXPECT_EQ(lumiFFTFwd_RToPack_32f_C1R(nullptr, 0, nullptr, 0, f, nullptr),
+            lumStatusContextMismatchErr);
   EXPECT_EQ(lumiFFTInv_PackToR_32f_C3IR(nullptr, 0, f, nullptr), lumStatusContextMismatchErr);
   EXPECT_EQ(lumiDFTFwd_RToPack_32f_C1R(p, st, nullptr, 0, d, nullptr), lumStatusNullPtrErr);
   EXPECT_EQ(lumiDFTInv_PackToR_32f_AC4R(nullptr, st, p, 0, d, nullptr), lumStatusNullPtrErr);
   EXPECT_EQ(lumiDFTFwd_RToPack_32f_C1R(p, st, p, 0, d, nullptr), lumStatusStepErr);
   EXPECT_EQ(lumiDFTInv_PackToR_32f_C1IR(p, -4, d, nullptr), lumStatusStepErr);
-  EXPECT_EQ(lumiDFTFwd_RToPack_8u32s_C1RSfs(nullptr, 1, nullptr, 1, reinterpret_cast<const LumiDFTSpec*>(f), nullptr, 0), lumStatusContextMismatchErr);
-  EXPECT_EQ(lumiDFTInv_PackToR_32s8u_C1RSfs(nullptr, 1, nullptr, 1, d, nullptr, 0), lumStatusContextMismatchErr);
+  EXPECT_EQ(lumiDFTFwd_RToPack_8u32s_C1RSfs(nullptr, 1, nullptr, 1,
+                                            reinterpret_cast<const LumiDFTSpec*>(f), nullptr, 0),
+            lumStatusContextMismatchErr);
+  EXPECT_EQ(lumiDFTInv_PackToR_32s8u_C1RSfs(nullptr, 1, nullptr, 1, d, nullptr, 0),
+            lumStatusContextMismatchErr);
   Lum32fc c[4];
   EXPECT_EQ(lumiFFTFwd_CToC_32fc_C1R(c, 32, c, 32, nullptr, nullptr), lumStatusNullPtrErr);
   EXPECT_EQ(lumiDFTFwd_CToC_32fc_C1IR(c, 32, d, nullptr), lumStatusContextMismatchErr);
@@ -721,7 +800,7 @@ TEST(Pack, ArgumentChecks) {
   EXPECT_EQ(lumiPackToCplxExtend_32s32sc_C1R(w, s, 0, nullptr, 16), lumStatusNullPtrErr);
   EXPECT_EQ(lumiCplxExtendToPack_32fc32f_C3R(c, 16, s, b, 0), lumStatusStepErr);
   EXPECT_EQ(lumiCplxExtendToPack_16sc16s_C1R(nullptr, 16, {0, 0}, h, 4), lumStatusNullPtrErr);
-  EXPECT_EQ(lumiCplxExtendToPack_32sc32s_C1R(nullptr, 16, s, w, 8) , lumStatusNullPtrErr);
+  EXPECT_EQ(lumiCplxExtendToPack_32sc32s_C1R(nullptr, 16, s, w, 8), lumStatusNullPtrErr);
 }
 
 }  // namespace

@@ -7,8 +7,8 @@ namespace fft2d {
 namespace {
 
 template <int kTag, bool kInv, class SpecT>
-LumStatus complex32fc(const Lum32fc* src, int srcStep, Lum32fc* dst, int dstStep,
-                      const SpecT* spec, Lum8u* buffer) {
+LumStatus complex32fc(const Lum32fc* src, int srcStep, Lum32fc* dst, int dstStep, const SpecT* spec,
+                      Lum8u* buffer) {
   if (!spec) return lumStatusNullPtrErr;
   if (spec->rec.tag != kTag) return lumStatusContextMismatchErr;
   if (anyNull(src, dst)) return lumStatusNullPtrErr;
@@ -26,10 +26,10 @@ LumStatus complex32fc(const Lum32fc* src, int srcStep, Lum32fc* dst, int dstStep
 using namespace lumi;
 using namespace lumi::fft2d;
 
-#define LUMI_CPLX(NAME, SPEC, TAG, INV)                                                  \
+#define LUMI_CPLX(NAME, SPEC, TAG, INV)                                                 \
   LUMI_API LumStatus NAME(const Lum32fc* pSrc, int srcStep, Lum32fc* pDst, int dstStep, \
-                          const SPEC* pSpec, Lum8u* pBuffer) {                           \
-    return complex32fc<TAG, INV>(pSrc, srcStep, pDst, dstStep, pSpec, pBuffer);          \
+                          const SPEC* pSpec, Lum8u* pBuffer) {                          \
+    return complex32fc<TAG, INV>(pSrc, srcStep, pDst, dstStep, pSpec, pBuffer);         \
   }
 #define LUMI_CPLX_I(NAME, SPEC, TAG, INV)                                                        \
   LUMI_API LumStatus NAME(Lum32fc* pSrcDst, int srcDstStep, const SPEC* pSpec, Lum8u* pBuffer) { \

@@ -114,16 +114,20 @@ void columnGroups(int groups, const GroupAt& groupAt, const Transform& transform
 
 // The column pass of the packed layout: from src (read only) into dst, scaled by k. Column 0
 // rides along with the first group, column W-1 (even W) with the last.
-void packedColumns(const Record& R, const float* src, int srcStep, int sch, float* dst,
-                   int dstStep, int dch, bool inv, float k, const Scratch& s) {
+void packedColumns(const Record& R, const float* src, int srcStep, int sch, float* dst, int dstStep,
+                   int dch, bool inv, float k, const Scratch& s) {
   const int W = R.width, H = R.height;
   const signal::RealFft& real = R.colsReal();
   const int pairs = (W - 1) / 2;
   const int groups = pairs > 0 ? (pairs + kGroup - 1) / kGroup : 1;
   auto groupAt = [&](int gi) {
     const int j = gi * kGroup;
-    return Group{2 * j + 1, std::min(kGroup, pairs - j), s.cols[gi % 2], gi == 0 ? s.real : nullptr,
-                 gi == groups - 1 && W % 2 == 0 ? s.real + H : nullptr, W - 1};
+    return Group{2 * j + 1,
+                 std::min(kGroup, pairs - j),
+                 s.cols[gi % 2],
+                 gi == 0 ? s.real : nullptr,
+                 gi == groups - 1 && W % 2 == 0 ? s.real + H : nullptr,
+                 W - 1};
   };
   auto transform = [&](const Group& g) {
     for (float* col : {g.col0, g.colLast}) {
@@ -240,8 +244,8 @@ void destroyRecord(Record* r) {
   lumsFree(reinterpret_cast<Lum8u*>(r));
 }
 
-LumStatus createRecord(Record** out, int tag, int width, int height, int sizeX, int sizeY,
-                       int flag, int hint) {
+LumStatus createRecord(Record** out, int tag, int width, int height, int sizeX, int sizeY, int flag,
+                       int hint) {
   const bool real = tag != kTagFftC && tag != kTagDftC;
   const bool plane = tag == kTagFftR32s || tag == kTagDftR32s;
   // In 64 bits: on 32-bit targets W x H and the column block overflow size_t.

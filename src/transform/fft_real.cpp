@@ -84,23 +84,23 @@ LumStatus inverse32s8u(const Lum32s* src, int srcStep, Lum8u* dst, int dstStep, 
 using namespace lumi;
 using namespace lumi::fft2d;
 
-#define LUMI_REAL_32F(NAME, SPEC, TAG, L, INV)                                              \
-  LUMI_API LumStatus NAME(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep,      \
-                          const SPEC* pSpec, Lum8u* pBuffer) {                              \
-    return real32f<TAG, L, INV>(pSrc, srcStep, pDst, dstStep, pSpec, pBuffer);              \
+#define LUMI_REAL_32F(NAME, SPEC, TAG, L, INV)                                        \
+  LUMI_API LumStatus NAME(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, \
+                          const SPEC* pSpec, Lum8u* pBuffer) {                        \
+    return real32f<TAG, L, INV>(pSrc, srcStep, pDst, dstStep, pSpec, pBuffer);        \
   }
-#define LUMI_REAL_32F_I(NAME, SPEC, TAG, L, INV)                                               \
+#define LUMI_REAL_32F_I(NAME, SPEC, TAG, L, INV)                                                \
   LUMI_API LumStatus NAME(Lum32f* pSrcDst, int srcDstStep, const SPEC* pSpec, Lum8u* pBuffer) { \
-    return real32f<TAG, L, INV>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, pSpec, pBuffer);     \
+    return real32f<TAG, L, INV>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, pSpec, pBuffer);      \
   }
 #define LUMI_FWD_8U32S(NAME, SPEC, TAG, L)                                                  \
-  LUMI_API LumStatus NAME(const Lum8u* pSrc, int srcStep, Lum32s* pDst, int dstStep,       \
+  LUMI_API LumStatus NAME(const Lum8u* pSrc, int srcStep, Lum32s* pDst, int dstStep,        \
                           const SPEC* pSpec, Lum8u* pBuffer, int scaleFactor) {             \
     return forward8u32s<TAG, L>(pSrc, srcStep, pDst, dstStep, pSpec, pBuffer, scaleFactor); \
   }
-#define LUMI_INV_32S8U(NAME, SPEC, TAG, L)                                                   \
+#define LUMI_INV_32S8U(NAME, SPEC, TAG, L)                                                  \
   LUMI_API LumStatus NAME(const Lum32s* pSrc, int srcStep, Lum8u* pDst, int dstStep,        \
-                          const SPEC* pSpec, Lum8u* pBuffer, int scaleFactor) {              \
+                          const SPEC* pSpec, Lum8u* pBuffer, int scaleFactor) {             \
     return inverse32s8u<TAG, L>(pSrc, srcStep, pDst, dstStep, pSpec, pBuffer, scaleFactor); \
   }
 

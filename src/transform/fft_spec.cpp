@@ -60,13 +60,13 @@ LumStatus bufSize(const SpecT* p, int* size) {
 using namespace lumi;
 using namespace lumi::fft2d;
 
-#define LUMI_FFT_INIT(NAME, TAG)                                                 \
+#define LUMI_FFT_INIT(NAME, TAG)                                                              \
   LUMI_API LumStatus NAME(LumiFFTSpec** ppSpec, int orderX, int orderY, int flag, int hint) { \
-    return initFft<TAG>(ppSpec, orderX, orderY, flag, hint);                     \
+    return initFft<TAG>(ppSpec, orderX, orderY, flag, hint);                                  \
   }
-#define LUMI_DFT_INIT(NAME, TAG)                                                       \
+#define LUMI_DFT_INIT(NAME, TAG)                                                        \
   LUMI_API LumStatus NAME(LumiDFTSpec** ppSpec, LumiSize roiSize, int flag, int hint) { \
-    return initDft<TAG>(ppSpec, roiSize, flag, hint);                                  \
+    return initDft<TAG>(ppSpec, roiSize, flag, hint);                                   \
   }
 #define LUMI_SPEC_FREE(NAME, SPEC, TAG) \
   LUMI_API LumStatus NAME(SPEC* pSpec) { return freeSpec<TAG>(pSpec); }

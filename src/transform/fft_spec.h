@@ -19,10 +19,10 @@ namespace fft2d {
 
 // Record kinds: every use checks the tag of the record it is given.
 enum Tag : int32_t {
-  kTagFftC = 25,   // complex FFT
-  kTagFftR = 26,   // real FFT
-  kTagDftC = 27,   // complex DFT
-  kTagDftR = 28,   // real DFT
+  kTagFftC = 25,     // complex FFT
+  kTagFftR = 26,     // real FFT
+  kTagDftC = 27,     // complex DFT
+  kTagDftR = 28,     // real DFT
   kTagFftR32s = 29,  // real FFT of the integer members
   kTagDftR32s = 30,  // real DFT of the integer members
 };
@@ -32,10 +32,10 @@ constexpr int kGroup = 16;  // complex columns per batch (two 64-byte lines of a
 // The work buffer, carved from one block at 64-byte boundaries.
 struct Scratch {
   Lum32fc* cols[2];  // two blocks of kGroup complex columns side by side (H x kGroup each)
-  float* real;    // columns 0 and W-1 of the packed layout (2 x H)
-  float* row;     // one row of one channel (W floats)
-  float* plane;   // integer members: one channel of the image in float (W x H)
-  void* work;     // the engines' work area
+  float* real;       // columns 0 and W-1 of the packed layout (2 x H)
+  float* row;        // one row of one channel (W floats)
+  float* plane;      // integer members: one channel of the image in float (W x H)
+  void* work;        // the engines' work area
 };
 
 struct Record {
@@ -62,7 +62,8 @@ struct Record {
     return Scratch{{reinterpret_cast<Lum32fc*>(b), reinterpret_cast<Lum32fc*>(b + colsOff)},
                    reinterpret_cast<float*>(b + realOff),
                    reinterpret_cast<float*>(b + rowOff),
-                   reinterpret_cast<float*>(b + planeOff), b + workOff};
+                   reinterpret_cast<float*>(b + planeOff),
+                   b + workOff};
   }
   // The normalisation of the forward and the inverse transform.
   float forwardScale() const;
@@ -70,8 +71,8 @@ struct Record {
 };
 
 // Builds a record (the caller has checked the pointer, the sizes and the flag).
-LumStatus createRecord(Record** out, int tag, int width, int height, int sizeX, int sizeY,
-                       int flag, int hint);
+LumStatus createRecord(Record** out, int tag, int width, int height, int sizeX, int sizeY, int flag,
+                       int hint);
 void destroyRecord(Record* r);
 
 // Real forward of one channel: src (element type S, channels sch apart) to the packed

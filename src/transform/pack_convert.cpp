@@ -56,7 +56,8 @@ void unfold(const T* src, int sst, LumiSize roi, int ch, const Out& out) {
       packedColumn(0);
       if (W % 2 == 0) packedColumn(W / 2);
       for (int u = 1; u <= half; ++u)
-        out(u, r, c, static_cast<V>(row[elemsOf(2 * u - 1, ch)]), static_cast<V>(row[elemsOf(2 * u, ch)]));
+        out(u, r, c, static_cast<V>(row[elemsOf(2 * u - 1, ch)]),
+            static_cast<V>(row[elemsOf(2 * u, ch)]));
       for (int u = W - half; u < W; ++u) {
         const int m = W - u;
         out(u, r, c, static_cast<V>(mirror[elemsOf(2 * m - 1, ch)]),
@@ -99,8 +100,12 @@ template <class TC, class T, int kCh>
 LumStatus cplxToPack(const TC* src, int sst, LumiSize roi, T* dst, int dstStep) {
   if (LumStatus s = checkUnfold<T>(src, sst, dst, dstStep, roi)) return s;
   const int W = roi.width, H = roi.height;
-  auto A = [&](int v, int u, int c) -> const TC& { return rowAt(src, sst, v)[elemsOf(u, kCh) + c]; };
-  auto P = [&](int r, int col, int c) -> T& { return rowAt(dst, dstStep, r)[elemsOf(col, kCh) + c]; };
+  auto A = [&](int v, int u, int c) -> const TC& {
+    return rowAt(src, sst, v)[elemsOf(u, kCh) + c];
+  };
+  auto P = [&](int r, int col, int c) -> T& {
+    return rowAt(dst, dstStep, r)[elemsOf(col, kCh) + c];
+  };
   for (int c = 0; c < kCh; ++c) {
     auto column = [&](int col, int u) {  // the packed column form of frequency u
       P(0, col, c) = A(0, u, c).re;
@@ -128,23 +133,23 @@ LumStatus cplxToPack(const TC* src, int sst, LumiSize roi, T* dst, int dstStep) 
 using namespace lumi;
 using namespace lumi::pack;
 
-#define LUMI_UNFOLD_32F(NAME, WHAT, CH)                                                      \
+#define LUMI_UNFOLD_32F(NAME, WHAT, CH)                                                     \
   LUMI_API LumStatus NAME(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep,       \
-                          LumiSize dstRoiSize) {                                             \
+                          LumiSize dstRoiSize) {                                            \
     return unfoldReal<What::WHAT, Lum32f, CH>(pSrc, srcStep, pDst, dstStep, dstRoiSize, 0); \
   }
-#define LUMI_UNFOLD_SFS(NAME, WHAT, T, CH)                                                        \
+#define LUMI_UNFOLD_SFS(NAME, WHAT, T, CH)                                                       \
   LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pDst, int dstStep, LumiSize dstRoiSize, \
                           int scaleFactor) {                                                     \
     return unfoldReal<What::WHAT, T, CH>(pSrc, srcStep, pDst, dstStep, dstRoiSize, scaleFactor); \
   }
-#define LUMI_PACK_TO_CPLX(NAME, T, TC)                                                   \
+#define LUMI_PACK_TO_CPLX(NAME, T, TC)                                                           \
   LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, TC* pDst, int dstStep) { \
-    return packToCplx<T, TC>(pSrc, srcSize, srcStep, pDst, dstStep);                     \
+    return packToCplx<T, TC>(pSrc, srcSize, srcStep, pDst, dstStep);                             \
   }
-#define LUMI_CPLX_TO_PACK(NAME, TC, T, CH)                                              \
+#define LUMI_CPLX_TO_PACK(NAME, TC, T, CH)                                                       \
   LUMI_API LumStatus NAME(const TC* pSrc, int srcStep, LumiSize srcSize, T* pDst, int dstStep) { \
-    return cplxToPack<TC, T, CH>(pSrc, srcStep, srcSize, pDst, dstStep);                \
+    return cplxToPack<TC, T, CH>(pSrc, srcStep, srcSize, pDst, dstStep);                         \
   }
 
 LUMI_UNFOLD_32F(lumiMagnitudePack_32f_C1R, kMagnitude, 1)

@@ -9,8 +9,9 @@
 // scalar twin, so both give the same bits.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "src/transform/pack_mul.cpp"
-#include "hwy/foreach_target.h"
+#include "hwy/foreach_target.h"  // first: it re-includes this file once per target
 #include "hwy/highway.h"
+
 #include "core/simd.h"
 #include "lumi/fft.h"
 #include "transform/pack.h"
@@ -32,13 +33,15 @@ void mulPairs(const float* a, const float* b, float* d, int pairs) {
     const auto x = hn::PromoteTo(dd, hn::LoadU(df, a + i));
     const auto y = hn::PromoteTo(dd, hn::LoadU(df, b + i));
     const auto yr = hn::DupEven(y), yi = hn::DupOdd(y);
-    const auto p = hn::Mul(x, yr);                                      // xr yr, xi yr
-    const auto q = hn::Mul(hn::Mul(hn::Reverse2(dd, x), yi), sign);     // -xi yi, xr yi
+    const auto p = hn::Mul(x, yr);                                   // xr yr, xi yr
+    const auto q = hn::Mul(hn::Mul(hn::Reverse2(dd, x), yi), sign);  // -xi yi, xr yi
     hn::StoreU(hn::DemoteTo(df, hn::Add(p, q)), df, d + i);
   }
   for (; i < n; i += 2) {
-    const double xr = a[i], xi = a[i + 1], yr = b[i], yi = kConj ? -static_cast<double>(b[i + 1]) : b[i + 1];
-    const float re = static_cast<float>(xr * yr - xi * yi), im = static_cast<float>(xr * yi + xi * yr);
+    const double xr = a[i], xi = a[i + 1], yr = b[i],
+                 yi = kConj ? -static_cast<double>(b[i + 1]) : b[i + 1];
+    const float re = static_cast<float>(xr * yr - xi * yi),
+                im = static_cast<float>(xr * yi + xi * yr);
     d[i] = re;
     d[i + 1] = im;
   }
@@ -57,8 +60,10 @@ using MulPairsFn = void (*)(const float*, const float*, float*, int);
 template <bool kConj>
 void mulPairsScalar(const float* a, const float* b, float* d, int pairs) {
   for (int i = 0; i < 2 * pairs; i += 2) {
-    const double xr = a[i], xi = a[i + 1], yr = b[i], yi = kConj ? -static_cast<double>(b[i + 1]) : b[i + 1];
-    const float re = static_cast<float>(xr * yr - xi * yi), im = static_cast<float>(xr * yi + xi * yr);
+    const double xr = a[i], xi = a[i + 1], yr = b[i],
+                 yi = kConj ? -static_cast<double>(b[i + 1]) : b[i + 1];
+    const float re = static_cast<float>(xr * yr - xi * yi),
+                im = static_cast<float>(xr * yi + xi * yr);
     d[i] = re;
     d[i + 1] = im;
   }
@@ -181,16 +186,16 @@ LumStatus mulPackInt(const T* s1, int st1, const T* s2, int st2, T* d, int dst, 
 using namespace lumi;
 using namespace lumi::pack;
 
-#define LUMI_MULPACK(NAME, L, CONJ)                                                          \
+#define LUMI_MULPACK(NAME, L, CONJ)                                                             \
   LUMI_API LumStatus NAME(const Lum32f* pSrc1, int src1Step, const Lum32f* pSrc2, int src2Step, \
-                          Lum32f* pDst, int dstStep, LumiSize roiSize) {                     \
-    return mulPackFloat<L, CONJ>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roiSize);   \
+                          Lum32f* pDst, int dstStep, LumiSize roiSize) {                        \
+    return mulPackFloat<L, CONJ>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roiSize);     \
   }
-#define LUMI_MULPACK_I(NAME, L, CONJ)                                                      \
+#define LUMI_MULPACK_I(NAME, L, CONJ)                                                       \
   LUMI_API LumStatus NAME(const Lum32f* pSrc, int srcStep, Lum32f* pSrcDst, int srcDstStep, \
-                          LumiSize roiSize) {                                              \
+                          LumiSize roiSize) {                                               \
     return mulPackFloat<L, CONJ>(pSrcDst, srcDstStep, pSrc, srcStep, pSrcDst, srcDstStep,   \
-                                 roiSize);                                                 \
+                                 roiSize);                                                  \
   }
 #define LUMI_MULPACK_SFS(NAME, T, L)                                                           \
   LUMI_API LumStatus NAME(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, \
@@ -198,11 +203,11 @@ using namespace lumi::pack;
     return mulPackInt<T, L>(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roiSize,          \
                             scaleFactor);                                                      \
   }
-#define LUMI_MULPACK_ISFS(NAME, T, L)                                                     \
-  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep,         \
-                          LumiSize roiSize, int scaleFactor) {                            \
+#define LUMI_MULPACK_ISFS(NAME, T, L)                                                         \
+  LUMI_API LumStatus NAME(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep,             \
+                          LumiSize roiSize, int scaleFactor) {                                \
     return mulPackInt<T, L>(pSrcDst, srcDstStep, pSrc, srcStep, pSrcDst, srcDstStep, roiSize, \
-                            scaleFactor);                                                 \
+                            scaleFactor);                                                     \
   }
 
 LUMI_MULPACK(lumiMulPack_32f_C1R, C1, false)
