@@ -2,11 +2,11 @@
 // outside the mapped quadrangle may change), the validation order, the quarter-turn path and
 // the rounding points. Integer linear results are exact where the positions are exact
 // (dyadic maps); elsewhere a position may differ from ours in its last bit, so 1 is allowed.
+#include <xmmintrin.h>
+
 #include <cmath>
 #include <functional>
 #include <vector>
-
-#include <xmmintrin.h>
 
 #include "geometry/cubic.h"
 #include "lumi/warp.h"
@@ -290,7 +290,8 @@ TYPED_TEST(Warp, RunPhaseDoesNotChangePixels) {
     for (int m : kModes)
       for (const auto& fn : {Ops<T>::affineBack(back), Ops<T>::perspBack(pback)}) {
         Images<T> a(li, kSrc, ds, 5), b(li, kSrc, ds, 5);
-        ASSERT_GE(fn(li, a.sp.data(), a.dp.data(), kSrc, a.sstep(), kSrcRoi, a.dstep(), kDstRoi, m), 0);
+        ASSERT_GE(fn(li, a.sp.data(), a.dp.data(), kSrc, a.sstep(), kSrcRoi, a.dstep(), kDstRoi, m),
+                  0);
         for (int shift = 1; shift <= 7; shift += 3) {
           const LumiRect r{kDstRoi.x + shift, kDstRoi.y, kDstRoi.width - shift, kDstRoi.height};
           ASSERT_GE(fn(li, b.sp.data(), b.dp.data(), kSrc, b.sstep(), kSrcRoi, b.dstep(), r, m), 0);
@@ -510,10 +511,13 @@ TEST(WarpRounding, RoundsToNearestWhateverTheCallersMode) {
   for (std::size_t i = 0; i < s.size(); ++i) s[i] = static_cast<float>(i % 7) * 0.3f + i / 9.0f;
   const LumiSize ss{30, 20};
   const LumiRect r{0, 0, 30, 20};
-  ASSERT_EQ(lumiRotateCenter_32f_C1R(s.data(), ss, 120, r, a.data(), 120, r, 21, 14, 9, lumInterpCubic), lumStatusOk);
+  ASSERT_EQ(
+      lumiRotateCenter_32f_C1R(s.data(), ss, 120, r, a.data(), 120, r, 21, 14, 9, lumInterpCubic),
+      lumStatusOk);
   const unsigned saved = _MM_GET_ROUNDING_MODE();
   _MM_SET_ROUNDING_MODE(_MM_ROUND_TOWARD_ZERO);
-  const LumStatus st = lumiRotateCenter_32f_C1R(s.data(), ss, 120, r, b.data(), 120, r, 21, 14, 9, lumInterpCubic);
+  const LumStatus st =
+      lumiRotateCenter_32f_C1R(s.data(), ss, 120, r, b.data(), 120, r, 21, 14, 9, lumInterpCubic);
   const unsigned mode = _MM_GET_ROUNDING_MODE();
   _MM_SET_ROUNDING_MODE(saved);
   EXPECT_EQ(st, lumStatusOk);

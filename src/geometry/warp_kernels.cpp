@@ -109,10 +109,9 @@ HWY_INLINE bool blockTaps(DI di, const uint8_t* src, int step, int w, int h, hn:
     if (x1 - x0 > (kPair ? 14 : 15) || rows > 4 || x0 + 16 > w || y0 + rows > h) return false;
     const uint8_t* p = src + static_cast<std::ptrdiff_t>(y0) * step + x0;
     const hn::Vec<DI> b = hn::Sub(ix, hn::Set(di, x0));
-    const hn::Vec<DI> idx =
-        kPair ? hn::Or(hn::Or(b, hn::ShiftLeft<8>(hn::Add(b, hn::Set(di, 1)))),
-                       hn::Set(di, static_cast<int32_t>(0x80800000u)))
-              : hn::Or(b, hn::Set(di, static_cast<int32_t>(0x80808000u)));
+    const hn::Vec<DI> idx = kPair ? hn::Or(hn::Or(b, hn::ShiftLeft<8>(hn::Add(b, hn::Set(di, 1)))),
+                                           hn::Set(di, static_cast<int32_t>(0x80800000u)))
+                                  : hn::Or(b, hn::Set(di, static_cast<int32_t>(0x80808000u)));
     const auto i8 = hn::BitCast(d8, idx);
     hn::Vec<DI> g[4];
     for (int r = 0; r < rows; ++r, p += step)
@@ -176,7 +175,8 @@ void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
           const VI wx0 = hn::Sub(hn::Set(di, 16384), wx), wy0 = hn::Sub(hn::Set(di, 16384), wy);
           if constexpr (kCh == 1) {
             VI t, u, r;
-            if (kPos == warp::kPosLinear && blockTaps<true>(di, b8, a.step, a.w, a.h, ix, iy, &t, &u)) {
+            if (kPos == warp::kPosLinear &&
+                blockTaps<true>(di, b8, a.step, a.w, a.h, ix, iy, &t, &u)) {
               r = lerp8(di, byteOf(di, t, 0), byteOf(di, t, 1), byteOf(di, u, 0), byteOf(di, u, 1),
                         wx, wx0, wy, wy0);
             } else {
@@ -240,10 +240,10 @@ void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
         }
       } else if constexpr (kMode == warp::kNearest) {
         const VD half = hn::Set(d64, 0.5);
-        const VI ix =
-            hn::Min(hn::DemoteTo(di, hn::Add(inside ? x : clampPos(d64, x, a.w), half)), hn::Set(di, a.w - 1));
-        const VI iy =
-            hn::Min(hn::DemoteTo(di, hn::Add(inside ? y : clampPos(d64, y, a.h), half)), hn::Set(di, a.h - 1));
+        const VI ix = hn::Min(hn::DemoteTo(di, hn::Add(inside ? x : clampPos(d64, x, a.w), half)),
+                              hn::Set(di, a.w - 1));
+        const VI iy = hn::Min(hn::DemoteTo(di, hn::Add(inside ? y : clampPos(d64, y, a.h), half)),
+                              hn::Set(di, a.h - 1));
         const VI off = hn::Add(hn::Mul(iy, step), hn::Mul(ix, chBytes));
         if constexpr (sizeof(T) == 4 || kCh == 4) {  // one whole element or pixel per lane
           const VI g = gather(di, base, off);
