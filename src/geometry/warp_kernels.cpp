@@ -51,7 +51,8 @@ HWY_INLINE hn::Vec<D> clampPos(D d, hn::Vec<D> v, int n) {
 // linearTap: tap index (at most n - 2) as double and the clamped position.
 template <class D>
 HWY_INLINE hn::Vec<D> linearIndex(D d, hn::Vec<D>* v, int n, bool inside) {
-  if (!inside) *v = clampPos(d, *v, n);
+  if (inside) return hn::Floor(*v);  // at most n - 1 - 1e-6: the floor is at most n - 2
+  *v = clampPos(d, *v, n);
   return hn::Min(hn::Floor(*v), hn::Set(d, static_cast<double>(n - 2)));
 }
 
