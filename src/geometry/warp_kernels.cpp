@@ -23,14 +23,15 @@ LUMI_SIMD_BEGIN
 
 using warp::SpanArgs;
 
-// Source positions of pixels k .. k + N - 1 of the span (positionAt, lane by lane).
+// Source positions of pixels k .. k + N - 1 of the span (positionAt, lane by lane; kk holds
+// k + lane).
 template <int kPos, class D>
-HWY_INLINE void positions(D d, const SpanArgs<void>& a, int k, hn::Vec<D>* x, hn::Vec<D>* y) {
+HWY_INLINE void positions(D d, const SpanArgs<void>& a, int k, hn::Vec<D> kk, hn::Vec<D>* x,
+                          hn::Vec<D>* y) {
   if constexpr (kPos == warp::kPosArrays) {
     *x = hn::LoadU(d, a.X + k);
     *y = hn::LoadU(d, a.Y + k);
   } else {
-    const auto kk = hn::Add(hn::Set(d, static_cast<double>(k)), hn::Iota(d, 0.0));
     *x = hn::Add(hn::Set(d, a.x0), hn::Mul(kk, hn::Set(d, a.dx)));
     *y = hn::Add(hn::Set(d, a.y0), hn::Mul(kk, hn::Set(d, a.dy)));
     if constexpr (kPos == warp::kPosProjective) {
@@ -161,9 +162,11 @@ void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
       inside = std::fmin(xa, xb) >= m && std::fmax(xa, xb) <= a.w - 1 - m &&
                std::fmin(ya, yb) >= m && std::fmax(ya, yb) <= a.h - 1 - m;
     }
-    for (; k + N <= n; k += N) {
+    VD kk = hn::Iota(d64, 0.0);  // k + lane, exact
+    const VD stepN = hn::Set(d64, static_cast<double>(N));
+    for (; k + N <= n; k += N, kk = hn::Add(kk, stepN)) {
       VD x, y;
-      positions<kPos>(d64, av, k, &x, &y);
+      positions<kPos>(d64, av, k, kk, &x, &y);
       T* out = d + static_cast<std::ptrdiff_t>(k) * kCh;
       if constexpr (kMode == warp::kLinear) {
         const VD xi = linearIndex(d64, &x, a.w, inside), yi = linearIndex(d64, &y, a.h, inside);
