@@ -27,7 +27,7 @@ enum Tag : int32_t {
   kTagDftR32s = 30,  // real DFT of the integer members
 };
 
-constexpr int kGroup = 16;  // complex columns per batch (two 64-byte lines of a C1 row)
+constexpr int kGroup = 32;  // complex columns per batch (four 64-byte lines of a C1 row)
 
 // The work buffer, carved from one block at 64-byte boundaries.
 struct Scratch {
