@@ -213,6 +213,140 @@ int main(int argc, char** argv) {
     return st;
   }, &opened, "3x3 opening of the threshold mask (erode, dilate)");
 
+  // Geometry on the clean picture: half and double size, a rotation about the centre and a
+  // perspective tilt (pixels the mapped picture does not cover stay mid grey).
+  const Lum8u greyValue[3] = {128, 128, 128};
+  auto fill = [&](Image& im) {
+    return im.channels == 3 ? lumiSet_8u_C3R(greyValue, im.data, im.step, im.roi())
+                            : lumiSet_8u_C1R(128, im.data, im.step, im.roi());
+  };
+  const LumiRect whole{0, 0, clean.width, clean.height};
+  Image half(clean.width / 2, clean.height / 2, clean.channels);
+  step("resized-half", [&] {
+    return rgb ? lumiResize_8u_C3R(clean.data, roi, clean.step, whole, half.data, half.step, half.roi(), 0.5, 0.5, lumInterpSuper)
+               : lumiResize_8u_C1R(clean.data, roi, clean.step, whole, half.data, half.step, half.roi(), 0.5, 0.5, lumInterpSuper);
+  }, &half, "1/2 size, super-sampling");
+  Image twice(clean.width * 2, clean.height * 2, clean.channels);
+  step("resized-double", [&] {
+    return rgb ? lumiResize_8u_C3R(clean.data, roi, clean.step, whole, twice.data, twice.step, twice.roi(), 2.0, 2.0, lumInterpCubic)
+               : lumiResize_8u_C1R(clean.data, roi, clean.step, whole, twice.data, twice.step, twice.roi(), 2.0, 2.0, lumInterpCubic);
+  }, &twice, "2x size, cubic");
+  Image rotated(clean.width, clean.height, clean.channels);
+  step("rotated", [&] {
+    LumStatus st = fill(rotated);
+    const LumiRect out{0, 0, rotated.width, rotated.height};
+    const double cx = (clean.width - 1) / 2.0, cy = (clean.height - 1) / 2.0;
+    if (!st)
+      st = rgb ? lumiRotateCenter_8u_C3R(clean.data, roi, clean.step, whole, rotated.data, rotated.step, out, 30.0, cx, cy, lumInterpLinear)
+               : lumiRotateCenter_8u_C1R(clean.data, roi, clean.step, whole, rotated.data, rotated.step, out, 30.0, cx, cy, lumInterpLinear);
+    return st;
+  }, &rotated, "30 degrees about the centre, linear");
+  Image tilted(clean.width, clean.height, clean.channels);
+  step("perspective", [&] {
+    LumStatus st = fill(tilted);
+    const double w = clean.width - 1, h = clean.height - 1;
+    const double quad[4][2] = {{0.2 * w, 0.05 * h}, {0.8 * w, 0.05 * h}, {w, h}, {0, h}};
+    double coeffs[3][3];
+    if (!st) st = lumiGetPerspectiveTransform(whole, quad, coeffs);
+    const LumiRect out{0, 0, tilted.width, tilted.height};
+    if (!st)
+      st = rgb ? lumiWarpPerspective_8u_C3R(clean.data, roi, clean.step, whole, tilted.data, tilted.step, out, coeffs, lumInterpLinear)
+               : lumiWarpPerspective_8u_C1R(clean.data, roi, clean.step, whole, tilted.data, tilted.step, out, coeffs, lumInterpLinear);
+    return st;
+  }, &tilted, "the picture tilted back, linear");
+
+  // Frequency domain: the log-magnitude spectrum of the grey picture (zero frequency in the
+  // middle), and the energy of the AC coefficients of every 8x8 block's DCT.
+  Image spectrum(grey.width, grey.height, 1);
+  step("spectrum", [&] {
+    int fs = 0, ms = 0, bufSize = 0;
+    Lum32f* pf = lumiMalloc_32f_C1(grey.width, grey.height, &fs);
+    Lum32f* pm = lumiMalloc_32f_C1(grey.width, grey.height, &ms);
+    Image logMag(grey.width, grey.height, 1);
+    LumiDFTSpec* spec = nullptr;
+    LumStatus st = pf && pm ? lumiDFTInitAlloc_R_32f(&spec, roi, lumFftDivFwdByN, lumHintNone) : lumStatusMemAllocErr;
+    if (!st) st = lumiDFTGetBufSize_R_32f(spec, &bufSize);
+    Lum8u* buffer = st ? nullptr : lumsMalloc_8u(bufSize > 0 ? bufSize : 1);
+    if (!st && !buffer) st = lumStatusMemAllocErr;
+    if (!st) st = lumiConvert_8u32f_C1R(grey.data, grey.step, pf, fs, roi);
+    if (!st) st = lumiDFTFwd_RToPack_32f_C1R(pf, fs, pf, fs, spec, buffer);
+    if (!st) st = lumiMagnitudePack_32f_C1R(pf, fs, pm, ms, roi);
+    if (!st) st = lumiAddC_32f_C1IR(1.0f, pm, ms, roi);
+    if (!st) st = lumiLn_32f_C1IR(pm, ms, roi);
+    Lum32f lo = 0, hi = 1;
+    if (!st) st = lumiMinMax_32f_C1R(pm, ms, roi, &lo, &hi);
+    if (!st) st = lumiScale_32f8u_C1R(pm, ms, logMag.data, logMag.step, roi, lo, hi > lo ? hi : lo + 1);
+    // swap the quadrants so that the zero frequency sits in the middle
+    const int hw = grey.width / 2, hh = grey.height / 2;
+    for (int q = 0; q < 4 && !st; ++q) {
+      const int sx = q & 1 ? hw : 0, sy = q & 2 ? hh : 0;
+      const int w = q & 1 ? grey.width - hw : hw, h = q & 2 ? grey.height - hh : hh;
+      const int dx = q & 1 ? 0 : grey.width - hw, dy = q & 2 ? 0 : grey.height - hh;
+      st = lumiCopy_8u_C1R(logMag.data + sy * logMag.step + sx, logMag.step,
+                           spectrum.data + dy * spectrum.step + dx, spectrum.step, LumiSize{w, h});
+    }
+    lumsFree(buffer);
+    lumiDFTFree_R_32f(spec);
+    lumiFree(pf);
+    lumiFree(pm);
+    return st;
+  }, &spectrum, "log(1 + |DFT|), zero frequency in the middle");
+
+  const int bw = grey.width / 8, bh = grey.height / 8;
+  Image energy(bw * 8, bh * 8, 1);
+  step("dct-energy", [&] {
+    int es = 0;
+    Lum32f* e = lumiMalloc_32f_C1(bw, bh, &es);
+    Image small(bw, bh, 1);
+    LumStatus st = e ? lumStatusOk : lumStatusMemAllocErr;
+    Lum16s coeffs[64];
+    for (int by = 0; by < bh && !st; ++by)
+      for (int bx = 0; bx < bw && !st; ++bx) {
+        st = lumiDCT8x8Fwd_8u16s_C1R(grey.data + 8 * by * grey.step + 8 * bx, grey.step, coeffs);
+        double sum = 0;
+        for (int k = 1; k < 64; ++k) sum += static_cast<double>(coeffs[k]) * coeffs[k];
+        reinterpret_cast<Lum32f*>(reinterpret_cast<Lum8u*>(e) + by * es)[bx] = static_cast<Lum32f>(std::log1p(sum));
+      }
+    const LumiSize sr{bw, bh};
+    Lum32f lo = 0, hi = 1;
+    if (!st) st = lumiMinMax_32f_C1R(e, es, sr, &lo, &hi);
+    if (!st) st = lumiScale_32f8u_C1R(e, es, small.data, small.step, sr, lo, hi > lo ? hi : lo + 1);
+    if (!st)
+      st = lumiResize_8u_C1R(small.data, sr, small.step, LumiRect{0, 0, bw, bh}, energy.data, energy.step,
+                             energy.roi(), 8.0, 8.0, lumInterpNearest);
+    lumiFree(e);
+    return st;
+  }, &energy, "log energy of the AC coefficients of each 8x8 block");
+
+  // Template matching: a 48x48 patch of the clean picture found in the noisy one.
+  const int tw = 48, tx = grey.width * 3 / 5, ty = grey.height / 3;
+  Image found(grey.width, grey.height, 1);
+  int fx = -1, fy = -1;
+  step("template-match", [&] {
+    const LumiSize ts{tw, tw}, rs{grey.width - tw + 1, grey.height - tw + 1};
+    int cs = 0;
+    Lum32f* score = lumiMalloc_32f_C1(rs.width, rs.height, &cs);
+    LumStatus st = score ? lumStatusOk : lumStatusMemAllocErr;
+    if (!st)
+      st = lumiCrossCorrValid_NormLevel_8u32f_C1R(noisyGrey.data, noisyGrey.step, roi, grey.data + ty * grey.step + tx,
+                                                 grey.step, ts, score, cs);
+    Lum32f best = 0;
+    if (!st) st = lumiMaxIndx_32f_C1R(score, cs, rs, &best, &fx, &fy);
+    if (!st) st = lumiCopy_8u_C1R(noisyGrey.data, noisyGrey.step, found.data, found.step, roi);
+    // a white frame around the match
+    for (int t = 0; t < 2 && !st; ++t) {
+      Lum8u* corner = found.data + (fy + t) * found.step + fx + t;
+      const int side = tw - 2 * t;
+      st = lumiSet_8u_C1R(255, corner, found.step, LumiSize{side, 1});
+      if (!st) st = lumiSet_8u_C1R(255, corner + (side - 1) * found.step, found.step, LumiSize{side, 1});
+      if (!st) st = lumiSet_8u_C1R(255, corner, found.step, LumiSize{1, side});
+      if (!st) st = lumiSet_8u_C1R(255, corner + side - 1, found.step, LumiSize{1, side});
+    }
+    lumiFree(score);
+    return st;
+  }, &found, "48x48 patch of the clean picture, found in the noisy one");
+  std::printf("  template cut at (%d, %d), best match at (%d, %d)\n", tx, ty, fx, fy);
+
   // Histogram of the noisy picture, drawn as 64 bars.
   const int bins = 64, barW = 4, chartH = 128;
   Image chart(bins * barW, chartH, 1);

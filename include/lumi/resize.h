@@ -103,7 +103,7 @@ LUMI_API LumStatus lumiResizeCenter_32f_P4R(const Lum32f* const pSrc[4], LumiSiz
    (what lumiGetResizeFract gives when the scaled ROI is at most one pixel) writes one pixel;
    a negative or NaN step is lumStatusResizeFactorErr and lumInterpSuper is not accepted.
    Positions outside the image take its edge pixels. With the steps of lumiGetResizeFract and
-   no shift the result is that of lumiResize (src/geometry/resize.cpp). */
+   no shift the result is that of lumiResize; src/geometry/resize.cpp. */
 LUMI_API LumStatus lumiResizeShift_8u_C1R(const Lum8u* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, Lum8u* pDst, int dstStep, LumiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
 LUMI_API LumStatus lumiResizeShift_8u_C3R(const Lum8u* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, Lum8u* pDst, int dstStep, LumiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
 LUMI_API LumStatus lumiResizeShift_8u_C4R(const Lum8u* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, Lum8u* pDst, int dstStep, LumiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
@@ -123,8 +123,8 @@ LUMI_API LumStatus lumiResizeShift_32f_AC4R(const Lum32f* pSrc, LumiSize srcSize
 LUMI_API LumStatus lumiResizeShift_32f_P3R(const Lum32f* const pSrc[3], LumiSize srcSize, int srcStep, LumiRect srcRoi, Lum32f* const pDst[3], int dstStep, LumiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
 LUMI_API LumStatus lumiResizeShift_32f_P4R(const Lum32f* const pSrc[4], LumiSize srcSize, int srcStep, LumiRect srcRoi, Lum32f* const pDst[4], int dstStep, LumiSize dstRoiSize, double xFr, double yFr, double xShift, double yShift, int interpolation);
 
-/* GetResizeFract: the steps that make lumiResizeShift reproduce lumiResize (after the same
-   lowering of the mode for small images): nearest 1 / factor, other modes (w - 1) /
+/* GetResizeFract: the steps that make lumiResizeShift reproduce lumiResize, after the same
+   lowering of the mode for small images: nearest 1 / factor, other modes (w - 1) /
    (w factor - 1), or 0 when w factor <= 1. Validation: sizes, ROI origin (warning), factors,
    null outputs, mode (src/geometry/resize.cpp). */
 LUMI_API LumStatus lumiGetResizeFract(LumiSize srcSize, LumiRect srcRoi, double xFactor, double yFactor, double* xFr, double* yFr, int interpolation);
