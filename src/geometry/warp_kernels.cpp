@@ -244,10 +244,16 @@ void warpSpan(const SpanArgs<T>& args, T* HWY_RESTRICT d, int n) {
         }
       } else if constexpr (kMode == warp::kNearest) {
         const VD half = hn::Set(d64, 0.5);
-        const VI ix = hn::Min(hn::DemoteTo(di, hn::Add(inside ? x : clampPos(d64, x, a.w), half)),
-                              hn::Set(di, a.w - 1));
-        const VI iy = hn::Min(hn::DemoteTo(di, hn::Add(inside ? y : clampPos(d64, y, a.h), half)),
-                              hn::Set(di, a.h - 1));
+        VI ix, iy;
+        if (inside) {  // at most n - 1 - 1e-6: x + 0.5 truncates to at most n - 1
+          ix = hn::DemoteTo(di, hn::Add(x, half));
+          iy = hn::DemoteTo(di, hn::Add(y, half));
+        } else {
+          ix =
+              hn::Min(hn::DemoteTo(di, hn::Add(clampPos(d64, x, a.w), half)), hn::Set(di, a.w - 1));
+          iy =
+              hn::Min(hn::DemoteTo(di, hn::Add(clampPos(d64, y, a.h), half)), hn::Set(di, a.h - 1));
+        }
         const VI off = hn::Add(hn::Mul(iy, step), hn::Mul(ix, chBytes));
         if constexpr (sizeof(T) == 4 || kCh == 4) {  // one whole element or pixel per lane
           const VI g = gather(di, base, off);
