@@ -464,52 +464,54 @@ LumStatus walk(const Planes<T>& im, const Frame& f, const LumiRect& roi, int mod
   const std::size_t oldBytes =
       smooth ? static_cast<std::size_t>(bytesOf(width, L::kCh, sizeof(T))) : 0;
   const SpanFn<T> fn = pickSpan<T, L>(mode, Map::kPos);
-  return forRowsWithScratch(
-      rows, parallel, posBytes + oldBytes, [&](int b0, int b1, Lum8u* scratch) {
-        NearestRounding rounding;  // per thread
-        double* X = reinterpret_cast<double*>(scratch);
-        double* Y = X + width;
-        T* old = reinterpret_cast<T*>(scratch + posBytes);
-        SpanArgs<T> a{nullptr, f.srcStep, f.srcSize.width, f.srcSize.height, 0, 0, 0, 0, 0, 0,
-                      X,       Y};
-        // one run of n pixels of row y from column xs
-        auto run = [&](int y, int xs, int n) {
-          if (Map::kPos == kPosArrays || smooth) map.span(y, xs, n, X, Y);
-          if constexpr (Map::kPos != kPosArrays) map.start(y, xs, &a);
-          for (int p = 0; p < im.n; ++p) {
-            a.src = im.src[p];
-            T* d = rowAt(im.dst[p], f.dstStep, y) + elemsOf(xs, L::kCh);
-            if (smooth)
-              std::memcpy(old, d, static_cast<std::size_t>(bytesOf(n, L::kCh, sizeof(T))));
-            fn(a, d, n);
-            if (smooth) blendSpan<T, L::kCh, L::kUse>(d, old, n, X, Y, roi);
-          }
-        };
-        // Tiles of kTileRows rows by kTileCols columns (columns counted from 0, so a pixel's run
-        // does not depend on the band): the source pixels a tile reads stay in the first-level
-        // cache.
-        int sx[kTileRows], ex[kTileRows];
-        for (int g0 = b0; g0 < b1; g0 += kTileRows) {
-          const int g1 = g0 + kTileRows < b1 ? g0 + kTileRows : b1;
-          int lo = INT_MAX, hi = INT_MIN;
-          for (int r = g0; r < g1; ++r) {
-            if (!spanAt(poly, ry0 + r, f.dstRoi, &sx[r - g0], &ex[r - g0])) {
-              sx[r - g0] = 1, ex[r - g0] = 0;
-              continue;
-            }
-            lo = sx[r - g0] < lo ? sx[r - g0] : lo;
-            hi = ex[r - g0] > hi ? ex[r - g0] : hi;
-          }
-          if (lo > hi) continue;
-          for (long long c = lo / kTileCols * kTileCols; c <= hi; c += kTileCols)
-            for (int r = g0; r < g1; ++r) {
-              const int xs = sx[r - g0] > c ? sx[r - g0] : static_cast<int>(c);
-              const int xe =
-                  ex[r - g0] < c + kTileCols - 1 ? ex[r - g0] : static_cast<int>(c + kTileCols - 1);
-              if (xs <= xe) run(ry0 + r, xs, xe - xs + 1);
-            }
+  auto body = [&](int b0, int b1, Lum8u* scratch) {
+    NearestRounding rounding;  // per thread
+    double* X = reinterpret_cast<double*>(scratch);
+    double* Y = scratch ? X + width : nullptr;
+    T* old = scratch ? reinterpret_cast<T*>(scratch + posBytes) : nullptr;
+    SpanArgs<T> a{nullptr, f.srcStep, f.srcSize.width, f.srcSize.height, 0, 0, 0, 0, 0, 0, X, Y};
+    // one run of n pixels of row y from column xs
+    auto run = [&](int y, int xs, int n) {
+      if (Map::kPos == kPosArrays || smooth) map.span(y, xs, n, X, Y);
+      if constexpr (Map::kPos != kPosArrays) map.start(y, xs, &a);
+      for (int p = 0; p < im.n; ++p) {
+        a.src = im.src[p];
+        T* d = rowAt(im.dst[p], f.dstStep, y) + elemsOf(xs, L::kCh);
+        if (smooth) std::memcpy(old, d, static_cast<std::size_t>(bytesOf(n, L::kCh, sizeof(T))));
+        fn(a, d, n);
+        if (smooth) blendSpan<T, L::kCh, L::kUse>(d, old, n, X, Y, roi);
+      }
+    };
+    // Tiles of kTileRows rows by kTileCols columns (columns counted from 0, so a pixel's run
+    // does not depend on the band): the source pixels a tile reads stay in the first-level
+    // cache.
+    int sx[kTileRows], ex[kTileRows];
+    for (int g0 = b0; g0 < b1; g0 += kTileRows) {
+      const int g1 = g0 + kTileRows < b1 ? g0 + kTileRows : b1;
+      int lo = INT_MAX, hi = INT_MIN;
+      for (int r = g0; r < g1; ++r) {
+        if (!spanAt(poly, ry0 + r, f.dstRoi, &sx[r - g0], &ex[r - g0])) {
+          sx[r - g0] = 1, ex[r - g0] = 0;
+          continue;
         }
-      });
+        lo = sx[r - g0] < lo ? sx[r - g0] : lo;
+        hi = ex[r - g0] > hi ? ex[r - g0] : hi;
+      }
+      if (lo > hi) continue;
+      for (long long c = lo / kTileCols * kTileCols; c <= hi; c += kTileCols)
+        for (int r = g0; r < g1; ++r) {
+          const int xs = sx[r - g0] > c ? sx[r - g0] : static_cast<int>(c);
+          const int xe =
+              ex[r - g0] < c + kTileCols - 1 ? ex[r - g0] : static_cast<int>(c + kTileCols - 1);
+          if (xs <= xe) run(ry0 + r, xs, xe - xs + 1);
+        }
+    }
+  };
+  if (Map::kPos != kPosArrays && !smooth) {  // the kernels make their own positions: no scratch
+    forRows(rows, parallel, [&](int b0, int b1) { body(b0, b1, nullptr); });
+    return lumStatusOk;
+  }
+  return forRowsWithScratch(rows, parallel, posBytes + oldBytes, body);
 }
 
 // The common tail after the coefficient test: the source ROI cut (29, -57), the forward corner
