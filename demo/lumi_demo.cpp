@@ -264,7 +264,7 @@ int main(int argc, char** argv) {
     Lum32f* pm = lumiMalloc_32f_C1(grey.width, grey.height, &ms);
     Image logMag(grey.width, grey.height, 1);
     LumiDFTSpec* spec = nullptr;
-    LumStatus st = pf && pm ? lumiDFTInitAlloc_R_32f(&spec, roi, lumFftDivFwdByN, lumHintNone) : lumStatusMemAllocErr;
+    LumStatus st = pf && pm ? lumiDFTInitAlloc_R_32f(&spec, roi, lumFftNoDivByAny, lumHintNone) : lumStatusMemAllocErr;
     if (!st) st = lumiDFTGetBufSize_R_32f(spec, &bufSize);
     Lum8u* buffer = st ? nullptr : lumsMalloc_8u(bufSize > 0 ? bufSize : 1);
     if (!st && !buffer) st = lumStatusMemAllocErr;
