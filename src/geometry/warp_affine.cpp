@@ -11,25 +11,23 @@ namespace {
 
 // The affine engine: coeffs map source to destination (back: destination to source).
 template <class T, class L>
-LumStatus affineImpl(const Planes<T>& im, const Frame& f, const double c[2][3], bool back) {
+LumStatus affineWarp(const Planes<T>& im, const Frame& f, const double c[2][3], bool back) {
   LumStatus st = checkFront(im, f);
   if (st != lumStatusOk) return st;
   if (singular(c[0][0], c[0][1], c[1][0], c[1][1])) return lumStatusCoeffErr;
   AffineMap map;
   double fwd[2][3];
-  if (back) {
-    std::memcpy(map.a, c, sizeof(fwd));
-    if (!invertAffine(c, fwd)) return lumStatusCoeffErr;
-  } else {
-    std::memcpy(fwd, c, sizeof(fwd));
-    if (!invertAffine(c, map.a)) return lumStatusCoeffErr;
-  }
-  return warpTail<T, L>(im, f, map, [&](LumiRect roi, Pt q[4]) {
-    double qq[4][2];
-    const LumStatus s = lumiGetAffineQuad(roi, qq, fwd);
-    toPts(qq, q);
-    return s;
-  });
+  if (!bothWays<2>(c, back, map.a, fwd, invertAffine)) return lumStatusCoeffErr;
+  return warpTail<T, L>(
+      im, f, map, [&](LumiRect roi, Pt q[4]) { return quadBy(lumiGetAffineQuad, roi, fwd, q); });
+}
+template <class T, class L>
+LumStatus affineImpl(const Planes<T>& im, const Frame& f, const double c[2][3]) {
+  return affineWarp<T, L>(im, f, c, false);
+}
+template <class T, class L>
+LumStatus affineBackImpl(const Planes<T>& im, const Frame& f, const double c[2][3]) {
+  return affineWarp<T, L>(im, f, c, true);
 }
 
 // The affine map through the first three corners of sq and dq; warns (28) when the fourth
@@ -37,13 +35,9 @@ LumStatus affineImpl(const Planes<T>& im, const Frame& f, const double c[2][3], 
 template <class T, class L>
 LumStatus affineQuadImpl(const Planes<T>& im, const Frame& f, const double sq[4][2],
                          const double dq[4][2]) {
-  if (sq == nullptr || dq == nullptr) return lumStatusNullPtrErr;
-  LumStatus st = checkFront(im, f);
-  if (st != lumStatusOk) return st;
   Pt s[4], d[4];
-  toPts(sq, s);
-  toPts(dq, d);
-  if (degenerate(s) || degenerate(d)) return lumStatusQuadErr;
+  LumStatus st = checkQuads(im, f, sq, dq, s, d);
+  if (st != lumStatusOk) return st;
   // [d1 - d0, d2 - d0] = A [s1 - s0, s2 - s0]
   const double s00 = s[1].x - s[0].x, s01 = s[2].x - s[0].x;
   const double s10 = s[1].y - s[0].y, s11 = s[2].y - s[0].y;
@@ -68,13 +62,7 @@ LumStatus affineQuadImpl(const Planes<T>& im, const Frame& f, const double sq[4]
   AffineMap map;
   if (!invertAffine(fwd, map.a)) return lumStatusQuadErr;
   st = warpTail<T, L>(
-      im, f, map,
-      [&](LumiRect roi, Pt q[4]) {
-        double qq[4][2];
-        const LumStatus r = lumiGetAffineQuad(roi, qq, fwd);
-        toPts(qq, q);
-        return r;
-      },
+      im, f, map, [&](LumiRect roi, Pt q[4]) { return quadBy(lumiGetAffineQuad, roi, fwd, q); },
       d);
   return st == lumStatusOk && changed ? lumStatusAffineQuadChangedWarn : st;
 }
@@ -145,7 +133,7 @@ LumStatus rotateImpl(const Planes<T>& im, const Frame& f, double angle, double x
   }
   const double r = a * (3.14159265358979323846 / 180.0);
   const double c[2][3] = {{std::cos(r), std::sin(r), xs}, {-std::sin(r), std::cos(r), ys}};
-  return affineImpl<T, L>(im, f, c, false);
+  return affineImpl<T, L>(im, f, c);
 }
 
 template <class T, class L>
@@ -160,7 +148,7 @@ template <class T, class L>
 LumStatus shearImpl(const Planes<T>& im, const Frame& f, double sx, double sy, double xs,
                     double ys) {
   const double c[2][3] = {{1.0, sx, xs}, {sy, 1.0, ys}};
-  return affineImpl<T, L>(im, f, c, false);
+  return affineImpl<T, L>(im, f, c);
 }
 
 }  // namespace
@@ -170,86 +158,22 @@ LumStatus shearImpl(const Planes<T>& im, const Frame& f, double sx, double sy, d
 using namespace lumi;
 using namespace lumi::warp;
 
-#define LUMI_WARP_AFFINE(NAME, T, L)                                                              \
+// Rotations about the origin and about a centre share a signature: angle and a point.
+#define LUMI_ROTATE(NAME, IMPL, T, L)                                                             \
   LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
-                          int dstStep, LumiRect dstRoi, const double coeffs[2][3],                \
+                          int dstStep, LumiRect dstRoi, double angle, double x, double y,         \
                           int interpolation) {                                                    \
-    return affineImpl<T, L>(packed(pSrc, pDst),                                                   \
-                            frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),    \
-                            coeffs, false);                                                       \
+    return IMPL<T, L>(packed(pSrc, pDst),                                                         \
+                      frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), angle,   \
+                      x, y);                                                                      \
   }
-#define LUMI_WARP_AFFINE_P(NAME, T, N)                                                            \
+#define LUMI_ROTATE_P(NAME, IMPL, T, N)                                                           \
   LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
-                          T* const pDst[N], int dstStep, LumiRect dstRoi,                         \
-                          const double coeffs[2][3], int interpolation) {                         \
-    return affineImpl<T, C1>(planar<T, N>(pSrc, pDst),                                            \
-                             frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),   \
-                             coeffs, false);                                                      \
-  }
-#define LUMI_WARP_AFFINE_BACK(NAME, T, L)                                                         \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
-                          int dstStep, LumiRect dstRoi, const double coeffs[2][3],                \
-                          int interpolation) {                                                    \
-    return affineImpl<T, L>(packed(pSrc, pDst),                                                   \
-                            frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),    \
-                            coeffs, true);                                                        \
-  }
-#define LUMI_WARP_AFFINE_BACK_P(NAME, T, N)                                                       \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
-                          T* const pDst[N], int dstStep, LumiRect dstRoi,                         \
-                          const double coeffs[2][3], int interpolation) {                         \
-    return affineImpl<T, C1>(planar<T, N>(pSrc, pDst),                                            \
-                             frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),   \
-                             coeffs, true);                                                       \
-  }
-#define LUMI_WARP_AFFINE_QUAD(NAME, T, L)                                                          \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi,           \
-                          const double srcQuad[4][2], T* pDst, int dstStep, LumiRect dstRoi,       \
-                          const double dstQuad[4][2], int interpolation) {                         \
-    return affineQuadImpl<T, L>(packed(pSrc, pDst),                                                \
-                                frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), \
-                                srcQuad, dstQuad);                                                 \
-  }
-#define LUMI_WARP_AFFINE_QUAD_P(NAME, T, N)                                                       \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
-                          const double srcQuad[4][2], T* const pDst[N], int dstStep,              \
-                          LumiRect dstRoi, const double dstQuad[4][2], int interpolation) {       \
-    return affineQuadImpl<T, C1>(                                                                 \
-        planar<T, N>(pSrc, pDst),                                                                 \
-        frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), srcQuad, dstQuad);     \
-  }
-#define LUMI_ROTATE(NAME, T, L)                                                                   \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
-                          int dstStep, LumiRect dstRoi, double angle, double xShift,              \
-                          double yShift, int interpolation) {                                     \
-    return rotateImpl<T, L>(packed(pSrc, pDst),                                                   \
-                            frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),    \
-                            angle, xShift, yShift);                                               \
-  }
-#define LUMI_ROTATE_P(NAME, T, N)                                                                 \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
-                          T* const pDst[N], int dstStep, LumiRect dstRoi, double angle,           \
-                          double xShift, double yShift, int interpolation) {                      \
-    return rotateImpl<T, C1>(planar<T, N>(pSrc, pDst),                                            \
-                             frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),   \
-                             angle, xShift, yShift);                                              \
-  }
-#define LUMI_ROTATE_CENTER(NAME, T, L)                                                            \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
-                          int dstStep, LumiRect dstRoi, double angle, double xCenter,             \
-                          double yCenter, int interpolation) {                                    \
-    return rotateCenterImpl<T, L>(                                                                \
-        packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),    \
-        angle, xCenter, yCenter);                                                                 \
-  }
-#define LUMI_ROTATE_CENTER_P(NAME, T, N)                                                          \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
-                          T* const pDst[N], int dstStep, LumiRect dstRoi, double angle,           \
-                          double xCenter, double yCenter, int interpolation) {                    \
-    return rotateCenterImpl<T, C1>(                                                               \
-        planar<T, N>(pSrc, pDst),                                                                 \
-        frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), angle, xCenter,        \
-        yCenter);                                                                                 \
+                          T* const pDst[N], int dstStep, LumiRect dstRoi, double angle, double x, \
+                          double y, int interpolation) {                                          \
+    return IMPL<T, C1>(planar<T, N>(pSrc, pDst),                                                  \
+                       frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), angle,  \
+                       x, y);                                                                     \
   }
 #define LUMI_SHEAR(NAME, T, L)                                                                    \
   LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
@@ -268,100 +192,100 @@ using namespace lumi::warp;
                             xShear, yShear, xShift, yShift);                                      \
   }
 
-LUMI_WARP_AFFINE(lumiWarpAffine_8u_C1R, Lum8u, C1)
-LUMI_WARP_AFFINE(lumiWarpAffine_8u_C3R, Lum8u, C3)
-LUMI_WARP_AFFINE(lumiWarpAffine_8u_C4R, Lum8u, C4)
-LUMI_WARP_AFFINE(lumiWarpAffine_8u_AC4R, Lum8u, AC4)
-LUMI_WARP_AFFINE_P(lumiWarpAffine_8u_P3R, Lum8u, 3)
-LUMI_WARP_AFFINE_P(lumiWarpAffine_8u_P4R, Lum8u, 4)
-LUMI_WARP_AFFINE(lumiWarpAffine_16u_C1R, Lum16u, C1)
-LUMI_WARP_AFFINE(lumiWarpAffine_16u_C3R, Lum16u, C3)
-LUMI_WARP_AFFINE(lumiWarpAffine_16u_C4R, Lum16u, C4)
-LUMI_WARP_AFFINE(lumiWarpAffine_16u_AC4R, Lum16u, AC4)
-LUMI_WARP_AFFINE_P(lumiWarpAffine_16u_P3R, Lum16u, 3)
-LUMI_WARP_AFFINE_P(lumiWarpAffine_16u_P4R, Lum16u, 4)
-LUMI_WARP_AFFINE(lumiWarpAffine_32f_C1R, Lum32f, C1)
-LUMI_WARP_AFFINE(lumiWarpAffine_32f_C3R, Lum32f, C3)
-LUMI_WARP_AFFINE(lumiWarpAffine_32f_C4R, Lum32f, C4)
-LUMI_WARP_AFFINE(lumiWarpAffine_32f_AC4R, Lum32f, AC4)
-LUMI_WARP_AFFINE_P(lumiWarpAffine_32f_P3R, Lum32f, 3)
-LUMI_WARP_AFFINE_P(lumiWarpAffine_32f_P4R, Lum32f, 4)
+LUMI_WARP_COEFFS(lumiWarpAffine_8u_C1R, affineImpl, Lum8u, C1, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffine_8u_C3R, affineImpl, Lum8u, C3, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffine_8u_C4R, affineImpl, Lum8u, C4, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffine_8u_AC4R, affineImpl, Lum8u, AC4, 2, 3)
+LUMI_WARP_COEFFS_P(lumiWarpAffine_8u_P3R, affineImpl, Lum8u, 3, 2, 3)
+LUMI_WARP_COEFFS_P(lumiWarpAffine_8u_P4R, affineImpl, Lum8u, 4, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffine_16u_C1R, affineImpl, Lum16u, C1, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffine_16u_C3R, affineImpl, Lum16u, C3, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffine_16u_C4R, affineImpl, Lum16u, C4, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffine_16u_AC4R, affineImpl, Lum16u, AC4, 2, 3)
+LUMI_WARP_COEFFS_P(lumiWarpAffine_16u_P3R, affineImpl, Lum16u, 3, 2, 3)
+LUMI_WARP_COEFFS_P(lumiWarpAffine_16u_P4R, affineImpl, Lum16u, 4, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffine_32f_C1R, affineImpl, Lum32f, C1, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffine_32f_C3R, affineImpl, Lum32f, C3, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffine_32f_C4R, affineImpl, Lum32f, C4, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffine_32f_AC4R, affineImpl, Lum32f, AC4, 2, 3)
+LUMI_WARP_COEFFS_P(lumiWarpAffine_32f_P3R, affineImpl, Lum32f, 3, 2, 3)
+LUMI_WARP_COEFFS_P(lumiWarpAffine_32f_P4R, affineImpl, Lum32f, 4, 2, 3)
 
-LUMI_WARP_AFFINE_BACK(lumiWarpAffineBack_8u_C1R, Lum8u, C1)
-LUMI_WARP_AFFINE_BACK(lumiWarpAffineBack_8u_C3R, Lum8u, C3)
-LUMI_WARP_AFFINE_BACK(lumiWarpAffineBack_8u_C4R, Lum8u, C4)
-LUMI_WARP_AFFINE_BACK(lumiWarpAffineBack_8u_AC4R, Lum8u, AC4)
-LUMI_WARP_AFFINE_BACK_P(lumiWarpAffineBack_8u_P3R, Lum8u, 3)
-LUMI_WARP_AFFINE_BACK_P(lumiWarpAffineBack_8u_P4R, Lum8u, 4)
-LUMI_WARP_AFFINE_BACK(lumiWarpAffineBack_16u_C1R, Lum16u, C1)
-LUMI_WARP_AFFINE_BACK(lumiWarpAffineBack_16u_C3R, Lum16u, C3)
-LUMI_WARP_AFFINE_BACK(lumiWarpAffineBack_16u_C4R, Lum16u, C4)
-LUMI_WARP_AFFINE_BACK(lumiWarpAffineBack_16u_AC4R, Lum16u, AC4)
-LUMI_WARP_AFFINE_BACK_P(lumiWarpAffineBack_16u_P3R, Lum16u, 3)
-LUMI_WARP_AFFINE_BACK_P(lumiWarpAffineBack_16u_P4R, Lum16u, 4)
-LUMI_WARP_AFFINE_BACK(lumiWarpAffineBack_32f_C1R, Lum32f, C1)
-LUMI_WARP_AFFINE_BACK(lumiWarpAffineBack_32f_C3R, Lum32f, C3)
-LUMI_WARP_AFFINE_BACK(lumiWarpAffineBack_32f_C4R, Lum32f, C4)
-LUMI_WARP_AFFINE_BACK(lumiWarpAffineBack_32f_AC4R, Lum32f, AC4)
-LUMI_WARP_AFFINE_BACK_P(lumiWarpAffineBack_32f_P3R, Lum32f, 3)
-LUMI_WARP_AFFINE_BACK_P(lumiWarpAffineBack_32f_P4R, Lum32f, 4)
+LUMI_WARP_COEFFS(lumiWarpAffineBack_8u_C1R, affineBackImpl, Lum8u, C1, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffineBack_8u_C3R, affineBackImpl, Lum8u, C3, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffineBack_8u_C4R, affineBackImpl, Lum8u, C4, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffineBack_8u_AC4R, affineBackImpl, Lum8u, AC4, 2, 3)
+LUMI_WARP_COEFFS_P(lumiWarpAffineBack_8u_P3R, affineBackImpl, Lum8u, 3, 2, 3)
+LUMI_WARP_COEFFS_P(lumiWarpAffineBack_8u_P4R, affineBackImpl, Lum8u, 4, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffineBack_16u_C1R, affineBackImpl, Lum16u, C1, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffineBack_16u_C3R, affineBackImpl, Lum16u, C3, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffineBack_16u_C4R, affineBackImpl, Lum16u, C4, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffineBack_16u_AC4R, affineBackImpl, Lum16u, AC4, 2, 3)
+LUMI_WARP_COEFFS_P(lumiWarpAffineBack_16u_P3R, affineBackImpl, Lum16u, 3, 2, 3)
+LUMI_WARP_COEFFS_P(lumiWarpAffineBack_16u_P4R, affineBackImpl, Lum16u, 4, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffineBack_32f_C1R, affineBackImpl, Lum32f, C1, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffineBack_32f_C3R, affineBackImpl, Lum32f, C3, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffineBack_32f_C4R, affineBackImpl, Lum32f, C4, 2, 3)
+LUMI_WARP_COEFFS(lumiWarpAffineBack_32f_AC4R, affineBackImpl, Lum32f, AC4, 2, 3)
+LUMI_WARP_COEFFS_P(lumiWarpAffineBack_32f_P3R, affineBackImpl, Lum32f, 3, 2, 3)
+LUMI_WARP_COEFFS_P(lumiWarpAffineBack_32f_P4R, affineBackImpl, Lum32f, 4, 2, 3)
 
-LUMI_WARP_AFFINE_QUAD(lumiWarpAffineQuad_8u_C1R, Lum8u, C1)
-LUMI_WARP_AFFINE_QUAD(lumiWarpAffineQuad_8u_C3R, Lum8u, C3)
-LUMI_WARP_AFFINE_QUAD(lumiWarpAffineQuad_8u_C4R, Lum8u, C4)
-LUMI_WARP_AFFINE_QUAD(lumiWarpAffineQuad_8u_AC4R, Lum8u, AC4)
-LUMI_WARP_AFFINE_QUAD_P(lumiWarpAffineQuad_8u_P3R, Lum8u, 3)
-LUMI_WARP_AFFINE_QUAD_P(lumiWarpAffineQuad_8u_P4R, Lum8u, 4)
-LUMI_WARP_AFFINE_QUAD(lumiWarpAffineQuad_16u_C1R, Lum16u, C1)
-LUMI_WARP_AFFINE_QUAD(lumiWarpAffineQuad_16u_C3R, Lum16u, C3)
-LUMI_WARP_AFFINE_QUAD(lumiWarpAffineQuad_16u_C4R, Lum16u, C4)
-LUMI_WARP_AFFINE_QUAD(lumiWarpAffineQuad_16u_AC4R, Lum16u, AC4)
-LUMI_WARP_AFFINE_QUAD_P(lumiWarpAffineQuad_16u_P3R, Lum16u, 3)
-LUMI_WARP_AFFINE_QUAD_P(lumiWarpAffineQuad_16u_P4R, Lum16u, 4)
-LUMI_WARP_AFFINE_QUAD(lumiWarpAffineQuad_32f_C1R, Lum32f, C1)
-LUMI_WARP_AFFINE_QUAD(lumiWarpAffineQuad_32f_C3R, Lum32f, C3)
-LUMI_WARP_AFFINE_QUAD(lumiWarpAffineQuad_32f_C4R, Lum32f, C4)
-LUMI_WARP_AFFINE_QUAD(lumiWarpAffineQuad_32f_AC4R, Lum32f, AC4)
-LUMI_WARP_AFFINE_QUAD_P(lumiWarpAffineQuad_32f_P3R, Lum32f, 3)
-LUMI_WARP_AFFINE_QUAD_P(lumiWarpAffineQuad_32f_P4R, Lum32f, 4)
+LUMI_WARP_QUAD(lumiWarpAffineQuad_8u_C1R, affineQuadImpl, Lum8u, C1)
+LUMI_WARP_QUAD(lumiWarpAffineQuad_8u_C3R, affineQuadImpl, Lum8u, C3)
+LUMI_WARP_QUAD(lumiWarpAffineQuad_8u_C4R, affineQuadImpl, Lum8u, C4)
+LUMI_WARP_QUAD(lumiWarpAffineQuad_8u_AC4R, affineQuadImpl, Lum8u, AC4)
+LUMI_WARP_QUAD_P(lumiWarpAffineQuad_8u_P3R, affineQuadImpl, Lum8u, 3)
+LUMI_WARP_QUAD_P(lumiWarpAffineQuad_8u_P4R, affineQuadImpl, Lum8u, 4)
+LUMI_WARP_QUAD(lumiWarpAffineQuad_16u_C1R, affineQuadImpl, Lum16u, C1)
+LUMI_WARP_QUAD(lumiWarpAffineQuad_16u_C3R, affineQuadImpl, Lum16u, C3)
+LUMI_WARP_QUAD(lumiWarpAffineQuad_16u_C4R, affineQuadImpl, Lum16u, C4)
+LUMI_WARP_QUAD(lumiWarpAffineQuad_16u_AC4R, affineQuadImpl, Lum16u, AC4)
+LUMI_WARP_QUAD_P(lumiWarpAffineQuad_16u_P3R, affineQuadImpl, Lum16u, 3)
+LUMI_WARP_QUAD_P(lumiWarpAffineQuad_16u_P4R, affineQuadImpl, Lum16u, 4)
+LUMI_WARP_QUAD(lumiWarpAffineQuad_32f_C1R, affineQuadImpl, Lum32f, C1)
+LUMI_WARP_QUAD(lumiWarpAffineQuad_32f_C3R, affineQuadImpl, Lum32f, C3)
+LUMI_WARP_QUAD(lumiWarpAffineQuad_32f_C4R, affineQuadImpl, Lum32f, C4)
+LUMI_WARP_QUAD(lumiWarpAffineQuad_32f_AC4R, affineQuadImpl, Lum32f, AC4)
+LUMI_WARP_QUAD_P(lumiWarpAffineQuad_32f_P3R, affineQuadImpl, Lum32f, 3)
+LUMI_WARP_QUAD_P(lumiWarpAffineQuad_32f_P4R, affineQuadImpl, Lum32f, 4)
 
-LUMI_ROTATE(lumiRotate_8u_C1R, Lum8u, C1)
-LUMI_ROTATE(lumiRotate_8u_C3R, Lum8u, C3)
-LUMI_ROTATE(lumiRotate_8u_C4R, Lum8u, C4)
-LUMI_ROTATE(lumiRotate_8u_AC4R, Lum8u, AC4)
-LUMI_ROTATE_P(lumiRotate_8u_P3R, Lum8u, 3)
-LUMI_ROTATE_P(lumiRotate_8u_P4R, Lum8u, 4)
-LUMI_ROTATE(lumiRotate_16u_C1R, Lum16u, C1)
-LUMI_ROTATE(lumiRotate_16u_C3R, Lum16u, C3)
-LUMI_ROTATE(lumiRotate_16u_C4R, Lum16u, C4)
-LUMI_ROTATE(lumiRotate_16u_AC4R, Lum16u, AC4)
-LUMI_ROTATE_P(lumiRotate_16u_P3R, Lum16u, 3)
-LUMI_ROTATE_P(lumiRotate_16u_P4R, Lum16u, 4)
-LUMI_ROTATE(lumiRotate_32f_C1R, Lum32f, C1)
-LUMI_ROTATE(lumiRotate_32f_C3R, Lum32f, C3)
-LUMI_ROTATE(lumiRotate_32f_C4R, Lum32f, C4)
-LUMI_ROTATE(lumiRotate_32f_AC4R, Lum32f, AC4)
-LUMI_ROTATE_P(lumiRotate_32f_P3R, Lum32f, 3)
-LUMI_ROTATE_P(lumiRotate_32f_P4R, Lum32f, 4)
+LUMI_ROTATE(lumiRotate_8u_C1R, rotateImpl, Lum8u, C1)
+LUMI_ROTATE(lumiRotate_8u_C3R, rotateImpl, Lum8u, C3)
+LUMI_ROTATE(lumiRotate_8u_C4R, rotateImpl, Lum8u, C4)
+LUMI_ROTATE(lumiRotate_8u_AC4R, rotateImpl, Lum8u, AC4)
+LUMI_ROTATE_P(lumiRotate_8u_P3R, rotateImpl, Lum8u, 3)
+LUMI_ROTATE_P(lumiRotate_8u_P4R, rotateImpl, Lum8u, 4)
+LUMI_ROTATE(lumiRotate_16u_C1R, rotateImpl, Lum16u, C1)
+LUMI_ROTATE(lumiRotate_16u_C3R, rotateImpl, Lum16u, C3)
+LUMI_ROTATE(lumiRotate_16u_C4R, rotateImpl, Lum16u, C4)
+LUMI_ROTATE(lumiRotate_16u_AC4R, rotateImpl, Lum16u, AC4)
+LUMI_ROTATE_P(lumiRotate_16u_P3R, rotateImpl, Lum16u, 3)
+LUMI_ROTATE_P(lumiRotate_16u_P4R, rotateImpl, Lum16u, 4)
+LUMI_ROTATE(lumiRotate_32f_C1R, rotateImpl, Lum32f, C1)
+LUMI_ROTATE(lumiRotate_32f_C3R, rotateImpl, Lum32f, C3)
+LUMI_ROTATE(lumiRotate_32f_C4R, rotateImpl, Lum32f, C4)
+LUMI_ROTATE(lumiRotate_32f_AC4R, rotateImpl, Lum32f, AC4)
+LUMI_ROTATE_P(lumiRotate_32f_P3R, rotateImpl, Lum32f, 3)
+LUMI_ROTATE_P(lumiRotate_32f_P4R, rotateImpl, Lum32f, 4)
 
-LUMI_ROTATE_CENTER(lumiRotateCenter_8u_C1R, Lum8u, C1)
-LUMI_ROTATE_CENTER(lumiRotateCenter_8u_C3R, Lum8u, C3)
-LUMI_ROTATE_CENTER(lumiRotateCenter_8u_C4R, Lum8u, C4)
-LUMI_ROTATE_CENTER(lumiRotateCenter_8u_AC4R, Lum8u, AC4)
-LUMI_ROTATE_CENTER_P(lumiRotateCenter_8u_P3R, Lum8u, 3)
-LUMI_ROTATE_CENTER_P(lumiRotateCenter_8u_P4R, Lum8u, 4)
-LUMI_ROTATE_CENTER(lumiRotateCenter_16u_C1R, Lum16u, C1)
-LUMI_ROTATE_CENTER(lumiRotateCenter_16u_C3R, Lum16u, C3)
-LUMI_ROTATE_CENTER(lumiRotateCenter_16u_C4R, Lum16u, C4)
-LUMI_ROTATE_CENTER(lumiRotateCenter_16u_AC4R, Lum16u, AC4)
-LUMI_ROTATE_CENTER_P(lumiRotateCenter_16u_P3R, Lum16u, 3)
-LUMI_ROTATE_CENTER_P(lumiRotateCenter_16u_P4R, Lum16u, 4)
-LUMI_ROTATE_CENTER(lumiRotateCenter_32f_C1R, Lum32f, C1)
-LUMI_ROTATE_CENTER(lumiRotateCenter_32f_C3R, Lum32f, C3)
-LUMI_ROTATE_CENTER(lumiRotateCenter_32f_C4R, Lum32f, C4)
-LUMI_ROTATE_CENTER(lumiRotateCenter_32f_AC4R, Lum32f, AC4)
-LUMI_ROTATE_CENTER_P(lumiRotateCenter_32f_P3R, Lum32f, 3)
-LUMI_ROTATE_CENTER_P(lumiRotateCenter_32f_P4R, Lum32f, 4)
+LUMI_ROTATE(lumiRotateCenter_8u_C1R, rotateCenterImpl, Lum8u, C1)
+LUMI_ROTATE(lumiRotateCenter_8u_C3R, rotateCenterImpl, Lum8u, C3)
+LUMI_ROTATE(lumiRotateCenter_8u_C4R, rotateCenterImpl, Lum8u, C4)
+LUMI_ROTATE(lumiRotateCenter_8u_AC4R, rotateCenterImpl, Lum8u, AC4)
+LUMI_ROTATE_P(lumiRotateCenter_8u_P3R, rotateCenterImpl, Lum8u, 3)
+LUMI_ROTATE_P(lumiRotateCenter_8u_P4R, rotateCenterImpl, Lum8u, 4)
+LUMI_ROTATE(lumiRotateCenter_16u_C1R, rotateCenterImpl, Lum16u, C1)
+LUMI_ROTATE(lumiRotateCenter_16u_C3R, rotateCenterImpl, Lum16u, C3)
+LUMI_ROTATE(lumiRotateCenter_16u_C4R, rotateCenterImpl, Lum16u, C4)
+LUMI_ROTATE(lumiRotateCenter_16u_AC4R, rotateCenterImpl, Lum16u, AC4)
+LUMI_ROTATE_P(lumiRotateCenter_16u_P3R, rotateCenterImpl, Lum16u, 3)
+LUMI_ROTATE_P(lumiRotateCenter_16u_P4R, rotateCenterImpl, Lum16u, 4)
+LUMI_ROTATE(lumiRotateCenter_32f_C1R, rotateCenterImpl, Lum32f, C1)
+LUMI_ROTATE(lumiRotateCenter_32f_C3R, rotateCenterImpl, Lum32f, C3)
+LUMI_ROTATE(lumiRotateCenter_32f_C4R, rotateCenterImpl, Lum32f, C4)
+LUMI_ROTATE(lumiRotateCenter_32f_AC4R, rotateCenterImpl, Lum32f, AC4)
+LUMI_ROTATE_P(lumiRotateCenter_32f_P3R, rotateCenterImpl, Lum32f, 3)
+LUMI_ROTATE_P(lumiRotateCenter_32f_P4R, rotateCenterImpl, Lum32f, 4)
 
 LUMI_SHEAR(lumiShear_8u_C1R, Lum8u, C1)
 LUMI_SHEAR(lumiShear_8u_C3R, Lum8u, C3)

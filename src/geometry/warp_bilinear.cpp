@@ -99,10 +99,7 @@ LumStatus forwardTail(const Planes<T>& im, const Frame& f, const double c[2][4],
       im, f, map,
       [&](LumiRect roi, Pt q[4]) {
         map.ref = roi;
-        double qq[4][2];
-        const LumStatus s = lumiGetBilinearQuad(roi, qq, c);
-        toPts(qq, q);
-        return s;
+        return quadBy(lumiGetBilinearQuad, roi, c, q);
       },
       dq);
 }
@@ -166,14 +163,11 @@ inline bool bilinearThrough(const Pt s[4], const Pt d[4], double c[2][4]) {
 template <class T, class L>
 LumStatus bilinearQuadImpl(const Planes<T>& im, const Frame& f, const double sq[4][2],
                            const double dq[4][2]) {
-  if (sq == nullptr || dq == nullptr) return lumStatusNullPtrErr;
-  LumStatus st = checkFront(im, f);
-  if (st != lumStatusOk) return st;
   Pt s[4], d[4];
-  toPts(sq, s);
-  toPts(dq, d);
+  const LumStatus st = checkQuads(im, f, sq, dq, s, d);
+  if (st != lumStatusOk) return st;
   double c[2][4];
-  if (degenerate(s) || degenerate(d) || !bilinearThrough(s, d, c)) return lumStatusQuadErr;
+  if (!bilinearThrough(s, d, c)) return lumStatusQuadErr;
   return forwardTail<T, L>(im, f, c, d);
 }
 
@@ -184,108 +178,59 @@ LumStatus bilinearQuadImpl(const Planes<T>& im, const Frame& f, const double sq[
 using namespace lumi;
 using namespace lumi::warp;
 
-#define LUMI_WARP_BILINEAR(NAME, T, L)                                                            \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
-                          int dstStep, LumiRect dstRoi, const double coeffs[2][4],                \
-                          int interpolation) {                                                    \
-    return bilinearImpl<T, L>(packed(pSrc, pDst),                                                 \
-                              frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),  \
-                              coeffs);                                                            \
-  }
-#define LUMI_WARP_BILINEAR_P(NAME, T, N)                                                          \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
-                          T* const pDst[N], int dstStep, LumiRect dstRoi,                         \
-                          const double coeffs[2][4], int interpolation) {                         \
-    return bilinearImpl<T, C1>(planar<T, N>(pSrc, pDst),                                          \
-                               frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), \
-                               coeffs);                                                           \
-  }
-#define LUMI_WARP_BILINEAR_BACK(NAME, T, L)                                                       \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
-                          int dstStep, LumiRect dstRoi, const double coeffs[2][4],                \
-                          int interpolation) {                                                    \
-    return bilinearBackImpl<T, L>(                                                                \
-        packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),    \
-        coeffs);                                                                                  \
-  }
-#define LUMI_WARP_BILINEAR_BACK_P(NAME, T, N)                                                     \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
-                          T* const pDst[N], int dstStep, LumiRect dstRoi,                         \
-                          const double coeffs[2][4], int interpolation) {                         \
-    return bilinearBackImpl<T, C1>(                                                               \
-        planar<T, N>(pSrc, pDst),                                                                 \
-        frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs);               \
-  }
-#define LUMI_WARP_BILINEAR_QUAD(NAME, T, L)                                                    \
-  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi,       \
-                          const double srcQuad[4][2], T* pDst, int dstStep, LumiRect dstRoi,   \
-                          const double dstQuad[4][2], int interpolation) {                     \
-    return bilinearQuadImpl<T, L>(                                                             \
-        packed(pSrc, pDst), frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), \
-        srcQuad, dstQuad);                                                                     \
-  }
-#define LUMI_WARP_BILINEAR_QUAD_P(NAME, T, N)                                                     \
-  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
-                          const double srcQuad[4][2], T* const pDst[N], int dstStep,              \
-                          LumiRect dstRoi, const double dstQuad[4][2], int interpolation) {       \
-    return bilinearQuadImpl<T, C1>(                                                               \
-        planar<T, N>(pSrc, pDst),                                                                 \
-        frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), srcQuad, dstQuad);     \
-  }
+LUMI_WARP_COEFFS(lumiWarpBilinear_8u_C1R, bilinearImpl, Lum8u, C1, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinear_8u_C3R, bilinearImpl, Lum8u, C3, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinear_8u_C4R, bilinearImpl, Lum8u, C4, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinear_8u_AC4R, bilinearImpl, Lum8u, AC4, 2, 4)
+LUMI_WARP_COEFFS_P(lumiWarpBilinear_8u_P3R, bilinearImpl, Lum8u, 3, 2, 4)
+LUMI_WARP_COEFFS_P(lumiWarpBilinear_8u_P4R, bilinearImpl, Lum8u, 4, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinear_16u_C1R, bilinearImpl, Lum16u, C1, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinear_16u_C3R, bilinearImpl, Lum16u, C3, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinear_16u_C4R, bilinearImpl, Lum16u, C4, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinear_16u_AC4R, bilinearImpl, Lum16u, AC4, 2, 4)
+LUMI_WARP_COEFFS_P(lumiWarpBilinear_16u_P3R, bilinearImpl, Lum16u, 3, 2, 4)
+LUMI_WARP_COEFFS_P(lumiWarpBilinear_16u_P4R, bilinearImpl, Lum16u, 4, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinear_32f_C1R, bilinearImpl, Lum32f, C1, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinear_32f_C3R, bilinearImpl, Lum32f, C3, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinear_32f_C4R, bilinearImpl, Lum32f, C4, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinear_32f_AC4R, bilinearImpl, Lum32f, AC4, 2, 4)
+LUMI_WARP_COEFFS_P(lumiWarpBilinear_32f_P3R, bilinearImpl, Lum32f, 3, 2, 4)
+LUMI_WARP_COEFFS_P(lumiWarpBilinear_32f_P4R, bilinearImpl, Lum32f, 4, 2, 4)
 
-LUMI_WARP_BILINEAR(lumiWarpBilinear_8u_C1R, Lum8u, C1)
-LUMI_WARP_BILINEAR(lumiWarpBilinear_8u_C3R, Lum8u, C3)
-LUMI_WARP_BILINEAR(lumiWarpBilinear_8u_C4R, Lum8u, C4)
-LUMI_WARP_BILINEAR(lumiWarpBilinear_8u_AC4R, Lum8u, AC4)
-LUMI_WARP_BILINEAR_P(lumiWarpBilinear_8u_P3R, Lum8u, 3)
-LUMI_WARP_BILINEAR_P(lumiWarpBilinear_8u_P4R, Lum8u, 4)
-LUMI_WARP_BILINEAR(lumiWarpBilinear_16u_C1R, Lum16u, C1)
-LUMI_WARP_BILINEAR(lumiWarpBilinear_16u_C3R, Lum16u, C3)
-LUMI_WARP_BILINEAR(lumiWarpBilinear_16u_C4R, Lum16u, C4)
-LUMI_WARP_BILINEAR(lumiWarpBilinear_16u_AC4R, Lum16u, AC4)
-LUMI_WARP_BILINEAR_P(lumiWarpBilinear_16u_P3R, Lum16u, 3)
-LUMI_WARP_BILINEAR_P(lumiWarpBilinear_16u_P4R, Lum16u, 4)
-LUMI_WARP_BILINEAR(lumiWarpBilinear_32f_C1R, Lum32f, C1)
-LUMI_WARP_BILINEAR(lumiWarpBilinear_32f_C3R, Lum32f, C3)
-LUMI_WARP_BILINEAR(lumiWarpBilinear_32f_C4R, Lum32f, C4)
-LUMI_WARP_BILINEAR(lumiWarpBilinear_32f_AC4R, Lum32f, AC4)
-LUMI_WARP_BILINEAR_P(lumiWarpBilinear_32f_P3R, Lum32f, 3)
-LUMI_WARP_BILINEAR_P(lumiWarpBilinear_32f_P4R, Lum32f, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinearBack_8u_C1R, bilinearBackImpl, Lum8u, C1, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinearBack_8u_C3R, bilinearBackImpl, Lum8u, C3, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinearBack_8u_C4R, bilinearBackImpl, Lum8u, C4, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinearBack_8u_AC4R, bilinearBackImpl, Lum8u, AC4, 2, 4)
+LUMI_WARP_COEFFS_P(lumiWarpBilinearBack_8u_P3R, bilinearBackImpl, Lum8u, 3, 2, 4)
+LUMI_WARP_COEFFS_P(lumiWarpBilinearBack_8u_P4R, bilinearBackImpl, Lum8u, 4, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinearBack_16u_C1R, bilinearBackImpl, Lum16u, C1, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinearBack_16u_C3R, bilinearBackImpl, Lum16u, C3, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinearBack_16u_C4R, bilinearBackImpl, Lum16u, C4, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinearBack_16u_AC4R, bilinearBackImpl, Lum16u, AC4, 2, 4)
+LUMI_WARP_COEFFS_P(lumiWarpBilinearBack_16u_P3R, bilinearBackImpl, Lum16u, 3, 2, 4)
+LUMI_WARP_COEFFS_P(lumiWarpBilinearBack_16u_P4R, bilinearBackImpl, Lum16u, 4, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinearBack_32f_C1R, bilinearBackImpl, Lum32f, C1, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinearBack_32f_C3R, bilinearBackImpl, Lum32f, C3, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinearBack_32f_C4R, bilinearBackImpl, Lum32f, C4, 2, 4)
+LUMI_WARP_COEFFS(lumiWarpBilinearBack_32f_AC4R, bilinearBackImpl, Lum32f, AC4, 2, 4)
+LUMI_WARP_COEFFS_P(lumiWarpBilinearBack_32f_P3R, bilinearBackImpl, Lum32f, 3, 2, 4)
+LUMI_WARP_COEFFS_P(lumiWarpBilinearBack_32f_P4R, bilinearBackImpl, Lum32f, 4, 2, 4)
 
-LUMI_WARP_BILINEAR_BACK(lumiWarpBilinearBack_8u_C1R, Lum8u, C1)
-LUMI_WARP_BILINEAR_BACK(lumiWarpBilinearBack_8u_C3R, Lum8u, C3)
-LUMI_WARP_BILINEAR_BACK(lumiWarpBilinearBack_8u_C4R, Lum8u, C4)
-LUMI_WARP_BILINEAR_BACK(lumiWarpBilinearBack_8u_AC4R, Lum8u, AC4)
-LUMI_WARP_BILINEAR_BACK_P(lumiWarpBilinearBack_8u_P3R, Lum8u, 3)
-LUMI_WARP_BILINEAR_BACK_P(lumiWarpBilinearBack_8u_P4R, Lum8u, 4)
-LUMI_WARP_BILINEAR_BACK(lumiWarpBilinearBack_16u_C1R, Lum16u, C1)
-LUMI_WARP_BILINEAR_BACK(lumiWarpBilinearBack_16u_C3R, Lum16u, C3)
-LUMI_WARP_BILINEAR_BACK(lumiWarpBilinearBack_16u_C4R, Lum16u, C4)
-LUMI_WARP_BILINEAR_BACK(lumiWarpBilinearBack_16u_AC4R, Lum16u, AC4)
-LUMI_WARP_BILINEAR_BACK_P(lumiWarpBilinearBack_16u_P3R, Lum16u, 3)
-LUMI_WARP_BILINEAR_BACK_P(lumiWarpBilinearBack_16u_P4R, Lum16u, 4)
-LUMI_WARP_BILINEAR_BACK(lumiWarpBilinearBack_32f_C1R, Lum32f, C1)
-LUMI_WARP_BILINEAR_BACK(lumiWarpBilinearBack_32f_C3R, Lum32f, C3)
-LUMI_WARP_BILINEAR_BACK(lumiWarpBilinearBack_32f_C4R, Lum32f, C4)
-LUMI_WARP_BILINEAR_BACK(lumiWarpBilinearBack_32f_AC4R, Lum32f, AC4)
-LUMI_WARP_BILINEAR_BACK_P(lumiWarpBilinearBack_32f_P3R, Lum32f, 3)
-LUMI_WARP_BILINEAR_BACK_P(lumiWarpBilinearBack_32f_P4R, Lum32f, 4)
-
-LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_8u_C1R, Lum8u, C1)
-LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_8u_C3R, Lum8u, C3)
-LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_8u_C4R, Lum8u, C4)
-LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_8u_AC4R, Lum8u, AC4)
-LUMI_WARP_BILINEAR_QUAD_P(lumiWarpBilinearQuad_8u_P3R, Lum8u, 3)
-LUMI_WARP_BILINEAR_QUAD_P(lumiWarpBilinearQuad_8u_P4R, Lum8u, 4)
-LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_16u_C1R, Lum16u, C1)
-LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_16u_C3R, Lum16u, C3)
-LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_16u_C4R, Lum16u, C4)
-LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_16u_AC4R, Lum16u, AC4)
-LUMI_WARP_BILINEAR_QUAD_P(lumiWarpBilinearQuad_16u_P3R, Lum16u, 3)
-LUMI_WARP_BILINEAR_QUAD_P(lumiWarpBilinearQuad_16u_P4R, Lum16u, 4)
-LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_32f_C1R, Lum32f, C1)
-LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_32f_C3R, Lum32f, C3)
-LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_32f_C4R, Lum32f, C4)
-LUMI_WARP_BILINEAR_QUAD(lumiWarpBilinearQuad_32f_AC4R, Lum32f, AC4)
-LUMI_WARP_BILINEAR_QUAD_P(lumiWarpBilinearQuad_32f_P3R, Lum32f, 3)
-LUMI_WARP_BILINEAR_QUAD_P(lumiWarpBilinearQuad_32f_P4R, Lum32f, 4)
+LUMI_WARP_QUAD(lumiWarpBilinearQuad_8u_C1R, bilinearQuadImpl, Lum8u, C1)
+LUMI_WARP_QUAD(lumiWarpBilinearQuad_8u_C3R, bilinearQuadImpl, Lum8u, C3)
+LUMI_WARP_QUAD(lumiWarpBilinearQuad_8u_C4R, bilinearQuadImpl, Lum8u, C4)
+LUMI_WARP_QUAD(lumiWarpBilinearQuad_8u_AC4R, bilinearQuadImpl, Lum8u, AC4)
+LUMI_WARP_QUAD_P(lumiWarpBilinearQuad_8u_P3R, bilinearQuadImpl, Lum8u, 3)
+LUMI_WARP_QUAD_P(lumiWarpBilinearQuad_8u_P4R, bilinearQuadImpl, Lum8u, 4)
+LUMI_WARP_QUAD(lumiWarpBilinearQuad_16u_C1R, bilinearQuadImpl, Lum16u, C1)
+LUMI_WARP_QUAD(lumiWarpBilinearQuad_16u_C3R, bilinearQuadImpl, Lum16u, C3)
+LUMI_WARP_QUAD(lumiWarpBilinearQuad_16u_C4R, bilinearQuadImpl, Lum16u, C4)
+LUMI_WARP_QUAD(lumiWarpBilinearQuad_16u_AC4R, bilinearQuadImpl, Lum16u, AC4)
+LUMI_WARP_QUAD_P(lumiWarpBilinearQuad_16u_P3R, bilinearQuadImpl, Lum16u, 3)
+LUMI_WARP_QUAD_P(lumiWarpBilinearQuad_16u_P4R, bilinearQuadImpl, Lum16u, 4)
+LUMI_WARP_QUAD(lumiWarpBilinearQuad_32f_C1R, bilinearQuadImpl, Lum32f, C1)
+LUMI_WARP_QUAD(lumiWarpBilinearQuad_32f_C3R, bilinearQuadImpl, Lum32f, C3)
+LUMI_WARP_QUAD(lumiWarpBilinearQuad_32f_C4R, bilinearQuadImpl, Lum32f, C4)
+LUMI_WARP_QUAD(lumiWarpBilinearQuad_32f_AC4R, bilinearQuadImpl, Lum32f, AC4)
+LUMI_WARP_QUAD_P(lumiWarpBilinearQuad_32f_P3R, bilinearQuadImpl, Lum32f, 3)
+LUMI_WARP_QUAD_P(lumiWarpBilinearQuad_32f_P4R, bilinearQuadImpl, Lum32f, 4)

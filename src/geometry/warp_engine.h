@@ -607,5 +607,74 @@ inline Frame frameOf(LumiSize srcSize, int srcStep, LumiRect srcRoi, int dstStep
   return Frame{srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation};
 }
 
+// Coefficients given either way round: map (destination to source) and fwd (source to
+// destination), one a copy of c and the other its inverse. False when c has no inverse.
+template <int R, class Invert>
+inline bool bothWays(const double c[R][3], bool back, double map[R][3], double fwd[R][3],
+                     Invert invert) {
+  if (back) {
+    std::memcpy(map, c, sizeof(double[R][3]));
+    return invert(c, fwd);
+  }
+  std::memcpy(fwd, c, sizeof(double[R][3]));
+  return invert(c, map);
+}
+
+// The image of roi by one of the lumiGet*Quad queries, as points.
+template <class Get, class C>
+inline LumStatus quadBy(Get get, LumiRect roi, const C& c, Pt q[4]) {
+  double qq[4][2];
+  const LumStatus s = get(roi, qq, c);
+  toPts(qq, q);
+  return s;
+}
+
+// The front of the quadrangle warps: both quadrangles given, the images and ROIs sound, and
+// neither quadrangle degenerate; s and d receive their corners.
+template <class T>
+inline LumStatus checkQuads(const Planes<T>& im, const Frame& f, const double sq[4][2],
+                            const double dq[4][2], Pt s[4], Pt d[4]) {
+  if (sq == nullptr || dq == nullptr) return lumStatusNullPtrErr;
+  const LumStatus st = checkFront(im, f);
+  if (st != lumStatusOk) return st;
+  toPts(sq, s);
+  toPts(dq, d);
+  return degenerate(s) || degenerate(d) ? lumStatusQuadErr : lumStatusOk;
+}
+
 }  // namespace warp
 }  // namespace lumi
+
+// The export stamps of the warps, one per signature: IMPL<T, L> takes the images, the frame and
+// the rest of the arguments in order. The _P forms take N planes and run IMPL<T, C1>.
+#define LUMI_WARP_COEFFS(NAME, IMPL, T, L, ROWS, COLS)                                            \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi, T* pDst, \
+                          int dstStep, LumiRect dstRoi, const double coeffs[ROWS][COLS],          \
+                          int interpolation) {                                                    \
+    return IMPL<T, L>(packed(pSrc, pDst),                                                         \
+                      frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation), coeffs); \
+  }
+#define LUMI_WARP_COEFFS_P(NAME, IMPL, T, N, ROWS, COLS)                                          \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          T* const pDst[N], int dstStep, LumiRect dstRoi,                         \
+                          const double coeffs[ROWS][COLS], int interpolation) {                   \
+    return IMPL<T, C1>(planar<T, N>(pSrc, pDst),                                                  \
+                       frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),         \
+                       coeffs);                                                                   \
+  }
+#define LUMI_WARP_QUAD(NAME, IMPL, T, L)                                                       \
+  LUMI_API LumStatus NAME(const T* pSrc, LumiSize srcSize, int srcStep, LumiRect srcRoi,       \
+                          const double srcQuad[4][2], T* pDst, int dstStep, LumiRect dstRoi,   \
+                          const double dstQuad[4][2], int interpolation) {                     \
+    return IMPL<T, L>(packed(pSrc, pDst),                                                      \
+                      frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),       \
+                      srcQuad, dstQuad);                                                       \
+  }
+#define LUMI_WARP_QUAD_P(NAME, IMPL, T, N)                                                        \
+  LUMI_API LumStatus NAME(const T* const pSrc[N], LumiSize srcSize, int srcStep, LumiRect srcRoi, \
+                          const double srcQuad[4][2], T* const pDst[N], int dstStep,              \
+                          LumiRect dstRoi, const double dstQuad[4][2], int interpolation) {       \
+    return IMPL<T, C1>(planar<T, N>(pSrc, pDst),                                                  \
+                       frameOf(srcSize, srcStep, srcRoi, dstStep, dstRoi, interpolation),         \
+                       srcQuad, dstQuad);                                                         \
+  }
