@@ -148,6 +148,7 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
         windows(2, 2, true);
         if (ay.step >= 1.5) {  // source rows are not shared: both rows in one pass
           const LinF8Fn ff = pickLinF8(kCh);
+          if (window > 0 && kCh == 1) buildPairs(tx.off, tx.wq, nullptr, n, scratch, &win);  // ring slots are free
           for (int j = y0; j < y1; ++j) {
             const int b = ty.off[j];
             ff(srow(b), srow(b + 1), tx.off, tx.wq, n, kCh, safe, &win, ty.wq[2 * j + 1],
@@ -178,6 +179,7 @@ void runRows(const T* src, int sstep, T* dst, int dstep, const Taps& tx, const T
         windows(2, 2);
         if (ay.step >= 1.5) {
           const LinFfFn ff = pickLinFf(kCh);
+          if (window > 0 && kCh == 1) buildPairs(tx.off, nullptr, tx.wf, n, scratch, &win);
           for (int j = y0; j < y1; ++j) {
             const int b = ty.off[j];
             ff(srow(b), srow(b + 1), tx.off, tx.wf, n, kCh, n, &win, ty.wf[2 * j], ty.wf[2 * j + 1],

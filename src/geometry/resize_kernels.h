@@ -250,7 +250,30 @@ struct Windows {
   int32_t* base = nullptr;
   uint16_t* idx = nullptr;
   uint8_t* same = nullptr;  // places 0, 1, 2, ...: the window as it stands
+  // Linear reductions of one-channel rows by about one half: elements [0, run) (a multiple of 64)
+  // take the pairs (off[0] + 2k, off[0] + 2k + 1) with a second weight below one, which the
+  // AVX-512 kernels read straight from the rows; w2: 2 w per element (8u), wf0, wf1: the float
+  // weights apart.
+  int run = 0;
+  int16_t* w2 = nullptr;
+  float *wf0 = nullptr, *wf1 = nullptr;
 };
+// Fills run and the weights apart (8u: wq given, 2n bytes; 32f: wf given, 8n bytes of `mem`).
+inline void buildPairs(const int32_t* off, const int16_t* wq, const float* wf, int n, Lum8u* mem,
+                       Windows* w) {
+  int run = 0;
+  while (run < n && off[run] == off[0] + 2 * run && (wq == nullptr || wq[2 * run + 1] < kOne)) ++run;
+  w->run = run & ~63;
+  if (w->run == 0) return;
+  if (wq != nullptr) {
+    w->w2 = reinterpret_cast<int16_t*>(mem);
+    for (int e = 0; e < w->run; ++e) w->w2[e] = static_cast<int16_t>(2 * wq[2 * e + 1]);
+  } else {
+    w->wf0 = reinterpret_cast<float*>(mem);
+    w->wf1 = w->wf0 + w->run;
+    for (int e = 0; e < w->run; ++e) w->wf0[e] = wf[2 * e], w->wf1[e] = wf[2 * e + 1];
+  }
+}
 // Bytes: about n / 16 x (5 + 32 taps) + 128, which the row-buffer slots reserved for them hold.
 inline void buildWindows(const int32_t* off, int n, int taps, int pitch, int size,
                          std::ptrdiff_t limit, Lum8u* mem, Windows* w, bool interleaved = false) {

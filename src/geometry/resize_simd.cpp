@@ -47,6 +47,77 @@ HWY_INLINE __m256i linColumn8(__m512i h0, __m512i h1, __m512i wy2) {
   return _mm256_permutevar8x32_epi32(b, _mm256_setr_epi32(0, 2, 4, 6, 1, 3, 5, 7));
 }
 
+// Linear 8u reductions over the elements of Windows::run (s0, s1 at the first pair): 64 elements
+// from 128 bytes of each row, in 16-bit lanes. For w < 16384 the sum along the row
+// (p0 (16384 - w) + p1 w) >> 8 is p0 64 + floor((p1 - p0) w / 256), the high half of
+// (p1 - p0) 128 times 2 w; the column then as linColumn8.
+HWY_INLINE void pairRun8(const Lum8u* s0, const Lum8u* s1, const int16_t* w2, int run, int wy,
+                         Lum8u* dst) {
+  const bool last = wy == resize::kOne;  // all weight on the second row
+  const Lum8u* first = last ? s1 : s0;
+  const __m512i wy2 = _mm512_set1_epi16(static_cast<int16_t>(last ? 0 : 2 * wy));
+  const __m512i times64 = _mm512_set1_epi16(0x0040);  // bytes (64, 0): p0 64
+  const __m512i diff = _mm512_set1_epi16(0x01FF);     // bytes (-1, 1): p1 - p0
+  const __m512i round = _mm512_set1_epi16(32);
+  const __m512i order = _mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7);
+  auto sums = [&](const Lum8u* p, __m512i w) {
+    const __m512i v = _mm512_loadu_si512(p);
+    const __m512i d = _mm512_slli_epi16(_mm512_maddubs_epi16(v, diff), 7);
+    return _mm512_add_epi16(_mm512_maddubs_epi16(v, times64), _mm512_mulhi_epi16(d, w));
+  };
+  auto column = [&](__m512i h0, __m512i h1) {
+    const __m512i d2 = _mm512_slli_epi16(_mm512_sub_epi16(h1, h0), 1);
+    return _mm512_srai_epi16(_mm512_add_epi16(_mm512_add_epi16(h0, round), _mm512_mulhi_epi16(d2, wy2)), 6);
+  };
+  for (int e = 0; e < run; e += 64) {
+    const __m512i wa = _mm512_loadu_si512(w2 + e), wb = _mm512_loadu_si512(w2 + e + 32);
+    const __m512i a = column(sums(first + 2 * e, wa), sums(s1 + 2 * e, wa));
+    const __m512i b = column(sums(first + 2 * e + 64, wb), sums(s1 + 2 * e + 64, wb));
+    _mm512_storeu_si512(dst + e, _mm512_permutexvar_epi64(order, _mm512_packus_epi16(a, b)));
+  }
+}
+// The same for 32f, 16 elements from 32 floats of each row, the plain kernel's products and sums.
+HWY_INLINE void pairRunF(const float* s0, const float* s1, const float* wf0, const float* wf1,
+                         int run, float wy0, float wy1, float* dst) {
+  const __m512i even = _mm512_setr_epi32(0, 2, 4, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30);
+  const __m512i odd = _mm512_add_epi32(even, _mm512_set1_epi32(1));
+  const __m512 a = _mm512_set1_ps(wy0), b = _mm512_set1_ps(wy1);
+  auto sums = [&](const float* p, __m512 w0, __m512 w1) {
+    const __m512 x = _mm512_loadu_ps(p), y = _mm512_loadu_ps(p + 16);
+    return _mm512_add_ps(_mm512_mul_ps(_mm512_permutex2var_ps(x, even, y), w0),
+                         _mm512_mul_ps(_mm512_permutex2var_ps(x, odd, y), w1));
+  };
+  for (int e = 0; e < run; e += 16) {
+    const __m512 w0 = _mm512_loadu_ps(wf0 + e), w1 = _mm512_loadu_ps(wf1 + e);
+    const __m512 h0 = sums(s0 + 2 * e, w0, w1), h1 = sums(s1 + 2 * e, w0, w1);
+    _mm512_storeu_ps(dst + e, _mm512_add_ps(_mm512_mul_ps(h0, a), _mm512_mul_ps(h1, b)));
+  }
+}
+
+// linSums8 for the two rows of a block of 16 elements without a prepared window (the blocks at
+// the row end): its bytes [lo, hi] read with masked loads, which never touch a byte past the
+// last tap, and the places computed from the offsets; false when the taps spread over 64 bytes.
+template <int kPitch>
+HWY_INLINE bool edgeSums8(const Lum8u* s0, const Lum8u* s1, const int32_t* off, const int16_t* wq,
+                          __m512i* a, __m512i* b) {
+  const __m512i o = _mm512_loadu_si512(off);
+  const int lo = _mm512_reduce_min_epi32(o), hi = _mm512_reduce_max_epi32(o) + kPitch;
+  if (hi - lo >= 64) return false;
+  const __m512i r = _mm512_sub_epi32(o, _mm512_set1_epi32(lo));
+  const __m512i ix = _mm512_or_si512(r, _mm512_slli_epi32(_mm512_add_epi32(r, _mm512_set1_epi32(kPitch)), 16));
+  const uint64_t m = hi - lo == 63 ? ~uint64_t{0} : (uint64_t{1} << (hi - lo + 1)) - 1;
+  const __mmask32 mlo = static_cast<__mmask32>(m), mhi = static_cast<__mmask32>(m >> 32);
+  const __m512i w = _mm512_loadu_si512(wq);
+  auto sums = [&](const Lum8u* p) {
+    const __m512i l = _mm512_cvtepu8_epi16(_mm256_maskz_loadu_epi8(mlo, p));
+    const __m512i h = mhi == 0 ? _mm512_setzero_si512() : _mm512_cvtepu8_epi16(_mm256_maskz_loadu_epi8(mhi, p + 32));
+    return _mm512_srai_epi32(_mm512_madd_epi16(_mm512_permutex2var_epi16(l, ix, h), w), 8);
+  };
+  *a = sums(s0 + lo);
+  *b = sums(s1 + lo);
+  return true;
+}
+
 // Tap t of a block of 16 elements out of its 64-float window (two permutes, places 32..63
 // taken from the second).
 HWY_INLINE __m512 windowF(const float* p, const uint16_t* ix) {
@@ -283,7 +354,11 @@ void linF8(const Lum8u* HWY_RESTRICT s0, const Lum8u* HWY_RESTRICT s1,
     const bool last = wy == resize::kOne;  // all weight on the second row
     const __m512i wy2 = _mm512_set1_epi16(static_cast<int16_t>(last ? 0 : 2 * wy));
     const Lum8u* first = last ? s1 : s0;
-    for (int b = 0; (b + 2) * resize::kBlock <= n; b += 2, e += 2 * resize::kBlock) {
+    if (kPitch == 1 && !keepAlpha && win->run > 0) {
+      pairRun8(s0 + off[0], s1 + off[0], win->w2, win->run, wy, dst);
+      e = win->run;
+    }
+    for (int b = e / resize::kBlock; (b + 2) * resize::kBlock <= n; b += 2, e += 2 * resize::kBlock) {
       const int32_t la = win->base[b], lb = win->base[b + 1];
       if (la != resize::kNoWindow && lb != resize::kNoWindow) {
         const uint16_t* ia = win->idx + b * 2 * resize::kBlock;
@@ -299,11 +374,18 @@ void linF8(const Lum8u* HWY_RESTRICT s0, const Lum8u* HWY_RESTRICT s1,
         continue;
       }
       for (int k = 0; k < 2 * resize::kBlock; k += N) {
-        if (e + k + N <= safe) column(e + k, gathered(s0, e + k), gathered(s1, e + k));
+        __m512i a, c;
+        if (edgeSums8<kPitch>(s0, s1, off + e + k, wq + 2 * (e + k), &a, &c)) column(e + k, V{a}, V{c});
+        else if (e + k + N <= safe) column(e + k, gathered(s0, e + k), gathered(s1, e + k));
         else resize::linF8Scalar(s0, s1, off + e + k, wq + 2 * (e + k), N, pitch, 0, nullptr, wy,
                                  dst + e + k, keepAlpha);
       }
     }
+  }
+  for (; e + N <= n; e += N) {  // a last block of 16
+    __m512i a, c;
+    if (!edgeSums8<kPitch>(s0, s1, off + e, wq + 2 * e, &a, &c)) break;
+    column(e, V{a}, V{c});
   }
 #endif
   for (; e + N <= safe; e += N) column(e, gathered(s0, e), gathered(s1, e));
@@ -337,7 +419,11 @@ void linFf(const float* HWY_RESTRICT s0, const float* HWY_RESTRICT s1,
   int e = 0;
 #if LUMI_RESIZE_WINDOWS
   if (win != nullptr && win->base != nullptr) {
-    for (int bl = 0; (bl + 1) * resize::kBlock <= n; ++bl, e += resize::kBlock) {
+    if (kPitch == 1 && !keepAlpha && win->run > 0) {
+      pairRunF(s0 + off[0], s1 + off[0], win->wf0, win->wf1, win->run, wy0, wy1, dst);
+      e = win->run;
+    }
+    for (int bl = e / resize::kBlock; (bl + 1) * resize::kBlock <= n; ++bl, e += resize::kBlock) {
       const int32_t lo = win->base[bl];
       if (lo == resize::kNoWindow) {
         gathered(e);
