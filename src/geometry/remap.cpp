@@ -59,6 +59,56 @@ HWY_INLINE void linearCellV(DF df, DI di, const remap::Box& b, hn::Vec<DF> x, hn
   fy = hn::Sub(y, hn::ConvertTo(df, iy));
 }
 
+// Cubic cell of a vector of points: lanes outside the box (not in) are moved to
+// (x0 + 1, y0 + 1), an inner point (the box is at least 4 x 4 in cubic mode), and ix, iy take
+// the integer parts. True where the 4 x 4 neighbourhood needs no clamping.
+template <class DF, class DI>
+HWY_INLINE hn::Mask<DI> cubicCellV(DF df, DI di, const remap::Box& b, hn::Mask<DF> in,
+                                   hn::Vec<DF>& x, hn::Vec<DF>& y, hn::Vec<DI>& ix,
+                                   hn::Vec<DI>& iy) {
+  x = hn::IfThenElse(in, x, hn::Set(df, b.fx0 + 1));
+  y = hn::IfThenElse(in, y, hn::Set(df, b.fy0 + 1));
+  ix = hn::ConvertTo(di, x);
+  iy = hn::ConvertTo(di, y);
+  return hn::And(hn::And(hn::Gt(ix, hn::Set(di, b.x0)), hn::Lt(ix, hn::Set(di, b.x1 - 1))),
+                 hn::And(hn::Gt(iy, hn::Set(di, b.y0)), hn::Lt(iy, hn::Set(di, b.y1 - 1))));
+}
+
+// The cubic weights of the fraction t (see newtonV).
+template <class DF>
+HWY_INLINE void cubicWeightsV(DF df, hn::Vec<DF> t, hn::Vec<DF>& ka, hn::Vec<DF>& kb,
+                              hn::Vec<DF>& kc) {
+  const auto f1 = hn::Set(df, 1.0f);
+  ka = hn::Add(t, f1);
+  kb = hn::Div(hn::Mul(t, ka), hn::Set(df, 2.0f));
+  kc = hn::Div(hn::Mul(hn::Mul(hn::Sub(t, f1), t), ka), hn::Set(df, 6.0f));
+}
+
+// The 4-point cubic through p0..p3 in Newton form, with the weights of cubicWeightsV and the
+// scalar twin's very operations.
+template <class DF, class VF = hn::Vec<DF>>
+HWY_INLINE VF newtonV(DF df, VF p0, VF p1, VF p2, VF p3, VF ka, VF kb, VF kc) {
+  const auto f2 = hn::Set(df, 2.0f), f3 = hn::Set(df, 3.0f);
+  const auto d1 = hn::Sub(p1, p0);
+  const auto d2 = hn::Add(hn::Sub(p2, hn::Mul(f2, p1)), p0);
+  const auto d3 = hn::Sub(hn::Add(hn::Sub(p3, hn::Mul(f3, p2)), hn::Mul(f3, p1)), p0);
+  return hn::Add(hn::Add(hn::Add(p0, hn::Mul(ka, d1)), hn::Mul(kb, d2)), hn::Mul(kc, d3));
+}
+
+// The vector of the last byte offsets whose 32-bit words the kernel may read (lim; -1: none).
+template <class DI>
+HWY_INLINE hn::Vec<DI> limitV(DI di, std::ptrdiff_t lim) {
+  return hn::Set(di, static_cast<int32_t>(lim < -1 ? -1 : lim));
+}
+
+// Stores the 32-bit lanes v narrowed to dn's type at dst where in holds; the other lanes keep
+// the destination's values.
+template <class DN, class DI, class M>
+HWY_INLINE void storeNarrow(DN dn, DI di, M in, hn::Vec<DI> v, hn::TFromD<DN>* dst) {
+  const auto old = hn::PromoteTo(di, hn::LoadU(dn, dst));
+  hn::StoreU(hn::DemoteTo(dn, hn::IfThenElse(hn::RebindMask(di, in), v, old)), dn, dst);
+}
+
 void nearestRow8u(const uint8_t* src, int step, const remap::Box& b, const float* mx,
                   const float* my, uint8_t* dst, int width) {
   const hn::ScalableTag<float> df;
@@ -67,8 +117,7 @@ void nearestRow8u(const uint8_t* src, int step, const remap::Box& b, const float
   const int N = static_cast<int>(hn::Lanes(df));
   const auto vstep = hn::Set(di, step);
   // 32-bit words read up to offset + 3.
-  const std::ptrdiff_t lim = b.limit - 4;
-  const auto limit = hn::Set(di, static_cast<int32_t>(lim < -1 ? -1 : lim));
+  const auto limit = limitV(di, b.limit - 4);
   int x = 0;
   if (b.gather32) {
     for (; x + N <= width; x += N) {
@@ -81,8 +130,7 @@ void nearestRow8u(const uint8_t* src, int step, const remap::Box& b, const float
         continue;
       }
       const auto v = hn::And(hn::GatherOffset(di, reinterpret_cast<const int32_t*>(src), off), hn::Set(di, 0xFF));
-      const auto old = hn::PromoteTo(di, hn::LoadU(d8, dst + x));
-      hn::StoreU(hn::DemoteTo(d8, hn::IfThenElse(hn::RebindMask(di, in), v, old)), d8, dst + x);
+      storeNarrow(d8, di, in, v, dst + x);
     }
   }
   remap::nearestRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
@@ -116,8 +164,7 @@ void linearRow8u(const uint8_t* src, int step, const remap::Box& b, const float*
   const int N = static_cast<int>(hn::Lanes(df));
   const auto vstep = hn::Set(di, step);
   // The lower word is read at offset + step, up to offset + step + 3.
-  const std::ptrdiff_t lim = b.limit - step - 4;
-  const auto limit = hn::Set(di, static_cast<int32_t>(lim < -1 ? -1 : lim));
+  const auto limit = limitV(di, b.limit - step - 4);
   const auto k1 = hn::Set(di, remap::kOne), k33 = hn::Set(di, 33), kFF = hn::Set(di, 0xFF);
   const auto scale = hn::Set(df, static_cast<float>(remap::kOne));
   int x = 0;
@@ -145,8 +192,7 @@ void linearRow8u(const uint8_t* src, int step, const remap::Box& b, const float*
       const auto h1 = hn::ShiftRight<8>(hn::Add(hn::Mul(wx0, hn::And(g1, kFF)),
                                                 hn::Mul(wx, hn::And(hn::ShiftRight<8>(g1), kFF))));
       const auto v = hn::ShiftRight<20>(hn::Add(hn::Add(hn::Mul(h0, hn::Sub(k1, wy)), hn::Mul(h1, wy)), k33));
-      const auto old = hn::PromoteTo(di, hn::LoadU(d8, dst + x));
-      hn::StoreU(hn::DemoteTo(d8, hn::IfThenElse(hn::RebindMask(di, in), v, old)), d8, dst + x);
+      storeNarrow(d8, di, in, v, dst + x);
     }
   }
   remap::linearRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
@@ -326,8 +372,7 @@ void linearRow8uPix(const uint8_t* src, int step, const remap::Box& b, const flo
   const int N = static_cast<int>(hn::Lanes(df));
   const auto vstep = hn::Set(di, step), vch = hn::Set(di, kCh);
   // The last word is read at offset + step + kCh, up to 3 bytes further.
-  const std::ptrdiff_t lim = b.limit - step - kCh - 4;
-  const auto limit = hn::Set(di, static_cast<int32_t>(lim < -1 ? -1 : lim));
+  const auto limit = limitV(di, b.limit - step - kCh - 4);
   const auto k1 = hn::Set(di, remap::kOne), k33 = hn::Set(di, 33), kFF = hn::Set(di, 0xFF);
   const auto scale = hn::Set(df, static_cast<float>(remap::kOne));
   int x = 0;
@@ -382,24 +427,8 @@ void cubicRow8u(const uint8_t* src, int step, const remap::Box& b, const float* 
   using VF = hn::Vec<decltype(df)>;
   const int N = static_cast<int>(hn::Lanes(df));
   const auto vstep = hn::Set(di, step), kFF = hn::Set(di, 0xFF), one = hn::Set(di, 1), vch = hn::Set(di, kCh);
-  const auto f1 = hn::Set(df, 1.0f), f2 = hn::Set(df, 2.0f), f3 = hn::Set(df, 3.0f), f6 = hn::Set(df, 6.0f);
   const auto half = hn::Set(df, 0.5f), top = hn::Set(df, 255.0f);
-  const std::ptrdiff_t lim = b.limit - 3 * static_cast<std::ptrdiff_t>(step) - 3 * kCh - 4;
-  const auto limit = hn::Set(di, static_cast<int32_t>(lim < -1 ? -1 : lim));
-  // Points outside the box are moved to (x0 + 1, y0 + 1), an inner point (the box is at least
-  // 4 x 4 in cubic mode).
-  const auto inner0x = hn::Set(df, b.fx0 + 1), inner0y = hn::Set(df, b.fy0 + 1);
-  auto newton = [&](VF p0, VF p1, VF p2, VF p3, VF ka, VF kb, VF kc) {
-    const auto d1 = hn::Sub(p1, p0);
-    const auto d2 = hn::Add(hn::Sub(p2, hn::Mul(f2, p1)), p0);
-    const auto d3 = hn::Sub(hn::Add(hn::Sub(p3, hn::Mul(f3, p2)), hn::Mul(f3, p1)), p0);
-    return hn::Add(hn::Add(hn::Add(p0, hn::Mul(ka, d1)), hn::Mul(kb, d2)), hn::Mul(kc, d3));
-  };
-  auto coeffs = [&](VF t, VF& ka, VF& kb, VF& kc) {
-    ka = hn::Add(t, f1);
-    kb = hn::Div(hn::Mul(t, ka), f2);
-    kc = hn::Div(hn::Mul(hn::Mul(hn::Sub(t, f1), t), ka), f6);
-  };
+  const auto limit = limitV(di, b.limit - 3 * static_cast<std::ptrdiff_t>(step) - 3 * kCh - 4);
   auto byteOf = [&](hn::Vec<decltype(di)> g, int k) { return hn::ConvertTo(df, hn::And(hn::ShiftRightSame(g, 8 * k), kFF)); };
   const auto* base = reinterpret_cast<const int32_t*>(src);
   int x = 0;
@@ -407,39 +436,35 @@ void cubicRow8u(const uint8_t* src, int step, const remap::Box& b, const float* 
     auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
     const auto in = clampToBox(df, b, vx, vy);
     if (hn::AllFalse(df, in)) continue;
-    vx = hn::IfThenElse(in, vx, inner0x);
-    vy = hn::IfThenElse(in, vy, inner0y);
-    const auto ix = hn::ConvertTo(di, vx), iy = hn::ConvertTo(di, vy);
-    const auto inner = hn::And(hn::And(hn::Gt(ix, hn::Set(di, b.x0)), hn::Lt(ix, hn::Set(di, b.x1 - 1))),
-                               hn::And(hn::Gt(iy, hn::Set(di, b.y0)), hn::Lt(iy, hn::Set(di, b.y1 - 1))));
+    hn::Vec<decltype(di)> ix, iy;
+    const auto inner = cubicCellV(df, di, b, in, vx, vy, ix, iy);
     auto off = hn::Add(hn::Mul(hn::Sub(iy, one), vstep), hn::Mul(hn::Sub(ix, one), vch));
     if (!b.gather32 || !hn::AllTrue(di, inner) || (kCh == 3 && !hn::AllFalse(di, hn::Gt(off, limit)))) {
       remap::cubicRowScalar<uint8_t, L>(src, step, b, mx + x, my + x, dst + elemsOf(x, kCh), N);
       continue;
     }
     VF xa, xb, xc, ya, yb, yc;
-    coeffs(hn::Sub(vx, hn::ConvertTo(df, ix)), xa, xb, xc);
-    coeffs(hn::Sub(vy, hn::ConvertTo(df, iy)), ya, yb, yc);
+    cubicWeightsV(df, hn::Sub(vx, hn::ConvertTo(df, ix)), xa, xb, xc);
+    cubicWeightsV(df, hn::Sub(vy, hn::ConvertTo(df, iy)), ya, yb, yc);
     VF h[L::kUse][4];
     for (int r = 0; r < 4; ++r, off = hn::Add(off, vstep)) {
       if constexpr (kCh == 1) {
         const auto g = hn::GatherOffset(di, base, off);
-        h[0][r] = newton(byteOf(g, 0), byteOf(g, 1), byteOf(g, 2), byteOf(g, 3), xa, xb, xc);
+        h[0][r] = newtonV(df, byteOf(g, 0), byteOf(g, 1), byteOf(g, 2), byteOf(g, 3), xa, xb, xc);
       } else {
         hn::Vec<decltype(di)> g[4];
         for (int k = 0; k < 4; ++k) g[k] = hn::GatherOffset(di, base, hn::Add(off, hn::Set(di, k * kCh)));
         for (int c = 0; c < L::kUse; ++c)
-          h[c][r] = newton(byteOf(g[0], c), byteOf(g[1], c), byteOf(g[2], c), byteOf(g[3], c), xa, xb, xc);
+          h[c][r] = newtonV(df, byteOf(g[0], c), byteOf(g[1], c), byteOf(g[2], c), byteOf(g[3], c), xa, xb, xc);
       }
     }
     // floor(v + 0.5) saturated: clamping first gives the same for every finite v.
     auto rounded = [&](int c) {
-      const auto v = newton(h[c][0], h[c][1], h[c][2], h[c][3], ya, yb, yc);
+      const auto v = newtonV(df, h[c][0], h[c][1], h[c][2], h[c][3], ya, yb, yc);
       return hn::ConvertTo(di, hn::Add(hn::Min(hn::Max(v, hn::Zero(df)), top), half));
     };
     if constexpr (kCh == 1) {
-      const auto old = hn::PromoteTo(di, hn::LoadU(d8, dst + x));
-      hn::StoreU(hn::DemoteTo(d8, hn::IfThenElse(hn::RebindMask(di, in), rounded(0), old)), d8, dst + x);
+      storeNarrow(d8, di, in, rounded(0), dst + x);
     } else {
       auto res = hn::Zero(di);
       for (int c = 0; c < L::kUse; ++c) res = hn::Or(res, hn::ShiftLeftSame(rounded(c), 8 * c));
@@ -460,19 +485,6 @@ void cubicRowWide(const T* src, int step, const remap::Box& b, const float* mx, 
   using VF = hn::Vec<decltype(df)>;
   const int N = static_cast<int>(hn::Lanes(df));
   const auto one = hn::Set(di, 1);
-  const auto f1 = hn::Set(df, 1.0f), f2 = hn::Set(df, 2.0f), f3 = hn::Set(df, 3.0f), f6 = hn::Set(df, 6.0f);
-  const auto inner0x = hn::Set(df, b.fx0 + 1), inner0y = hn::Set(df, b.fy0 + 1);
-  auto newton = [&](VF p0, VF p1, VF p2, VF p3, VF ka, VF kb, VF kc) {
-    const auto d1 = hn::Sub(p1, p0);
-    const auto d2 = hn::Add(hn::Sub(p2, hn::Mul(f2, p1)), p0);
-    const auto d3 = hn::Sub(hn::Add(hn::Sub(p3, hn::Mul(f3, p2)), hn::Mul(f3, p1)), p0);
-    return hn::Add(hn::Add(hn::Add(p0, hn::Mul(ka, d1)), hn::Mul(kb, d2)), hn::Mul(kc, d3));
-  };
-  auto coeffs = [&](VF t, VF& ka, VF& kb, VF& kc) {
-    ka = hn::Add(t, f1);
-    kb = hn::Div(hn::Mul(t, ka), f2);
-    kc = hn::Div(hn::Mul(hn::Mul(hn::Sub(t, f1), t), ka), f6);
-  };
   constexpr bool kFloat = std::is_floating_point_v<T>;
   const bool ok = b.gather32 && (!kFloat || step % 4 == 0);
   // 32f: element indices; 16u: byte offsets.
@@ -482,18 +494,15 @@ void cubicRowWide(const T* src, int step, const remap::Box& b, const float* mx, 
     auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
     const auto in = clampToBox(df, b, vx, vy);
     if (hn::AllFalse(df, in)) continue;
-    vx = hn::IfThenElse(in, vx, inner0x);
-    vy = hn::IfThenElse(in, vy, inner0y);
-    const auto ix = hn::ConvertTo(di, vx), iy = hn::ConvertTo(di, vy);
-    const auto inner = hn::And(hn::And(hn::Gt(ix, hn::Set(di, b.x0)), hn::Lt(ix, hn::Set(di, b.x1 - 1))),
-                               hn::And(hn::Gt(iy, hn::Set(di, b.y0)), hn::Lt(iy, hn::Set(di, b.y1 - 1))));
+    hn::Vec<decltype(di)> ix, iy;
+    const auto inner = cubicCellV(df, di, b, in, vx, vy, ix, iy);
     if (!hn::AllTrue(di, inner)) {
       remap::cubicRowScalar<T, C1>(src, step, b, mx + x, my + x, dst + x, N);
       continue;
     }
     VF xa, xb, xc, ya, yb, yc;
-    coeffs(hn::Sub(vx, hn::ConvertTo(df, ix)), xa, xb, xc);
-    coeffs(hn::Sub(vy, hn::ConvertTo(df, iy)), ya, yb, yc);
+    cubicWeightsV(df, hn::Sub(vx, hn::ConvertTo(df, ix)), xa, xb, xc);
+    cubicWeightsV(df, hn::Sub(vy, hn::ConvertTo(df, iy)), ya, yb, yc);
     auto at = hn::Add(hn::Mul(hn::Sub(iy, one), vrow), hn::Mul(hn::Sub(ix, one), vpix));
     VF h[4];
     for (int r = 0; r < 4; ++r, at = hn::Add(at, vrow)) {
@@ -509,16 +518,15 @@ void cubicRowWide(const T* src, int step, const remap::Box& b, const float* mx, 
         p[2] = hn::ConvertTo(df, hn::And(w1, kLow));
         p[3] = hn::ConvertTo(df, hn::And(hn::ShiftRight<16>(w1), kLow));
       }
-      h[r] = newton(p[0], p[1], p[2], p[3], xa, xb, xc);
+      h[r] = newtonV(df, p[0], p[1], p[2], p[3], xa, xb, xc);
     }
-    const auto v = newton(h[0], h[1], h[2], h[3], ya, yb, yc);
+    const auto v = newtonV(df, h[0], h[1], h[2], h[3], ya, yb, yc);
     if constexpr (kFloat) {
       hn::StoreU(hn::IfThenElse(in, v, hn::LoadU(df, dst + x)), df, dst + x);
     } else {
       const hn::Rebind<uint16_t, decltype(di)> d16;
       const auto r = hn::ConvertTo(di, hn::Add(hn::Min(hn::Max(v, hn::Zero(df)), hn::Set(df, 65535.0f)), hn::Set(df, 0.5f)));
-      const auto old = hn::PromoteTo(di, hn::LoadU(d16, dst + x));
-      hn::StoreU(hn::DemoteTo(d16, hn::IfThenElse(hn::RebindMask(di, in), r, old)), d16, dst + x);
+      storeNarrow(d16, di, in, r, dst + x);
     }
   }
   remap::cubicRowScalar<T, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
