@@ -266,6 +266,30 @@ inline int ringSlots(int mode) {  // row buffers, and two slots for the windows
   }
 }
 
+// The tables of the last call on this thread, kept for a next call with the same axes (the
+// frames of a video): at small destinations building them is a sizeable part of the call.
+struct TableCache {
+  Lum8u* mem = nullptr;
+  std::size_t bytes = 0;
+  bool valid = false;
+  Axis ax, ay;
+  int mode = 0, ch = 0;
+  Taps tx, ty;
+  static constexpr std::size_t kMaxBytes = 1 << 20;  // larger tables are not kept
+  static bool same(const Axis& a, const Axis& b) {
+    return a.count == b.count && a.start == b.start && a.step == b.step && a.origin == b.origin &&
+           a.extent == b.extent;
+  }
+  bool holds(const Axis& x, const Axis& y, int m, int c) const {
+    return valid && m == mode && c == ch && same(x, ax) && same(y, ay);
+  }
+  ~TableCache() { lumsFree(mem); }
+};
+inline TableCache& tableCache() {
+  static thread_local TableCache cache;
+  return cache;
+}
+
 // Builds the tables (in `tables` when given, else from the allocator) and runs every plane.
 template <class T, class L, int P>
 LumStatus run(const T* const* src, int sstep, T* const* dst, int dstep, const Axis& ax,
@@ -275,18 +299,44 @@ LumStatus run(const T* const* src, int sstep, T* const* dst, int dstep, const Ax
   const std::size_t bx = tableBytes(mode, elemsOf(ax.count, kCh), mx);
   const std::size_t by = tableBytes(mode, ay.count, my);
   Lum8u* mem = tables;
-  if (mem == nullptr) {
+  Taps tx, ty;
+  TableCache* kept = nullptr;
+  if (mem == nullptr && bx + by <= TableCache::kMaxBytes) {
+    kept = &tableCache();
+    if (kept->holds(ax, ay, mode, kCh)) {
+      tx = kept->tx;
+      ty = kept->ty;
+    } else {
+      kept->valid = false;
+      if (kept->bytes < bx + by) {
+        lumsFree(kept->mem);
+        kept->mem = lumsMalloc_8u(static_cast<int>(bx + by));
+        kept->bytes = kept->mem == nullptr ? 0 : bx + by;
+        if (kept->mem == nullptr) return lumStatusMemAllocErr;
+      }
+      mem = kept->mem;
+    }
+  } else if (mem == nullptr) {
     if (bx + by > 0x7fffffffu) return lumStatusMemAllocErr;
     mem = lumsMalloc_8u(static_cast<int>(bx + by));
     if (mem == nullptr) return lumStatusMemAllocErr;
   }
-  Taps tx, ty;
-  if (mode == kSuper && halves(ax) && halves(ay)) {  // 2x2 means: only the first rows
+  if (mem == nullptr) {  // the cached tables
+  } else if (mode == kSuper && halves(ax) && halves(ay)) {  // 2x2 means: only the first rows
     ty.off = reinterpret_cast<int32_t*>(mem + bx);
     for (int j = 0; j < ay.count; ++j) ty.off[j] = static_cast<int>(ay.start) + 2 * j;
   } else {
     buildTaps(ax, mode, kCh, mem, &tx);
     buildTaps(ay, mode, 1, mem + bx, &ty);
+  }
+  if (kept != nullptr && mem != nullptr) {
+    kept->valid = true;
+    kept->ax = ax;
+    kept->ay = ay;
+    kept->mode = mode;
+    kept->ch = kCh;
+    kept->tx = tx;
+    kept->ty = ty;
   }
   // row buffers: 4-byte elements, padded for vector overrun
   const std::size_t slot =
@@ -317,7 +367,7 @@ LumStatus run(const T* const* src, int sstep, T* const* dst, int dstep, const Ax
                               runRows<T, L>(s, sstep, d, dstep, tx, ty, mode, ax, ay, y0, y1, scratch, slot, stream);
                             });
   }
-  if (tables == nullptr) lumsFree(mem);
+  if (tables == nullptr && kept == nullptr) lumsFree(mem);
   return st;
 }
 
