@@ -69,7 +69,12 @@ HWY_INLINE void pairRun8(const Lum8u* s0, const Lum8u* s1, const int16_t* w2, in
     const __m512i d2 = _mm512_slli_epi16(_mm512_sub_epi16(h1, h0), 1);
     return _mm512_srai_epi16(_mm512_add_epi16(_mm512_add_epi16(h0, round), _mm512_mulhi_epi16(d2, wy2)), 6);
   };
+  const std::ptrdiff_t ahead = 2 * (s1 - s0);  // the next destination row's rows, usually
   for (int e = 0; e < run; e += 64) {
+    hwy::Prefetch(s0 + ahead + 2 * e);
+    hwy::Prefetch(s0 + ahead + 2 * e + 64);
+    hwy::Prefetch(s1 + ahead + 2 * e);
+    hwy::Prefetch(s1 + ahead + 2 * e + 64);
     const __m512i wa = _mm512_loadu_si512(w2 + e), wb = _mm512_loadu_si512(w2 + e + 32);
     const __m512i a = column(sums(first + 2 * e, wa), sums(s1 + 2 * e, wa));
     const __m512i b = column(sums(first + 2 * e + 64, wb), sums(s1 + 2 * e + 64, wb));
@@ -87,7 +92,12 @@ HWY_INLINE void pairRunF(const float* s0, const float* s1, const float* wf0, con
     return _mm512_add_ps(_mm512_mul_ps(_mm512_permutex2var_ps(x, even, y), w0),
                          _mm512_mul_ps(_mm512_permutex2var_ps(x, odd, y), w1));
   };
+  const std::ptrdiff_t ahead = 2 * (s1 - s0);
   for (int e = 0; e < run; e += 16) {
+    hwy::Prefetch(s0 + ahead + 2 * e);
+    hwy::Prefetch(s0 + ahead + 2 * e + 16);
+    hwy::Prefetch(s1 + ahead + 2 * e);
+    hwy::Prefetch(s1 + ahead + 2 * e + 16);
     const __m512 w0 = _mm512_loadu_ps(wf0 + e), w1 = _mm512_loadu_ps(wf1 + e);
     const __m512 h0 = sums(s0 + 2 * e, w0, w1), h1 = sums(s1 + 2 * e, w0, w1);
     _mm512_storeu_ps(dst + e, _mm512_add_ps(_mm512_mul_ps(h0, a), _mm512_mul_ps(h1, b)));
