@@ -273,6 +273,10 @@ TEST(Resize, LargeImagesAcrossThreadsAndVectorWidths) {
   checkResize<Lum32f>(0, {333, 80}, {0, 0, 333, 80}, 0.6, 0.5, 2, 2, 9);
   checkResize<Lum8u>(3, {230, 40}, {2, 1, 220, 39}, 0.5, 0.45, 2, 2, 10);  // AC4 reduction
   checkResize<Lum8u>(0, {260, 40}, {0, 0, 260, 40}, 0.5, 0.5, 2, 2, 14);   // pairs of neighbours
+  for (int again = 0; again < 2; ++again) {  // the second time with the kept tables
+    checkResize<Lum8u>(0, {450, 30}, {3, 1, 446, 29}, 0.5, 0.5, 2, 2, 15 + again);
+    checkResize<Lum32f>(0, {450, 30}, {3, 1, 446, 29}, 0.5, 0.5, 2, 2, 17 + again);
+  }
   checkResize<Lum8u>(1, {150, 50}, {1, 1, 149, 49}, 2.0, 0.5, 1, 1, 11);
   checkResize<Lum32f>(3, {120, 40}, {0, 0, 120, 40}, 0.5, 2.0, 1, 1, 12);
   checkResize<Lum32f>(1, {200, 40}, {0, 0, 200, 40}, 0.5, 0.5, 4, 4, 13);
