@@ -18,6 +18,14 @@ inline char* alignPtr(void* p) {
                                  ~std::uintptr_t{kAlign - 1});
 }
 
+// The work buffer of a transform of length n: the reordered vector (n floats, aligned), then
+// the FFT's own work.
+inline float* splitWork(void* work, int n, void** fftWork) {
+  char* w = alignPtr(work);
+  *fftWork = w + alignUp(sizeof(float) * n);
+  return reinterpret_cast<float*>(w);
+}
+
 }  // namespace
 
 Dct* Dct::create(int n) {
@@ -61,9 +69,8 @@ void Dct::forward(const float* in, float* out, void* work) const {
     out[0] = in[0];
     return;
   }
-  char* w = alignPtr(work);
-  float* v = reinterpret_cast<float*>(w);
-  void* fw = w + alignUp(sizeof(float) * n);
+  void* fw;
+  float* v = splitWork(work, n, &fw);
   for (int j = 0; 2 * j < n; ++j) v[j] = in[2 * j];
   for (int j = 0; 2 * j + 1 < n; ++j) v[n - 1 - j] = in[2 * j + 1];
   fft_->forward(v, v, fw);
@@ -83,9 +90,8 @@ void Dct::inverse(const float* in, float* out, void* work) const {
     out[0] = in[0];
     return;
   }
-  char* w = alignPtr(work);
-  float* v = reinterpret_cast<float*>(w);
-  void* fw = w + alignUp(sizeof(float) * n);
+  void* fw;
+  float* v = splitWork(work, n, &fw);
   v[0] = in[0] * static_cast<float>(1.0 / std::sqrt(static_cast<double>(n)));
   for (int k = 1; 2 * k < n; ++k) {
     const float a = in[k], b = in[n - k];

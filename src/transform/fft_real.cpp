@@ -34,44 +34,31 @@ LumStatus real32f(const Lum32f* src, int srcStep, Lum32f* dst, int dstStep, cons
   });
 }
 
-template <int kTag, class L, class SpecT>
-LumStatus forward8u32s(const Lum8u* src, int srcStep, Lum32s* dst, int dstStep, const SpecT* spec,
-                       Lum8u* buffer, int scaleFactor) {
+// The 8u <-> 32s members: one channel at a time through the float plane of the work buffer,
+// the integer side scaled by 2^-scaleFactor on the way out.
+template <int kTag, class L, bool kInv, class S, class D, class SpecT>
+LumStatus viaPlane(const S* src, int srcStep, D* dst, int dstStep, const SpecT* spec,
+                   Lum8u* buffer, int scaleFactor) {
   if (LumStatus s = checkTransform(spec, kTag, srcStep, dstStep, src, dst)) return s;
   const Record& R = spec->rec;
   const ScaleFactor sf = pack::resolveScale(scaleFactor);
   const int W = R.width, H = R.height, planeStep = W * static_cast<int>(sizeof(float));
   return withScratch(R, buffer, [&](const Scratch& s) {
     for (int c = 0; c < L::kUse; ++c) {
-      forwardReal<Lum8u>(R, src + c, srcStep, L::kCh, s.plane, planeStep, 1, s);
+      if constexpr (kInv) {
+        for (int y = 0; y < H; ++y) {
+          const S* p = rowAt(src, srcStep, y) + c;
+          float* o = rowAt(s.plane, planeStep, y);
+          for (int x = 0; x < W; ++x) o[x] = static_cast<float>(p[elemsOf(x, L::kCh)]);
+        }
+        inverseReal(R, s.plane, planeStep, 1, s.plane, planeStep, 1, s);
+      } else {
+        forwardReal<S>(R, src + c, srcStep, L::kCh, s.plane, planeStep, 1, s);
+      }
       for (int y = 0; y < H; ++y) {
         const float* p = rowAt(s.plane, planeStep, y);
-        Lum32s* o = rowAt(dst, dstStep, y) + c;
-        for (int x = 0; x < W; ++x) o[elemsOf(x, L::kCh)] = pack::scaleRound<Lum32s>(p[x], sf);
-      }
-    }
-  });
-}
-
-template <int kTag, class L, class SpecT>
-LumStatus inverse32s8u(const Lum32s* src, int srcStep, Lum8u* dst, int dstStep, const SpecT* spec,
-                       Lum8u* buffer, int scaleFactor) {
-  if (LumStatus s = checkTransform(spec, kTag, srcStep, dstStep, src, dst)) return s;
-  const Record& R = spec->rec;
-  const ScaleFactor sf = pack::resolveScale(scaleFactor);
-  const int W = R.width, H = R.height, planeStep = W * static_cast<int>(sizeof(float));
-  return withScratch(R, buffer, [&](const Scratch& s) {
-    for (int c = 0; c < L::kUse; ++c) {
-      for (int y = 0; y < H; ++y) {
-        const Lum32s* p = rowAt(src, srcStep, y) + c;
-        float* o = rowAt(s.plane, planeStep, y);
-        for (int x = 0; x < W; ++x) o[x] = static_cast<float>(p[elemsOf(x, L::kCh)]);
-      }
-      inverseReal(R, s.plane, planeStep, 1, s.plane, planeStep, 1, s);
-      for (int y = 0; y < H; ++y) {
-        const float* p = rowAt(s.plane, planeStep, y);
-        Lum8u* o = rowAt(dst, dstStep, y) + c;
-        for (int x = 0; x < W; ++x) o[elemsOf(x, L::kCh)] = pack::scaleRound<Lum8u>(p[x], sf);
+        D* o = rowAt(dst, dstStep, y) + c;
+        for (int x = 0; x < W; ++x) o[elemsOf(x, L::kCh)] = pack::scaleRound<D>(p[x], sf);
       }
     }
   });
@@ -93,15 +80,10 @@ using namespace lumi::fft2d;
   LUMI_API LumStatus NAME(Lum32f* pSrcDst, int srcDstStep, const SPEC* pSpec, Lum8u* pBuffer) { \
     return real32f<TAG, L, INV>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, pSpec, pBuffer);      \
   }
-#define LUMI_FWD_8U32S(NAME, SPEC, TAG, L)                                                  \
-  LUMI_API LumStatus NAME(const Lum8u* pSrc, int srcStep, Lum32s* pDst, int dstStep,        \
-                          const SPEC* pSpec, Lum8u* pBuffer, int scaleFactor) {             \
-    return forward8u32s<TAG, L>(pSrc, srcStep, pDst, dstStep, pSpec, pBuffer, scaleFactor); \
-  }
-#define LUMI_INV_32S8U(NAME, SPEC, TAG, L)                                                  \
-  LUMI_API LumStatus NAME(const Lum32s* pSrc, int srcStep, Lum8u* pDst, int dstStep,        \
-                          const SPEC* pSpec, Lum8u* pBuffer, int scaleFactor) {             \
-    return inverse32s8u<TAG, L>(pSrc, srcStep, pDst, dstStep, pSpec, pBuffer, scaleFactor); \
+#define LUMI_REAL_SFS(NAME, SPEC, TAG, L, S, D, INV)                                         \
+  LUMI_API LumStatus NAME(const S* pSrc, int srcStep, D* pDst, int dstStep, const SPEC* pSpec, \
+                          Lum8u* pBuffer, int scaleFactor) {                                   \
+    return viaPlane<TAG, L, INV>(pSrc, srcStep, pDst, dstStep, pSpec, pBuffer, scaleFactor);   \
   }
 
 LUMI_REAL_32F(lumiFFTFwd_RToPack_32f_C1R, LumiFFTSpec, kTagFftR, C1, false)
@@ -136,19 +118,19 @@ LUMI_REAL_32F_I(lumiDFTInv_PackToR_32f_C1IR, LumiDFTSpec, kTagDftR, C1, true)
 LUMI_REAL_32F_I(lumiDFTInv_PackToR_32f_C3IR, LumiDFTSpec, kTagDftR, C3, true)
 LUMI_REAL_32F_I(lumiDFTInv_PackToR_32f_C4IR, LumiDFTSpec, kTagDftR, C4, true)
 LUMI_REAL_32F_I(lumiDFTInv_PackToR_32f_AC4IR, LumiDFTSpec, kTagDftR, AC4, true)
-LUMI_FWD_8U32S(lumiFFTFwd_RToPack_8u32s_C1RSfs, LumiFFTSpec, kTagFftR32s, C1)
-LUMI_FWD_8U32S(lumiFFTFwd_RToPack_8u32s_C3RSfs, LumiFFTSpec, kTagFftR32s, C3)
-LUMI_FWD_8U32S(lumiFFTFwd_RToPack_8u32s_C4RSfs, LumiFFTSpec, kTagFftR32s, C4)
-LUMI_FWD_8U32S(lumiFFTFwd_RToPack_8u32s_AC4RSfs, LumiFFTSpec, kTagFftR32s, AC4)
-LUMI_INV_32S8U(lumiFFTInv_PackToR_32s8u_C1RSfs, LumiFFTSpec, kTagFftR32s, C1)
-LUMI_INV_32S8U(lumiFFTInv_PackToR_32s8u_C3RSfs, LumiFFTSpec, kTagFftR32s, C3)
-LUMI_INV_32S8U(lumiFFTInv_PackToR_32s8u_C4RSfs, LumiFFTSpec, kTagFftR32s, C4)
-LUMI_INV_32S8U(lumiFFTInv_PackToR_32s8u_AC4RSfs, LumiFFTSpec, kTagFftR32s, AC4)
-LUMI_FWD_8U32S(lumiDFTFwd_RToPack_8u32s_C1RSfs, LumiDFTSpec, kTagDftR32s, C1)
-LUMI_FWD_8U32S(lumiDFTFwd_RToPack_8u32s_C3RSfs, LumiDFTSpec, kTagDftR32s, C3)
-LUMI_FWD_8U32S(lumiDFTFwd_RToPack_8u32s_C4RSfs, LumiDFTSpec, kTagDftR32s, C4)
-LUMI_FWD_8U32S(lumiDFTFwd_RToPack_8u32s_AC4RSfs, LumiDFTSpec, kTagDftR32s, AC4)
-LUMI_INV_32S8U(lumiDFTInv_PackToR_32s8u_C1RSfs, LumiDFTSpec, kTagDftR32s, C1)
-LUMI_INV_32S8U(lumiDFTInv_PackToR_32s8u_C3RSfs, LumiDFTSpec, kTagDftR32s, C3)
-LUMI_INV_32S8U(lumiDFTInv_PackToR_32s8u_C4RSfs, LumiDFTSpec, kTagDftR32s, C4)
-LUMI_INV_32S8U(lumiDFTInv_PackToR_32s8u_AC4RSfs, LumiDFTSpec, kTagDftR32s, AC4)
+LUMI_REAL_SFS(lumiFFTFwd_RToPack_8u32s_C1RSfs, LumiFFTSpec, kTagFftR32s, C1, Lum8u, Lum32s, false)
+LUMI_REAL_SFS(lumiFFTFwd_RToPack_8u32s_C3RSfs, LumiFFTSpec, kTagFftR32s, C3, Lum8u, Lum32s, false)
+LUMI_REAL_SFS(lumiFFTFwd_RToPack_8u32s_C4RSfs, LumiFFTSpec, kTagFftR32s, C4, Lum8u, Lum32s, false)
+LUMI_REAL_SFS(lumiFFTFwd_RToPack_8u32s_AC4RSfs, LumiFFTSpec, kTagFftR32s, AC4, Lum8u, Lum32s, false)
+LUMI_REAL_SFS(lumiFFTInv_PackToR_32s8u_C1RSfs, LumiFFTSpec, kTagFftR32s, C1, Lum32s, Lum8u, true)
+LUMI_REAL_SFS(lumiFFTInv_PackToR_32s8u_C3RSfs, LumiFFTSpec, kTagFftR32s, C3, Lum32s, Lum8u, true)
+LUMI_REAL_SFS(lumiFFTInv_PackToR_32s8u_C4RSfs, LumiFFTSpec, kTagFftR32s, C4, Lum32s, Lum8u, true)
+LUMI_REAL_SFS(lumiFFTInv_PackToR_32s8u_AC4RSfs, LumiFFTSpec, kTagFftR32s, AC4, Lum32s, Lum8u, true)
+LUMI_REAL_SFS(lumiDFTFwd_RToPack_8u32s_C1RSfs, LumiDFTSpec, kTagDftR32s, C1, Lum8u, Lum32s, false)
+LUMI_REAL_SFS(lumiDFTFwd_RToPack_8u32s_C3RSfs, LumiDFTSpec, kTagDftR32s, C3, Lum8u, Lum32s, false)
+LUMI_REAL_SFS(lumiDFTFwd_RToPack_8u32s_C4RSfs, LumiDFTSpec, kTagDftR32s, C4, Lum8u, Lum32s, false)
+LUMI_REAL_SFS(lumiDFTFwd_RToPack_8u32s_AC4RSfs, LumiDFTSpec, kTagDftR32s, AC4, Lum8u, Lum32s, false)
+LUMI_REAL_SFS(lumiDFTInv_PackToR_32s8u_C1RSfs, LumiDFTSpec, kTagDftR32s, C1, Lum32s, Lum8u, true)
+LUMI_REAL_SFS(lumiDFTInv_PackToR_32s8u_C3RSfs, LumiDFTSpec, kTagDftR32s, C3, Lum32s, Lum8u, true)
+LUMI_REAL_SFS(lumiDFTInv_PackToR_32s8u_C4RSfs, LumiDFTSpec, kTagDftR32s, C4, Lum32s, Lum8u, true)
+LUMI_REAL_SFS(lumiDFTInv_PackToR_32s8u_AC4RSfs, LumiDFTSpec, kTagDftR32s, AC4, Lum32s, Lum8u, true)

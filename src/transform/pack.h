@@ -67,6 +67,17 @@ inline T scaleExactSum(int64_t a, int64_t b, const ScaleFactor& sf) {
 // The scale factor of the integer members: shifts beyond 62 bits only round or saturate.
 inline ScaleFactor resolveScale(int sf) { return ScaleFactor::resolve(sf, 62, 62); }
 
+// One complex product of interleaved (Re, Im) pairs, d = a x b (kConj: a x conj b), each part
+// formed in double and rounded once; d may be a or b.
+template <bool kConj>
+inline void mulPair(const float* a, const float* b, float* d) {
+  const double xr = a[0], xi = a[1], yr = b[0], yi = kConj ? -static_cast<double>(b[1]) : b[1];
+  const float re = static_cast<float>(xr * yr - xi * yi),
+              im = static_cast<float>(xr * yi + xi * yr);
+  d[0] = re;
+  d[1] = im;
+}
+
 // A(r, u) of the full spectrum from a packed image, as the stored (re, im) of the frequency
 // or its mirror conjugated. get(row, col) reads one element of the packed channel; V is the
 // value type (double, or int64_t for integer spectra).

@@ -37,14 +37,7 @@ void mulPairs(const float* a, const float* b, float* d, int pairs) {
     const auto q = hn::Mul(hn::Mul(hn::Reverse2(dd, x), yi), sign);  // -xi yi, xr yi
     hn::StoreU(hn::DemoteTo(df, hn::Add(p, q)), df, d + i);
   }
-  for (; i < n; i += 2) {
-    const double xr = a[i], xi = a[i + 1], yr = b[i],
-                 yi = kConj ? -static_cast<double>(b[i + 1]) : b[i + 1];
-    const float re = static_cast<float>(xr * yr - xi * yi),
-                im = static_cast<float>(xr * yi + xi * yr);
-    d[i] = re;
-    d[i + 1] = im;
-  }
+  for (; i < n; i += 2) lumi::pack::mulPair<kConj>(a + i, b + i, d + i);
 }
 
 #endif
@@ -59,14 +52,7 @@ using MulPairsFn = void (*)(const float*, const float*, float*, int);
 
 template <bool kConj>
 void mulPairsScalar(const float* a, const float* b, float* d, int pairs) {
-  for (int i = 0; i < 2 * pairs; i += 2) {
-    const double xr = a[i], xi = a[i + 1], yr = b[i],
-                 yi = kConj ? -static_cast<double>(b[i + 1]) : b[i + 1];
-    const float re = static_cast<float>(xr * yr - xi * yi),
-                im = static_cast<float>(xr * yi + xi * yr);
-    d[i] = re;
-    d[i + 1] = im;
-  }
+  for (int i = 0; i < 2 * pairs; i += 2) mulPair<kConj>(a + i, b + i, d + i);
 }
 template <bool kConj>
 MulPairsFn pickMulPairs() {
