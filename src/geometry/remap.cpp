@@ -16,6 +16,7 @@
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
 #include "core/simd.h"
+#include "geometry/cubic-inl.h"
 #include "geometry/remap_kernels.h"
 #include "lumi/remap.h"
 
@@ -72,27 +73,6 @@ HWY_INLINE hn::Mask<DI> cubicCellV(DF df, DI di, const remap::Box& b, hn::Mask<D
   iy = hn::ConvertTo(di, y);
   return hn::And(hn::And(hn::Gt(ix, hn::Set(di, b.x0)), hn::Lt(ix, hn::Set(di, b.x1 - 1))),
                  hn::And(hn::Gt(iy, hn::Set(di, b.y0)), hn::Lt(iy, hn::Set(di, b.y1 - 1))));
-}
-
-// The cubic weights of the fraction t (see newtonV).
-template <class DF>
-HWY_INLINE void cubicWeightsV(DF df, hn::Vec<DF> t, hn::Vec<DF>& ka, hn::Vec<DF>& kb,
-                              hn::Vec<DF>& kc) {
-  const auto f1 = hn::Set(df, 1.0f);
-  ka = hn::Add(t, f1);
-  kb = hn::Div(hn::Mul(t, ka), hn::Set(df, 2.0f));
-  kc = hn::Div(hn::Mul(hn::Mul(hn::Sub(t, f1), t), ka), hn::Set(df, 6.0f));
-}
-
-// The 4-point cubic through p0..p3 in Newton form, with the weights of cubicWeightsV and the
-// scalar twin's very operations.
-template <class DF, class VF = hn::Vec<DF>>
-HWY_INLINE VF newtonV(DF df, VF p0, VF p1, VF p2, VF p3, VF ka, VF kb, VF kc) {
-  const auto f2 = hn::Set(df, 2.0f), f3 = hn::Set(df, 3.0f);
-  const auto d1 = hn::Sub(p1, p0);
-  const auto d2 = hn::Add(hn::Sub(p2, hn::Mul(f2, p1)), p0);
-  const auto d3 = hn::Sub(hn::Add(hn::Sub(p3, hn::Mul(f3, p2)), hn::Mul(f3, p1)), p0);
-  return hn::Add(hn::Add(hn::Add(p0, hn::Mul(ka, d1)), hn::Mul(kb, d2)), hn::Mul(kc, d3));
 }
 
 // The vector of the last byte offsets whose 32-bit words the kernel may read (lim; -1: none).
@@ -444,23 +424,23 @@ void cubicRow8u(const uint8_t* src, int step, const remap::Box& b, const float* 
       continue;
     }
     VF xa, xb, xc, ya, yb, yc;
-    cubicWeightsV(df, hn::Sub(vx, hn::ConvertTo(df, ix)), xa, xb, xc);
-    cubicWeightsV(df, hn::Sub(vy, hn::ConvertTo(df, iy)), ya, yb, yc);
+    cubicCoeffsV(df, hn::Sub(vx, hn::ConvertTo(df, ix)), xa, xb, xc);
+    cubicCoeffsV(df, hn::Sub(vy, hn::ConvertTo(df, iy)), ya, yb, yc);
     VF h[L::kUse][4];
     for (int r = 0; r < 4; ++r, off = hn::Add(off, vstep)) {
       if constexpr (kCh == 1) {
         const auto g = hn::GatherOffset(di, base, off);
-        h[0][r] = newtonV(df, byteOf(g, 0), byteOf(g, 1), byteOf(g, 2), byteOf(g, 3), xa, xb, xc);
+        h[0][r] = cubicNewtonV(df, byteOf(g, 0), byteOf(g, 1), byteOf(g, 2), byteOf(g, 3), xa, xb, xc);
       } else {
         hn::Vec<decltype(di)> g[4];
         for (int k = 0; k < 4; ++k) g[k] = hn::GatherOffset(di, base, hn::Add(off, hn::Set(di, k * kCh)));
         for (int c = 0; c < L::kUse; ++c)
-          h[c][r] = newtonV(df, byteOf(g[0], c), byteOf(g[1], c), byteOf(g[2], c), byteOf(g[3], c), xa, xb, xc);
+          h[c][r] = cubicNewtonV(df, byteOf(g[0], c), byteOf(g[1], c), byteOf(g[2], c), byteOf(g[3], c), xa, xb, xc);
       }
     }
     // floor(v + 0.5) saturated: clamping first gives the same for every finite v.
     auto rounded = [&](int c) {
-      const auto v = newtonV(df, h[c][0], h[c][1], h[c][2], h[c][3], ya, yb, yc);
+      const auto v = cubicNewtonV(df, h[c][0], h[c][1], h[c][2], h[c][3], ya, yb, yc);
       return hn::ConvertTo(di, hn::Add(hn::Min(hn::Max(v, hn::Zero(df)), top), half));
     };
     if constexpr (kCh == 1) {
@@ -501,8 +481,8 @@ void cubicRowWide(const T* src, int step, const remap::Box& b, const float* mx, 
       continue;
     }
     VF xa, xb, xc, ya, yb, yc;
-    cubicWeightsV(df, hn::Sub(vx, hn::ConvertTo(df, ix)), xa, xb, xc);
-    cubicWeightsV(df, hn::Sub(vy, hn::ConvertTo(df, iy)), ya, yb, yc);
+    cubicCoeffsV(df, hn::Sub(vx, hn::ConvertTo(df, ix)), xa, xb, xc);
+    cubicCoeffsV(df, hn::Sub(vy, hn::ConvertTo(df, iy)), ya, yb, yc);
     auto at = hn::Add(hn::Mul(hn::Sub(iy, one), vrow), hn::Mul(hn::Sub(ix, one), vpix));
     VF h[4];
     for (int r = 0; r < 4; ++r, at = hn::Add(at, vrow)) {
@@ -518,9 +498,9 @@ void cubicRowWide(const T* src, int step, const remap::Box& b, const float* mx, 
         p[2] = hn::ConvertTo(df, hn::And(w1, kLow));
         p[3] = hn::ConvertTo(df, hn::And(hn::ShiftRight<16>(w1), kLow));
       }
-      h[r] = newtonV(df, p[0], p[1], p[2], p[3], xa, xb, xc);
+      h[r] = cubicNewtonV(df, p[0], p[1], p[2], p[3], xa, xb, xc);
     }
-    const auto v = newtonV(df, h[0], h[1], h[2], h[3], ya, yb, yc);
+    const auto v = cubicNewtonV(df, h[0], h[1], h[2], h[3], ya, yb, yc);
     if constexpr (kFloat) {
       hn::StoreU(hn::IfThenElse(in, v, hn::LoadU(df, dst + x)), df, dst + x);
     } else {

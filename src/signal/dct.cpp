@@ -18,6 +18,13 @@ inline char* alignPtr(void* p) {
                                  ~std::uintptr_t{kAlign - 1});
 }
 
+// Length 1: both transforms copy their one value.
+inline bool copiedOne(int n, const float* in, float* out) {
+  if (n != 1) return false;
+  out[0] = in[0];
+  return true;
+}
+
 // The work buffer of a transform of length n: the reordered vector (n floats, aligned), then
 // the FFT's own work.
 inline float* splitWork(void* work, int n, void** fftWork) {
@@ -65,10 +72,7 @@ void Dct::destroy(Dct* p) {
 
 void Dct::forward(const float* in, float* out, void* work) const {
   const int n = n_;
-  if (n == 1) {
-    out[0] = in[0];
-    return;
-  }
+  if (copiedOne(n, in, out)) return;
   void* fw;
   float* v = splitWork(work, n, &fw);
   for (int j = 0; 2 * j < n; ++j) v[j] = in[2 * j];
@@ -86,10 +90,7 @@ void Dct::forward(const float* in, float* out, void* work) const {
 
 void Dct::inverse(const float* in, float* out, void* work) const {
   const int n = n_;
-  if (n == 1) {
-    out[0] = in[0];
-    return;
-  }
+  if (copiedOne(n, in, out)) return;
   void* fw;
   float* v = splitWork(work, n, &fw);
   v[0] = in[0] * static_cast<float>(1.0 / std::sqrt(static_cast<double>(n)));
