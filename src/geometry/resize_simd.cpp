@@ -92,12 +92,12 @@ HWY_INLINE void pairRunF(const float* s0, const float* s1, const float* wf0, con
     return _mm512_add_ps(_mm512_mul_ps(_mm512_permutex2var_ps(x, even, y), w0),
                          _mm512_mul_ps(_mm512_permutex2var_ps(x, odd, y), w1));
   };
-  const std::ptrdiff_t ahead = 2 * (s1 - s0);
+  const std::ptrdiff_t ahead = 2 * (s1 - s0);  // into the second level: rows of floats would crowd the first
   for (int e = 0; e < run; e += 16) {
-    hwy::Prefetch(s0 + ahead + 2 * e);
-    hwy::Prefetch(s0 + ahead + 2 * e + 16);
-    hwy::Prefetch(s1 + ahead + 2 * e);
-    hwy::Prefetch(s1 + ahead + 2 * e + 16);
+    _mm_prefetch(reinterpret_cast<const char*>(s0 + ahead + 2 * e), _MM_HINT_T1);
+    _mm_prefetch(reinterpret_cast<const char*>(s0 + ahead + 2 * e + 16), _MM_HINT_T1);
+    _mm_prefetch(reinterpret_cast<const char*>(s1 + ahead + 2 * e), _MM_HINT_T1);
+    _mm_prefetch(reinterpret_cast<const char*>(s1 + ahead + 2 * e + 16), _MM_HINT_T1);
     const __m512 w0 = _mm512_loadu_ps(wf0 + e), w1 = _mm512_loadu_ps(wf1 + e);
     const __m512 h0 = sums(s0 + 2 * e, w0, w1), h1 = sums(s1 + 2 * e, w0, w1);
     _mm512_storeu_ps(dst + e, _mm512_add_ps(_mm512_mul_ps(h0, a), _mm512_mul_ps(h1, b)));
