@@ -41,7 +41,7 @@ typedef struct LumiDFTSpec LumiDFTSpec;
    members (R_32s). InitAlloc checks ppSpec (lumStatusNullPtrErr), the orders, 0 to 30
    (lumStatusFftOrderErr), the flag (lumStatusFftFlagErr), in that order.
    Free and GetBufSize check the pointers (lumStatusNullPtrErr), then the kind
-   (lumStatusContextMismatchErr). src/transform/fft_spec.cpp, fft_real.cpp, fft_complex.cpp. */
+   (lumStatusContextMismatchErr). src/transform/fft_records.cpp, fft_real.cpp, fft_complex.cpp. */
 LUMI_API LumStatus lumiFFTInitAlloc_R_32f(LumiFFTSpec** ppSpec, int orderX, int orderY, int flag, int hint);
 LUMI_API LumStatus lumiFFTInitAlloc_C_32fc(LumiFFTSpec** ppSpec, int orderX, int orderY, int flag, int hint);
 LUMI_API LumStatus lumiFFTInitAlloc_R_32s(LumiFFTSpec** ppSpec, int orderX, int orderY, int flag, int hint);
@@ -55,7 +55,7 @@ LUMI_API LumStatus lumiFFTGetBufSize_R_32s(const LumiFFTSpec* pSpec, int* pSize)
 /* FFT of real images (R_32f specification): forward to the packed spectrum, inverse from it.
    Checks pSpec (lumStatusNullPtrErr), its kind (lumStatusContextMismatchErr), the image
    pointers (lumStatusNullPtrErr), steps below 1 (lumStatusStepErr), in that order; a buffer
-   it has to allocate and cannot gives lumStatusMemAllocErr. src/transform/fft_spec.cpp, fft_real.cpp, fft_complex.cpp. */
+   it has to allocate and cannot gives lumStatusMemAllocErr. src/transform/fft_records.cpp, fft_real.cpp, fft_complex.cpp. */
 LUMI_API LumStatus lumiFFTFwd_RToPack_32f_C1R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, const LumiFFTSpec* pSpec, Lum8u* pBuffer);
 LUMI_API LumStatus lumiFFTFwd_RToPack_32f_C3R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, const LumiFFTSpec* pSpec, Lum8u* pBuffer);
 LUMI_API LumStatus lumiFFTFwd_RToPack_32f_C4R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, const LumiFFTSpec* pSpec, Lum8u* pBuffer);
@@ -75,7 +75,7 @@ LUMI_API LumStatus lumiFFTInv_PackToR_32f_AC4IR(Lum32f* pSrcDst, int srcDstStep,
 
 /* FFT of 8u images to a 32s packed spectrum and back (R_32s specification), computed in
    single precision: the result x 2^-scaleFactor, ties to even, saturated. Checks as the
-   32f members. src/transform/fft_spec.cpp, fft_real.cpp, fft_complex.cpp. */
+   32f members. src/transform/fft_records.cpp, fft_real.cpp, fft_complex.cpp. */
 LUMI_API LumStatus lumiFFTFwd_RToPack_8u32s_C1RSfs(const Lum8u* pSrc, int srcStep, Lum32s* pDst, int dstStep, const LumiFFTSpec* pSpec, Lum8u* pBuffer, int scaleFactor);
 LUMI_API LumStatus lumiFFTFwd_RToPack_8u32s_C3RSfs(const Lum8u* pSrc, int srcStep, Lum32s* pDst, int dstStep, const LumiFFTSpec* pSpec, Lum8u* pBuffer, int scaleFactor);
 LUMI_API LumStatus lumiFFTFwd_RToPack_8u32s_C4RSfs(const Lum8u* pSrc, int srcStep, Lum32s* pDst, int dstStep, const LumiFFTSpec* pSpec, Lum8u* pBuffer, int scaleFactor);
@@ -86,7 +86,7 @@ LUMI_API LumStatus lumiFFTInv_PackToR_32s8u_C4RSfs(const Lum32s* pSrc, int srcSt
 LUMI_API LumStatus lumiFFTInv_PackToR_32s8u_AC4RSfs(const Lum32s* pSrc, int srcStep, Lum8u* pDst, int dstStep, const LumiFFTSpec* pSpec, Lum8u* pBuffer, int scaleFactor);
 
 /* FFT of complex images (C_32fc specification), forward and inverse. Checks as the real
-   members. src/transform/fft_spec.cpp, fft_real.cpp, fft_complex.cpp. */
+   members. src/transform/fft_records.cpp, fft_real.cpp, fft_complex.cpp. */
 LUMI_API LumStatus lumiFFTFwd_CToC_32fc_C1R(const Lum32fc* pSrc, int srcStep, Lum32fc* pDst, int dstStep, const LumiFFTSpec* pSpec, Lum8u* pBuffer);
 LUMI_API LumStatus lumiFFTFwd_CToC_32fc_C1IR(Lum32fc* pSrcDst, int srcDstStep, const LumiFFTSpec* pSpec, Lum8u* pBuffer);
 LUMI_API LumStatus lumiFFTInv_CToC_32fc_C1R(const Lum32fc* pSrc, int srcStep, Lum32fc* pDst, int dstStep, const LumiFFTSpec* pSpec, Lum8u* pBuffer);
@@ -96,7 +96,7 @@ LUMI_API LumStatus lumiFFTInv_CToC_32fc_C1IR(Lum32fc* pSrcDst, int srcDstStep, c
    members (R_32s). InitAlloc checks ppSpec (lumStatusNullPtrErr), the size, both sides at least 1
    (lumStatusSizeErr), the flag (lumStatusFftFlagErr), in that order.
    Free and GetBufSize check the pointers (lumStatusNullPtrErr), then the kind
-   (lumStatusContextMismatchErr). src/transform/fft_spec.cpp, fft_real.cpp, fft_complex.cpp. */
+   (lumStatusContextMismatchErr). src/transform/fft_records.cpp, fft_real.cpp, fft_complex.cpp. */
 LUMI_API LumStatus lumiDFTInitAlloc_R_32f(LumiDFTSpec** ppSpec, LumiSize roiSize, int flag, int hint);
 LUMI_API LumStatus lumiDFTInitAlloc_C_32fc(LumiDFTSpec** ppSpec, LumiSize roiSize, int flag, int hint);
 LUMI_API LumStatus lumiDFTInitAlloc_R_32s(LumiDFTSpec** ppSpec, LumiSize roiSize, int flag, int hint);
@@ -110,7 +110,7 @@ LUMI_API LumStatus lumiDFTGetBufSize_R_32s(const LumiDFTSpec* pSpec, int* pSize)
 /* DFT of real images (R_32f specification): forward to the packed spectrum, inverse from it.
    Checks pSpec (lumStatusNullPtrErr), its kind (lumStatusContextMismatchErr), the image
    pointers (lumStatusNullPtrErr), steps below 1 (lumStatusStepErr), in that order; a buffer
-   it has to allocate and cannot gives lumStatusMemAllocErr. src/transform/fft_spec.cpp, fft_real.cpp, fft_complex.cpp. */
+   it has to allocate and cannot gives lumStatusMemAllocErr. src/transform/fft_records.cpp, fft_real.cpp, fft_complex.cpp. */
 LUMI_API LumStatus lumiDFTFwd_RToPack_32f_C1R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, const LumiDFTSpec* pSpec, Lum8u* pBuffer);
 LUMI_API LumStatus lumiDFTFwd_RToPack_32f_C3R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, const LumiDFTSpec* pSpec, Lum8u* pBuffer);
 LUMI_API LumStatus lumiDFTFwd_RToPack_32f_C4R(const Lum32f* pSrc, int srcStep, Lum32f* pDst, int dstStep, const LumiDFTSpec* pSpec, Lum8u* pBuffer);
@@ -130,7 +130,7 @@ LUMI_API LumStatus lumiDFTInv_PackToR_32f_AC4IR(Lum32f* pSrcDst, int srcDstStep,
 
 /* DFT of 8u images to a 32s packed spectrum and back (R_32s specification), computed in
    single precision: the result x 2^-scaleFactor, ties to even, saturated. Checks as the
-   32f members. src/transform/fft_spec.cpp, fft_real.cpp, fft_complex.cpp. */
+   32f members. src/transform/fft_records.cpp, fft_real.cpp, fft_complex.cpp. */
 LUMI_API LumStatus lumiDFTFwd_RToPack_8u32s_C1RSfs(const Lum8u* pSrc, int srcStep, Lum32s* pDst, int dstStep, const LumiDFTSpec* pSpec, Lum8u* pBuffer, int scaleFactor);
 LUMI_API LumStatus lumiDFTFwd_RToPack_8u32s_C3RSfs(const Lum8u* pSrc, int srcStep, Lum32s* pDst, int dstStep, const LumiDFTSpec* pSpec, Lum8u* pBuffer, int scaleFactor);
 LUMI_API LumStatus lumiDFTFwd_RToPack_8u32s_C4RSfs(const Lum8u* pSrc, int srcStep, Lum32s* pDst, int dstStep, const LumiDFTSpec* pSpec, Lum8u* pBuffer, int scaleFactor);
@@ -141,7 +141,7 @@ LUMI_API LumStatus lumiDFTInv_PackToR_32s8u_C4RSfs(const Lum32s* pSrc, int srcSt
 LUMI_API LumStatus lumiDFTInv_PackToR_32s8u_AC4RSfs(const Lum32s* pSrc, int srcStep, Lum8u* pDst, int dstStep, const LumiDFTSpec* pSpec, Lum8u* pBuffer, int scaleFactor);
 
 /* DFT of complex images (C_32fc specification), forward and inverse. Checks as the real
-   members. src/transform/fft_spec.cpp, fft_real.cpp, fft_complex.cpp. */
+   members. src/transform/fft_records.cpp, fft_real.cpp, fft_complex.cpp. */
 LUMI_API LumStatus lumiDFTFwd_CToC_32fc_C1R(const Lum32fc* pSrc, int srcStep, Lum32fc* pDst, int dstStep, const LumiDFTSpec* pSpec, Lum8u* pBuffer);
 LUMI_API LumStatus lumiDFTFwd_CToC_32fc_C1IR(Lum32fc* pSrcDst, int srcDstStep, const LumiDFTSpec* pSpec, Lum8u* pBuffer);
 LUMI_API LumStatus lumiDFTInv_CToC_32fc_C1R(const Lum32fc* pSrc, int srcStep, Lum32fc* pDst, int dstStep, const LumiDFTSpec* pSpec, Lum8u* pBuffer);

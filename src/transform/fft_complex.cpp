@@ -1,6 +1,6 @@
 // 2-D FFT and DFT of complex images (interleaved Lum32fc), forward and inverse: every row
 // through the complex row engine, then the columns in groups through the column engine.
-#include "transform/fft_spec.h"
+#include "transform/fft_records.h"
 
 namespace lumi {
 namespace fft2d {

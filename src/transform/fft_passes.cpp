@@ -1,4 +1,4 @@
-// The row and column passes of the 2-D transforms (see fft_spec.h). Rows go straight through
+// The row and column passes of the 2-D transforms (see fft_records.h). Rows go straight through
 // the 1-D engine when they are contiguous single-channel rows; otherwise one channel of the row
 // is gathered into the work buffer first. Columns 0 and W-1 (even W) of the packed layout are
 // real columns; the column pairs between them are complex columns, gathered kGroup at a time.
@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstring>
 
-#include "transform/fft_spec.h"
+#include "transform/fft_records.h"
 
 namespace lumi {
 namespace fft2d {

@@ -2,7 +2,7 @@
 // every layout (each channel on its own; AC4 leaves the fourth alone) and the 8u <-> 32s
 // members, which run one channel at a time through a float plane in the work buffer and scale
 // the result by 2^-scaleFactor, ties to even, saturated.
-#include "transform/fft_spec.h"
+#include "transform/fft_records.h"
 #include "transform/pack.h"
 
 namespace lumi {

@@ -1,7 +1,7 @@
 // Specification records of the 2-D FFT (power-of-two sizes) and DFT (any size): creation,
 // release and the work-buffer size. A record owns its 1-D engines; the real records build a
 // row engine, a real column engine when the lengths differ and a complex column engine.
-#include "transform/fft_spec.h"
+#include "transform/fft_records.h"
 
 namespace lumi {
 namespace fft2d {
