@@ -68,4 +68,14 @@ inline F pick(F const (&table)[N], F scalar) {
   return scalar;
 }
 
+// Minimum or maximum in the operand order of the vector min/max instructions, for the scalar
+// twins of kernels that take running extrema: a tie keeps the second operand.
+template <bool kMax, class T>
+inline T extreme(T a, T b) {
+  if constexpr (kMax)
+    return a > b ? a : b;
+  else
+    return a < b ? a : b;
+}
+
 }  // namespace lumi

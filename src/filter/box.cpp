@@ -18,24 +18,13 @@
 #include "hwy/highway.h"
 #include "core/alpha-inl.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "core/halo.h"
 #include "filter/box_kernels.h"
 #include "lumi/filter.h"
 
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
-
-// n elements of T as lanes of A (loaded, or loaded and widened).
-template <class DA, class T>
-HWY_INLINE hn::Vec<DA> loadAs(DA da, const T* HWY_RESTRICT p) {
-  using A = hn::TFromD<DA>;
-  if constexpr (std::is_same_v<A, T>) {
-    return hn::LoadU(da, p);
-  } else {
-    const hn::Rebind<T, DA> dt;
-    return hn::PromoteTo(da, hn::LoadU(dt, p));
-  }
-}
 
 // Window sums to pixels: the vector form of box::normalise.
 template <class T, class DA>

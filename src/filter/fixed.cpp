@@ -16,6 +16,7 @@
 #include "hwy/highway.h"
 #include "core/alpha-inl.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "filter/fixed_kernels.h"
 #include "lumi/filter_fixed.h"
 
@@ -100,6 +101,17 @@ HWY_INLINE hn::Vec<DD> toDst(DD dd, V v) {
     return hn::DemoteTo(dd, v);  // saturating
 }
 
+// The step from a row pass's sums to destination lanes: FloatPost for floats, postInt and a
+// saturating narrowing for integers.
+template <class Ts, class Td, class D>
+auto rowFinish(D d, const FixedKernel& fk) {
+  if constexpr (std::is_floating_point_v<Ts>) {
+    return FloatPost<D>(d, fk);
+  } else {
+    return [d, &fk](hn::Vec<D> acc) { return toDst(hn::Rebind<Td, D>(), postInt<Ts, Td>(d, acc, fk)); };
+  }
+}
+
 // The weights of a kernel as the vector kernels read them: from the table entry at run time,
 // or, for the common kernels, as constants, so that their loops carry no tests on the weights.
 struct RunTaps {
@@ -126,16 +138,17 @@ struct SymTaps5 {
   }
 };
 
-// Separable integer kernels: the column pass fills one line over width + k - 1 pixels, the row
-// pass combines it, adds the centre weight and rounds. 8-bit sources run in 16-bit lanes (every
-// sum of these kernels fits), 16s sources in 32-bit lanes; Lane is the line's element type.
+// Separable kernels: the column pass fills one line over width + k - 1 pixels, the row pass
+// combines it, adds the centre weight and finishes. 8-bit sources run in 16-bit lanes (every
+// sum of these kernels fits), 16s sources in 32-bit lanes, 32f in float lanes, where the sums
+// associate differently from the plain kernel's; Lane is the line's element type.
 template <class Ts, class Td, class L, class Lane, class W>
-void sepRowInt(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const FixedKernel& fk,
-               Lane* HWY_RESTRICT line, W tw) {
+void sepRow(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const FixedKernel& fk,
+            Lane* HWY_RESTRICT line, W tw) {
   constexpr int kCh = L::kCh;
   constexpr bool kAlpha = L::kUse != L::kCh;
+  using Acc = std::conditional_t<std::is_floating_point_v<Lane>, float, int32_t>;
   const hn::ScalableTag<Lane> d;
-  const hn::Rebind<Ts, decltype(d)> ds;
   const hn::Rebind<Td, decltype(d)> dd;
   const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
   const int k = tw.k(), c = k / 2;
@@ -145,23 +158,24 @@ void sepRowInt(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fix
     auto acc = hn::Zero(d);
 #pragma GCC unroll 5
     for (int r = 0; r < k; ++r)
-      if (tw.col(r)) acc = addTimes(d, acc, hn::PromoteTo(d, hn::LoadU(ds, rows[r] - lead + e)), tw.col(r));
+      if (tw.col(r)) acc = addTimes(d, acc, loadAs(d, rows[r] - lead + e), tw.col(r));
     hn::StoreU(acc, d, line + e);
   }
   for (; e < ext; ++e) {
-    int32_t a = 0;
-    for (int r = 0; r < k; ++r) a += tw.col(r) * static_cast<int32_t>(rows[r][e - lead]);
+    Acc a = 0;
+    for (int r = 0; r < k; ++r) a += static_cast<Acc>(tw.col(r)) * static_cast<Acc>(rows[r][e - lead]);
     line[e] = static_cast<Lane>(a);
   }
   const auto colour = colourLanes(dd);
+  const auto finish = rowFinish<Ts, Td>(d, fk);
   std::ptrdiff_t i = 0;
   for (; i + N <= n; i += N) {
     auto acc = hn::Zero(d);
 #pragma GCC unroll 5
     for (int j = 0; j < k; ++j)
       if (tw.row(j)) acc = addTimes(d, acc, hn::LoadU(d, line + i + elemsOf(j, kCh)), tw.row(j));
-    if (tw.centre()) acc = addTimes(d, acc, hn::PromoteTo(d, hn::LoadU(ds, rows[c] + i)), tw.centre());
-    storeColour(dd, toDst(dd, postInt<Ts, Td>(d, acc, fk)), dst + i, kAlpha, colour);
+    if (tw.centre()) acc = addTimes(d, acc, loadAs(d, rows[c] + i), tw.centre());
+    storeColour(dd, finish(acc), dst + i, kAlpha, colour);
   }
   fixed::fixedFrom<Ts, Td, L>(rows, dst, i, n, fk);
 }
@@ -285,45 +299,6 @@ void directRow32(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const F
   fixed::fixedFrom<Ts, Td, L>(rows, dst, i, n, fk);
 }
 
-// 32f separable kernels: a column pass into one float line, a row pass over it plus the centre
-// weight. The sums associate differently from the plain kernel's.
-template <class L, class W>
-void sepRowF(const float* const* rows, float* HWY_RESTRICT dst, int width, const FixedKernel& fk,
-             float* HWY_RESTRICT line, W tw) {
-  constexpr int kCh = L::kCh;
-  constexpr bool kAlpha = L::kUse != L::kCh;
-  const hn::ScalableTag<float> d;
-  const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
-  const int k = tw.k(), c = k / 2;
-  const std::ptrdiff_t lead = elemsOf(c, kCh), ext = elemsOf(width + k - 1, kCh), n = elemsOf(width, kCh);
-  std::ptrdiff_t e = 0;
-  for (; e + N <= ext; e += N) {
-    auto acc = hn::Zero(d);
-#pragma GCC unroll 5
-    for (int r = 0; r < k; ++r)
-      if (tw.col(r)) acc = addTimes(d, acc, hn::LoadU(d, rows[r] - lead + e), tw.col(r));
-    hn::StoreU(acc, d, line + e);
-  }
-  for (; e < ext; ++e) {
-    float a = 0.0f;
-    for (int r = 0; r < k; ++r) a += static_cast<float>(tw.col(r)) * rows[r][e - lead];
-    line[e] = a;
-  }
-  const auto colour = colourLanes(d);
-  const FloatPost<decltype(d)> post(d, fk);
-  std::ptrdiff_t i = 0;
-  for (; i + N <= n; i += N) {
-    auto acc = hn::Zero(d);
-#pragma GCC unroll 5
-    for (int j = 0; j < k; ++j)
-      if (tw.row(j)) acc = addTimes(d, acc, hn::LoadU(d, line + i + elemsOf(j, kCh)), tw.row(j));
-    if (tw.centre()) acc = addTimes(d, acc, hn::LoadU(d, rows[c] + i), tw.centre());
-    acc = post(acc);
-    storeColour(d, acc, dst + i, kAlpha, colour);
-  }
-  fixed::fixedFrom<float, float, L>(rows, dst, i, n, fk);
-}
-
 // 32f 5x5 kernels symmetric about both axes: the column pass folds rows 0 and 4, 1 and 3 and
 // keeps one line per distinct column of weights (columns 0 = 4, 1 = 3, 2), so each source
 // element is loaded once; the row pass adds five line elements.
@@ -404,10 +379,7 @@ void directRowF(const float* const* rows, float* HWY_RESTRICT dst, int width, co
 template <class Ts, class Td, class L, class Line>
 bool lineRow(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const FixedKernel& fk, Line* l) {
   auto sep = [&](auto tw) {
-    if constexpr (std::is_floating_point_v<Ts>)
-      sepRowF<L>(rows, dst, width, fk, l, tw);
-    else
-      sepRowInt<Ts, Td, L>(rows, dst, width, fk, l, tw);
+    sepRow<Ts, Td, L>(rows, dst, width, fk, l, tw);
     return true;
   };
   auto sym = [&](auto tw) {

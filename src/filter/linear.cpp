@@ -23,28 +23,12 @@
 #include "hwy/highway.h"
 #include "core/alpha-inl.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "filter/linear_kernels.h"
 #include "lumi/filter_linear.h"
 
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
-
-// N elements of T as lanes of the accumulator (loaded, widened, converted).
-template <class DA, class T>
-HWY_INLINE hn::Vec<DA> loadAs(DA da, const T* HWY_RESTRICT p) {
-  using A = hn::TFromD<DA>;
-  if constexpr (std::is_same_v<A, T>) {
-    return hn::LoadU(da, p);
-  } else {
-    const hn::RebindToSigned<DA> di;
-    const hn::Rebind<T, DA> dt;
-    const auto v = hn::PromoteTo(di, hn::LoadU(dt, p));
-    if constexpr (std::is_same_v<A, float>)
-      return hn::ConvertTo(da, v);
-    else
-      return v;
-  }
-}
 
 // Integer sums scaled as the divisor says, in 32-bit lanes (the caller holds round-to-nearest).
 // The shift rounds halves up without an addition that could overflow: with q = S >> (k - 1),

@@ -29,16 +29,6 @@
 namespace lumi {
 namespace morph {
 
-// The operand order of both paths: the running value first, as the vector min/max
-// instructions compare it (a tie keeps the new value).
-template <bool kMax, class T>
-inline T extreme(T acc, T v) {
-  if constexpr (kMax)
-    return acc > v ? acc : v;
-  else
-    return acc < v ? acc : v;
-}
-
 // out[e] = extremum over k of rows[k][e] for e in [from, elems); with kAlpha every fourth
 // element (AC4 alpha) is left as it was.
 template <class T, bool kMax, bool kAlpha>

@@ -50,15 +50,6 @@ constexpr int tapsOf(int s) {
   return isCross(s) ? 2 * (reachX(s) + reachY(s)) + 1 : (2 * reachX(s) + 1) * (2 * reachY(s) + 1);
 }
 
-// The operand order of the vector min/max instructions: a tie keeps the second operand.
-template <bool kMax, class T>
-inline T extreme(T a, T b) {
-  if constexpr (kMax)
-    return a > b ? a : b;
-  else
-    return a < b ? a : b;
-}
-
 // Sorts v[0..n) ascending (insertion sort: windows are small) and returns the middle.
 template <class T>
 inline T sortAndPick(T* v, int n) {

@@ -19,24 +19,12 @@
 #include "hwy/highway.h"
 #include "core/alpha-inl.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "filter/wiener_kernels.h"
 #include "lumi/filter_wiener.h"
 
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
-
-// N elements of T from p as double lanes.
-template <class DD, class T>
-HWY_INLINE hn::Vec<DD> loadDouble(DD dd, const T* HWY_RESTRICT p) {
-  if constexpr (std::is_same_v<T, double>) {
-    return hn::LoadU(dd, p);
-  } else if constexpr (std::is_same_v<T, float>) {
-    return hn::PromoteTo(dd, hn::LoadU(hn::Rebind<float, DD>(), p));
-  } else {
-    const hn::Rebind<int32_t, DD> di;
-    return hn::PromoteTo(dd, hn::PromoteTo(di, hn::LoadU(hn::Rebind<T, DD>(), p)));
-  }
-}
 
 // The vector form of sumRowScalar: the same additions in the same order, per lane.
 template <class T, int kCh>
@@ -45,22 +33,22 @@ void sumRow(const T* HWY_RESTRICT in, const T* HWY_RESTRICT out, double* HWY_RES
   const hn::ScalableTag<double> dd;
   const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(dd));
   std::ptrdiff_t i = 0;
-  for (; i + N <= elems; i += N) {
-    auto a = loadDouble(dd, in + i);
-    auto a2 = hn::Mul(a, a);
+  // The sum and the sum of squares of mw elements a pixel apart from p on.
+  auto window = [&](const T* p, auto& sum, auto& sq) {
+    sum = loadAs(dd, p);
+    sq = hn::Mul(sum, sum);
     for (int k = 1; k < mw; ++k) {
-      const auto v = loadDouble(dd, in + i + elemsOf(k, kCh));
-      a = hn::Add(a, v);
-      a2 = hn::Add(a2, hn::Mul(v, v));
+      const auto v = loadAs(dd, p + elemsOf(k, kCh));
+      sum = hn::Add(sum, v);
+      sq = hn::Add(sq, hn::Mul(v, v));
     }
+  };
+  for (; i + N <= elems; i += N) {
+    hn::Vec<decltype(dd)> a, a2;
+    window(in + i, a, a2);
     if (out) {
-      auto b = loadDouble(dd, out + i);
-      auto b2 = hn::Mul(b, b);
-      for (int k = 1; k < mw; ++k) {
-        const auto v = loadDouble(dd, out + i + elemsOf(k, kCh));
-        b = hn::Add(b, v);
-        b2 = hn::Add(b2, hn::Mul(v, v));
-      }
+      hn::Vec<decltype(dd)> b, b2;
+      window(out + i, b, b2);
       a = hn::Sub(a, b);
       a2 = hn::Sub(a2, b2);
     }
@@ -142,7 +130,7 @@ void filterRow(const T* HWY_RESTRICT src, T* HWY_RESTRICT dst, const double* HWY
     auto v = hn::Sub(hn::LoadU(dd, q + i), hn::Div(hn::Mul(sv, sv), n));
     v = hn::IfThenElse(hn::Lt(v, power), power, v);
     const auto g = hn::Div(hn::Sub(v, power), v);
-    const auto r = hn::Add(m, hn::Mul(hn::Sub(loadDouble(dd, src + i), m), g));
+    const auto r = hn::Add(m, hn::Mul(hn::Sub(loadAs(dd, src + i), m), g));
     const auto out = toPixels<decltype(dd), T>(dd, hn::IfThenElse(hn::Gt(v, zero), r, m));
     if constexpr (kAlpha)
       storeColour(dt, out, dst + i, true, colourLanesAt(dt, static_cast<size_t>(i), 0));

@@ -47,6 +47,22 @@ HWY_INLINE hn::Mask<DF> clampToBox(DF df, const remap::Box& b, hn::Vec<DF>& x, h
   return in;
 }
 
+// The map points of a row, N at a time: f(x, vx, vy, in) gets each vector that has a point in
+// the box, with its points outside moved to the box corner (clampToBox). Returns where the
+// vectors end; the plain kernel finishes the row from there.
+template <class DF, class F>
+HWY_INLINE int boxVectors(DF df, const remap::Box& b, const float* mx, const float* my, int width,
+                          F&& f) {
+  const int N = static_cast<int>(hn::Lanes(df));
+  int x = 0;
+  for (; x + N <= width; x += N) {
+    auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
+    const auto in = clampToBox(df, b, vx, vy);
+    if (!hn::AllFalse(df, in)) f(x, vx, vy, in);
+  }
+  return x;
+}
+
 // Linear cell of a vector of points (see linearCell).
 template <class DF, class DI>
 HWY_INLINE void linearCellV(DF df, DI di, const remap::Box& b, hn::Vec<DF> x, hn::Vec<DF> y,
@@ -100,18 +116,15 @@ void nearestRow8u(const uint8_t* src, int step, const remap::Box& b, const float
   const auto limit = limitV(di, b.limit - 4);
   int x = 0;
   if (b.gather32) {
-    for (; x + N <= width; x += N) {
-      auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
-      const auto in = clampToBox(df, b, vx, vy);
-      if (hn::AllFalse(df, in)) continue;
+    x = boxVectors(df, b, mx, my, width, [&](int x, auto vx, auto vy, auto in) {
       const auto off = hn::Add(hn::Mul(roundEvenV(df, di, vy), vstep), roundEvenV(df, di, vx));
       if (!hn::AllFalse(di, hn::Gt(off, limit))) {
         remap::nearestRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, N);
-        continue;
+        return;
       }
       const auto v = hn::And(hn::GatherOffset(di, reinterpret_cast<const int32_t*>(src), off), hn::Set(di, 0xFF));
       storeNarrow(d8, di, in, v, dst + x);
-    }
+    });
   }
   remap::nearestRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
 }
@@ -124,14 +137,11 @@ void nearestRow32f(const float* src, int step, const remap::Box& b, const float*
   int x = 0;
   if (b.gather32 && step % 4 == 0) {
     const auto vstep = hn::Set(di, step / 4);
-    for (; x + N <= width; x += N) {
-      auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
-      const auto in = clampToBox(df, b, vx, vy);
-      if (hn::AllFalse(df, in)) continue;
+    x = boxVectors(df, b, mx, my, width, [&](int x, auto vx, auto vy, auto in) {
       const auto idx = hn::Add(hn::Mul(roundEvenV(df, di, vy), vstep), roundEvenV(df, di, vx));
       const auto v = hn::GatherIndex(df, src, idx);
       hn::StoreU(hn::IfThenElse(in, v, hn::LoadU(df, dst + x)), df, dst + x);
-    }
+    });
   }
   remap::nearestRowScalar<float, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
 }
@@ -149,17 +159,14 @@ void linearRow8u(const uint8_t* src, int step, const remap::Box& b, const float*
   const auto scale = hn::Set(df, static_cast<float>(remap::kOne));
   int x = 0;
   if (b.gather32) {
-    for (; x + N <= width; x += N) {
-      auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
-      const auto in = clampToBox(df, b, vx, vy);
-      if (hn::AllFalse(df, in)) continue;
+    x = boxVectors(df, b, mx, my, width, [&](int x, auto vx, auto vy, auto in) {
       hn::Vec<decltype(di)> ix, iy;
       hn::Vec<decltype(df)> fx, fy;
       linearCellV(df, di, b, vx, vy, ix, iy, fx, fy);
       const auto off = hn::Add(hn::Mul(iy, vstep), ix);
       if (!hn::AllFalse(di, hn::Gt(off, limit))) {
         remap::linearRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, N);
-        continue;
+        return;
       }
       const auto wx = roundEvenV(df, di, hn::Mul(fx, scale));
       const auto wy = roundEvenV(df, di, hn::Mul(fy, scale));
@@ -173,7 +180,7 @@ void linearRow8u(const uint8_t* src, int step, const remap::Box& b, const float*
                                                 hn::Mul(wx, hn::And(hn::ShiftRight<8>(g1), kFF))));
       const auto v = hn::ShiftRight<20>(hn::Add(hn::Add(hn::Mul(h0, hn::Sub(k1, wy)), hn::Mul(h1, wy)), k33));
       storeNarrow(d8, di, in, v, dst + x);
-    }
+    });
   }
   remap::linearRowScalar<uint8_t, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
 }
@@ -188,10 +195,7 @@ void linearRow32f(const float* src, int step, const remap::Box& b, const float* 
   int x = 0;
   if (b.gather32 && step % 4 == 0) {
     const auto vstep = hn::Set(di, step / 4);
-    for (; x + N <= width; x += N) {
-      auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
-      const auto in = clampToBox(df, b, vx, vy);
-      if (hn::AllFalse(df, in)) continue;
+    x = boxVectors(df, b, mx, my, width, [&](int x, auto vx, auto vy, auto in) {
       hn::Vec<decltype(di)> ix, iy;
       hn::Vec<decltype(df)> fx, fy;
       linearCellV(df, di, b, vx, vy, ix, iy, fx, fy);
@@ -203,7 +207,7 @@ void linearRow32f(const float* src, int step, const remap::Box& b, const float* 
       const auto h1 = hn::Add(hn::Mul(p10, gx), hn::Mul(p11, fx));
       const auto v = hn::Add(hn::Mul(h0, hn::Sub(one, fy)), hn::Mul(h1, fy));
       hn::StoreU(hn::IfThenElse(in, v, hn::LoadU(df, dst + x)), df, dst + x);
-    }
+    });
   }
   remap::linearRowScalar<float, C1>(src, step, b, mx + x, my + x, dst + x, width - x);
 }
@@ -357,17 +361,14 @@ void linearRow8uPix(const uint8_t* src, int step, const remap::Box& b, const flo
   const auto scale = hn::Set(df, static_cast<float>(remap::kOne));
   int x = 0;
   if (b.gather32) {
-    for (; x + N <= width; x += N) {
-      auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
-      const auto in = clampToBox(df, b, vx, vy);
-      if (hn::AllFalse(df, in)) continue;
+    x = boxVectors(df, b, mx, my, width, [&](int x, auto vx, auto vy, auto in) {
       hn::Vec<decltype(di)> ix, iy;
       hn::Vec<decltype(df)> fx, fy;
       linearCellV(df, di, b, vx, vy, ix, iy, fx, fy);
       const auto off = hn::Add(hn::Mul(iy, vstep), hn::Mul(ix, vch));
       if (!hn::AllFalse(di, hn::Gt(off, limit))) {
         remap::linearRowScalar<uint8_t, L>(src, step, b, mx + x, my + x, dst + elemsOf(x, kCh), N);
-        continue;
+        return;
       }
       const auto wx = roundEvenV(df, di, hn::Mul(fx, scale));
       const auto wy = roundEvenV(df, di, hn::Mul(fy, scale));
@@ -385,7 +386,7 @@ void linearRow8uPix(const uint8_t* src, int step, const remap::Box& b, const flo
         res = hn::Or(res, hn::ShiftLeftSame(v, 8 * c));
       }
       storeWords<L>(df, di, in, res, b, mx, my, dst, x, width);
-    }
+    });
   }
   remap::linearRowScalar<uint8_t, L>(src, step, b, mx + x, my + x, dst + elemsOf(x, kCh), width - x);
 }
@@ -411,17 +412,13 @@ void cubicRow8u(const uint8_t* src, int step, const remap::Box& b, const float* 
   const auto limit = limitV(di, b.limit - 3 * static_cast<std::ptrdiff_t>(step) - 3 * kCh - 4);
   auto byteOf = [&](hn::Vec<decltype(di)> g, int k) { return hn::ConvertTo(df, hn::And(hn::ShiftRightSame(g, 8 * k), kFF)); };
   const auto* base = reinterpret_cast<const int32_t*>(src);
-  int x = 0;
-  for (; x + N <= width; x += N) {
-    auto vx = hn::LoadU(df, mx + x), vy = hn::LoadU(df, my + x);
-    const auto in = clampToBox(df, b, vx, vy);
-    if (hn::AllFalse(df, in)) continue;
+  const int x = boxVectors(df, b, mx, my, width, [&](int x, auto vx, auto vy, auto in) {
     hn::Vec<decltype(di)> ix, iy;
     const auto inner = cubicCellV(df, di, b, in, vx, vy, ix, iy);
     auto off = hn::Add(hn::Mul(hn::Sub(iy, one), vstep), hn::Mul(hn::Sub(ix, one), vch));
     if (!b.gather32 || !hn::AllTrue(di, inner) || (kCh == 3 && !hn::AllFalse(di, hn::Gt(off, limit)))) {
       remap::cubicRowScalar<uint8_t, L>(src, step, b, mx + x, my + x, dst + elemsOf(x, kCh), N);
-      continue;
+      return;
     }
     VF xa, xb, xc, ya, yb, yc;
     cubicCoeffsV(df, hn::Sub(vx, hn::ConvertTo(df, ix)), xa, xb, xc);
@@ -450,7 +447,7 @@ void cubicRow8u(const uint8_t* src, int step, const remap::Box& b, const float* 
       for (int c = 0; c < L::kUse; ++c) res = hn::Or(res, hn::ShiftLeftSame(rounded(c), 8 * c));
       storeWords<L>(df, di, in, res, b, mx, my, dst, x, width);
     }
-  }
+  });
   remap::cubicRowScalar<uint8_t, L>(src, step, b, mx + x, my + x, dst + elemsOf(x, kCh), width - x);
 }
 

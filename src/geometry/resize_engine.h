@@ -48,12 +48,6 @@ LinF8Fn pickLinF8(int pitch);  // span and window as pickLinH8's
 LinFfFn pickLinFf(int pitch);
 template <class T>
 CubHFn<T> pickCubH(int pitch, int* span, int* window);
-template <>
-CubHFn<Lum8u> pickCubH<Lum8u>(int pitch, int* span, int* window);
-template <>
-CubHFn<Lum16u> pickCubH<Lum16u>(int pitch, int* span, int* window);
-template <>
-CubHFn<Lum32f> pickCubH<Lum32f>(int pitch, int* span, int* window);
 template <class T>
 CubVFn<T> pickCubV();
 

@@ -715,33 +715,27 @@ LinVfFn pickLinVf() {
   return pick(t, &linVfScalar);
 }
 
-template <>
-CubHFn<Lum8u> pickCubH<Lum8u>(int pitch, int* span, int* window) {
-  LUMI_SIMD_TABLE(CubHFn<Lum8u>, t1, cubH<Lum8u, 1>);
-  LUMI_SIMD_TABLE(CubHFn<Lum8u>, t3, cubH<Lum8u, 3>);
-  LUMI_SIMD_TABLE(CubHFn<Lum8u>, t4, cubH<Lum8u, 4>);
-  const auto& t = pitch == 1 ? t1 : pitch == 3 ? t3 : t4;
-  const CubHFn<Lum8u> f = pick(t, &cubHScalar<Lum8u>);
-  *span = f == &cubHScalar<Lum8u> ? 0 : pitch == 1 ? 4 : pitch == 3 ? 10 : 16;
-  *window = windowOf(f, t, 64);
-  return f;
+// 8u rows of the vector kernel also carry a span (source pixels per step); 16u rows keep the
+// plain kernel.
+template <class T>
+CubHFn<T> pickCubH(int pitch, int* span, int* window) {
+  if constexpr (std::is_same_v<T, Lum16u>) {
+    *span = *window = 0;
+    return &cubHScalar<T>;
+  } else {
+    LUMI_SIMD_TABLE(CubHFn<T>, t1, cubH<T, 1>);
+    LUMI_SIMD_TABLE(CubHFn<T>, t3, cubH<T, 3>);
+    LUMI_SIMD_TABLE(CubHFn<T>, t4, cubH<T, 4>);
+    const auto& t = pitch == 1 ? t1 : pitch == 3 ? t3 : t4;
+    const CubHFn<T> f = pick(t, &cubHScalar<T>);
+    *span = !std::is_same_v<T, Lum8u> || f == &cubHScalar<T> ? 0 : pitch == 1 ? 4 : pitch == 3 ? 10 : 16;
+    *window = windowOf(f, t, 64);
+    return f;
+  }
 }
-template <>
-CubHFn<Lum32f> pickCubH<Lum32f>(int pitch, int* span, int* window) {
-  LUMI_SIMD_TABLE(CubHFn<Lum32f>, t1, cubH<Lum32f, 1>);
-  LUMI_SIMD_TABLE(CubHFn<Lum32f>, t3, cubH<Lum32f, 3>);
-  LUMI_SIMD_TABLE(CubHFn<Lum32f>, t4, cubH<Lum32f, 4>);
-  const auto& t = pitch == 1 ? t1 : pitch == 3 ? t3 : t4;
-  const CubHFn<Lum32f> f = pick(t, &cubHScalar<Lum32f>);
-  *span = 0;
-  *window = windowOf(f, t, 64);
-  return f;
-}
-template <>
-CubHFn<Lum16u> pickCubH<Lum16u>(int, int* span, int* window) {
-  *span = *window = 0;
-  return &cubHScalar<Lum16u>;
-}
+template CubHFn<Lum8u> pickCubH<Lum8u>(int, int*, int*);
+template CubHFn<Lum16u> pickCubH<Lum16u>(int, int*, int*);
+template CubHFn<Lum32f> pickCubH<Lum32f>(int, int*, int*);
 template <class T, class L>
 Half2Fn<T> pickHalf2() {
   if constexpr (std::is_same_v<T, Lum16u>) {

@@ -64,7 +64,7 @@ struct BilinearInverseMap {
 };
 
 // Destination-to-source coefficients: linear in x along a row.
-struct BilinearBackMap {
+struct BilinearBackMap : StepMap<BilinearBackMap> {
   static constexpr int kPos = kPosLinear;
   double c[2][4];
   template <class T>
@@ -75,11 +75,6 @@ struct BilinearBackMap {
     s->y0 = ay * xs + by;
     s->dx = ax;
     s->dy = ay;
-  }
-  void span(int y, int xs, int n, double* X, double* Y) const {
-    SpanArgs<void> s{};
-    start(y, xs, &s);
-    for (int k = 0; k < n; ++k) positionAt<kPos>(s, k, &X[k], &Y[k]);
   }
 };
 

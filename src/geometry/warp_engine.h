@@ -534,7 +534,17 @@ LumStatus warpTail(const Planes<T>& im, const Frame& f, const Map& map, QuadOf&&
 }
 
 // ---- mappings (destination pixel -> source position) -----------------------------------------
-struct AffineMap {
+// span() of a mapping whose positions along a row follow from start() (M::start, M::kPos).
+template <class M>
+struct StepMap {
+  void span(int y, int xs, int n, double* X, double* Y) const {
+    SpanArgs<void> s{};
+    static_cast<const M*>(this)->start(y, xs, &s);
+    for (int k = 0; k < n; ++k) positionAt<M::kPos>(s, k, &X[k], &Y[k]);
+  }
+};
+
+struct AffineMap : StepMap<AffineMap> {
   static constexpr int kPos = kPosLinear;
   double a[2][3];
   template <class T>
@@ -544,14 +554,9 @@ struct AffineMap {
     s->dx = a[0][0];
     s->dy = a[1][0];
   }
-  void span(int y, int xs, int n, double* X, double* Y) const {
-    SpanArgs<void> s{};
-    start(y, xs, &s);
-    for (int k = 0; k < n; ++k) positionAt<kPos>(s, k, &X[k], &Y[k]);
-  }
 };
 
-struct PerspectiveMap {
+struct PerspectiveMap : StepMap<PerspectiveMap> {
   static constexpr int kPos = kPosProjective;
   double a[3][3];
   template <class T>
@@ -562,11 +567,6 @@ struct PerspectiveMap {
     s->dx = a[0][0];
     s->dy = a[1][0];
     s->dw = a[2][0];
-  }
-  void span(int y, int xs, int n, double* X, double* Y) const {
-    SpanArgs<void> s{};
-    start(y, xs, &s);
-    for (int k = 0; k < n; ++k) positionAt<kPos>(s, k, &X[k], &Y[k]);
   }
 };
 

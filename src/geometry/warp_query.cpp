@@ -130,16 +130,19 @@ void cosSin(double angle, double* c, double* s) {
   }
 }
 
-void rotateCoeffs(double angle, double xShift, double yShift, double c[2][3]) {
+// Affine coefficients as a value, so a query can pass them on in one expression.
+struct Affine {
+  double c[2][3];
+};
+
+Affine rotation(double angle, double xShift, double yShift) {
   double cs, sn;
   cosSin(angle, &cs, &sn);
-  c[0][0] = cs, c[0][1] = sn, c[0][2] = xShift;
-  c[1][0] = -sn, c[1][1] = cs, c[1][2] = yShift;
+  return Affine{{{cs, sn, xShift}, {-sn, cs, yShift}}};
 }
 
-void shearCoeffs(double xShear, double yShear, double xShift, double yShift, double c[2][3]) {
-  c[0][0] = 1, c[0][1] = xShear, c[0][2] = xShift;
-  c[1][0] = yShear, c[1][1] = 1, c[1][2] = yShift;
+Affine shear(double xShear, double yShear, double xShift, double yShift) {
+  return Affine{{{1, xShear, xShift}, {yShear, 1, yShift}}};
 }
 
 // The shifts that keep the centre in place, exact at 0, 90, 180 and 270 degrees.
@@ -222,27 +225,21 @@ LUMI_API LumStatus lumiAddRotateShift(double xCenter, double yCenter, double ang
 }
 
 LUMI_API LumStatus lumiGetRotateQuad(LumiRect srcRoi, double quad[4][2], double angle, double xShift, double yShift) {
-  double c[2][3];
-  rotateCoeffs(angle, xShift, yShift, c);
-  return affineQuad(srcRoi, quad, c);
+  return affineQuad(srcRoi, quad, rotation(angle, xShift, yShift).c);
 }
 
 LUMI_API LumStatus lumiGetRotateBound(LumiRect srcRoi, double bound[2][2], double angle, double xShift, double yShift) {
-  double c[2][3];
-  rotateCoeffs(angle, xShift, yShift, c);
-  return boundFrom(bound, [&](double q[4][2]) { return affineQuad(srcRoi, q, c); });
+  const Affine a = rotation(angle, xShift, yShift);
+  return boundFrom(bound, [&](double q[4][2]) { return affineQuad(srcRoi, q, a.c); });
 }
 
 LUMI_API LumStatus lumiGetShearQuad(LumiRect srcRoi, double quad[4][2], double xShear, double yShear, double xShift, double yShift) {
-  double c[2][3];
-  shearCoeffs(xShear, yShear, xShift, yShift, c);
-  return affineQuad(srcRoi, quad, c);
+  return affineQuad(srcRoi, quad, shear(xShear, yShear, xShift, yShift).c);
 }
 
 LUMI_API LumStatus lumiGetShearBound(LumiRect srcRoi, double bound[2][2], double xShear, double yShear, double xShift, double yShift) {
-  double c[2][3];
-  shearCoeffs(xShear, yShear, xShift, yShift, c);
-  return boundFrom(bound, [&](double q[4][2]) { return affineQuad(srcRoi, q, c); });
+  const Affine a = shear(xShear, yShear, xShift, yShift);
+  return boundFrom(bound, [&](double q[4][2]) { return affineQuad(srcRoi, q, a.c); });
 }
 
 LUMI_API LumStatus lumiGetPerspectiveQuad(LumiRect srcRoi, double quad[4][2], const double coeffs[3][3]) {

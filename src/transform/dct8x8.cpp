@@ -274,39 +274,32 @@ inline void sumsT8(const int64_t* y, int64_t* x) {
 // One 8x8 block of 64 contiguous values in row order; in == out allowed. The inverse of the
 // reduced members runs on the block with the other coefficients set to zero (exact sums, so the
 // same results as summing the corner alone).
-void intFwdScalar(const Lum16s* in, Lum16s* out) {
-  int64_t r[8][8], c[8], t[8];  // r[u][y]: row sums, transposed
+template <bool kFwd>
+void intBlockScalar(const Lum16s* in, Lum16s* out) {
+  // r[u][y]: row sums, transposed (forward; the inverse runs from v to x the same way)
+  int64_t r[8][8], c[8], t[8];
+  auto sums = [](const int64_t* a, int64_t* b) {
+    if constexpr (kFwd) sums8(a, b); else sumsT8(a, b);
+  };
   for (int y = 0; y < 8; ++y) {
     for (int x = 0; x < 8; ++x) c[x] = in[y * 8 + x];
-    sums8(c, t);
+    sums(c, t);
     for (int u = 0; u < 8; ++u) r[u][y] = t[u];
   }
   for (int u = 0; u < 8; ++u) {
-    sums8(r[u], t);
+    sums(r[u], t);
     for (int v = 0; v < 8; ++v) out[v * 8 + u] = roundShift31(t[v]);
-  }
-}
-void intInvScalar(const Lum16s* in, Lum16s* out) {
-  int64_t r[8][8], c[8], t[8];  // r[x][v]: row sums, transposed
-  for (int v = 0; v < 8; ++v) {
-    for (int u = 0; u < 8; ++u) c[u] = in[v * 8 + u];
-    sumsT8(c, t);
-    for (int x = 0; x < 8; ++x) r[x][v] = t[x];
-  }
-  for (int x = 0; x < 8; ++x) {
-    sumsT8(r[x], t);
-    for (int y = 0; y < 8; ++y) out[y * 8 + x] = roundShift31(t[y]);
   }
 }
 
 using IntBlockFn = void (*)(const Lum16s*, Lum16s*);
 IntBlockFn pickIntFwd() {
   LUMI_SIMD_TABLE(IntBlockFn, table, intFwd);
-  return pick(table, &intFwdScalar);
+  return pick(table, &intBlockScalar<true>);
 }
 IntBlockFn pickIntInv() {
   LUMI_SIMD_TABLE(IntBlockFn, table, intInv);
-  return pick(table, &intInvScalar);
+  return pick(table, &intBlockScalar<false>);
 }
 
 // Inverse of the top-left m x m coefficients (m = 8, 4 or 2).
