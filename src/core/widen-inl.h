@@ -1,5 +1,5 @@
-// Loading narrow elements into wider lanes, for vector kernels: the one way a kernel reads
-// N pixels' elements of type T as lanes of its accumulator type A. Every conversion is exact:
+// Loading narrow elements into wider lanes, for vector kernels: reads N pixels' elements of
+// type T as lanes of the kernel's accumulator type A. Every conversion is exact:
 // integers widen (through 32-bit lanes when A is a floating type), floats promote to double.
 // Re-included per target from inside a Highway section (after "hwy/highway.h").
 #if defined(LUMI_CORE_WIDEN_INL_H_) == defined(HWY_TARGET_TOGGLE)
