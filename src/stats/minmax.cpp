@@ -11,16 +11,17 @@
 LUMI_SIMD_BEGIN
 #if LUMI_TABLE_TARGET
 
-// Running minimum and maximum per channel over one row (mn, mx hold the values so far).
-template <class T, int kCh>
+// Running minimum and/or maximum per channel over one row (mn, mx hold the values so far; the
+// one not asked for, kMin or kMax false, is left as it is).
+template <class T, int kCh, bool kMin, bool kMax>
 void minMaxRow(const T* HWY_RESTRICT p, int width, T* mn, T* mx) {
   const hn::ScalableTag<T> d;
   const int N = static_cast<int>(hn::Lanes(d));
   using V = hn::Vec<decltype(d)>;
   V vmin[4], vmax[4], v[4];
   for (int c = 0; c < kCh; ++c) {
-    vmin[c] = hn::Set(d, mn[c]);
-    vmax[c] = hn::Set(d, mx[c]);
+    if constexpr (kMin) vmin[c] = hn::Set(d, mn[c]);
+    if constexpr (kMax) vmax[c] = hn::Set(d, mx[c]);
   }
   int x = 0;
   for (; x + 2 * N <= width; x += 2 * N) {  // two vectors per step halve the dependency chain
@@ -28,25 +29,29 @@ void minMaxRow(const T* HWY_RESTRICT p, int width, T* mn, T* mx) {
     LoadPix<kCh>(d, p + elemsOf(x, kCh), v);
     LoadPix<kCh>(d, p + elemsOf(x + N, kCh), w);
     for (int c = 0; c < kCh; ++c) {
-      vmin[c] = hn::Min(vmin[c], hn::Min(v[c], w[c]));
-      vmax[c] = hn::Max(vmax[c], hn::Max(v[c], w[c]));
+      if constexpr (kMin) vmin[c] = hn::Min(vmin[c], hn::Min(v[c], w[c]));
+      if constexpr (kMax) vmax[c] = hn::Max(vmax[c], hn::Max(v[c], w[c]));
     }
   }
   for (; x + N <= width; x += N) {
     LoadPix<kCh>(d, p + elemsOf(x, kCh), v);
     for (int c = 0; c < kCh; ++c) {
-      vmin[c] = hn::Min(vmin[c], v[c]);
-      vmax[c] = hn::Max(vmax[c], v[c]);
+      if constexpr (kMin) vmin[c] = hn::Min(vmin[c], v[c]);
+      if constexpr (kMax) vmax[c] = hn::Max(vmax[c], v[c]);
     }
   }
   HWY_ALIGN T buf[hn::MaxLanes(d)];
   for (int c = 0; c < kCh; ++c) {
-    hn::Store(vmin[c], d, buf);
-    for (int i = 0; i < N; ++i) mn[c] = buf[i] < mn[c] ? buf[i] : mn[c];
-    hn::Store(vmax[c], d, buf);
-    for (int i = 0; i < N; ++i) mx[c] = buf[i] > mx[c] ? buf[i] : mx[c];
+    if constexpr (kMin) {
+      hn::Store(vmin[c], d, buf);
+      for (int i = 0; i < N; ++i) mn[c] = buf[i] < mn[c] ? buf[i] : mn[c];
+    }
+    if constexpr (kMax) {
+      hn::Store(vmax[c], d, buf);
+      for (int i = 0; i < N; ++i) mx[c] = buf[i] > mx[c] ? buf[i] : mx[c];
+    }
   }
-  stats::minMaxFrom<T, kCh>(p, x, width, mn, mx);
+  stats::minMaxFrom<T, kCh, kMin, kMax>(p, x, width, mn, mx);
 }
 
 template <class T, class L>
@@ -99,19 +104,19 @@ using MinMaxRowFn = void (*)(const T*, int, T*, T*);
 template <class T>
 using CountRowFn = void (*)(const T*, int, const T*, const T*, int64_t*);
 
-template <class T, int kCh>
+template <class T, int kCh, bool kMin, bool kMax>
 void minMaxRowScalar(const T* p, int width, T* mn, T* mx) {
-  minMaxFrom<T, kCh>(p, 0, width, mn, mx);
+  minMaxFrom<T, kCh, kMin, kMax>(p, 0, width, mn, mx);
 }
 template <class T, class L>
 void countRowScalar(const T* p, int width, const T* lo, const T* hi, int64_t* n) {
   countFrom<T, L>(p, 0, width, lo, hi, n);
 }
 
-template <class T, int kCh>
+template <class T, int kCh, bool kMin, bool kMax>
 MinMaxRowFn<T> pickMinMaxRow() {
-  LUMI_SIMD_TABLE(MinMaxRowFn<T>, table, minMaxRow<T, kCh>);
-  return pick(table, &minMaxRowScalar<T, kCh>);
+  LUMI_SIMD_TABLE(MinMaxRowFn<T>, table, minMaxRow<T, kCh, kMin, kMax>);
+  return pick(table, &minMaxRowScalar<T, kCh, kMin, kMax>);
 }
 template <class T, class L>
 CountRowFn<T> pickCountRow() {
@@ -119,10 +124,10 @@ CountRowFn<T> pickCountRow() {
   return pick(table, &countRowScalar<T, L>);
 }
 
-// Minimum and maximum of every channel of the ROI.
-template <class T, int kCh>
+// Minimum and/or maximum of every channel of the ROI.
+template <class T, int kCh, bool kMin, bool kMax>
 HWY_NOINLINE void extremaOf(const T* src, int step, LumiSize roi, T* mn, T* mx) {
-  const MinMaxRowFn<T> f = pickMinMaxRow<T, kCh>();
+  const MinMaxRowFn<T> f = pickMinMaxRow<T, kCh, kMin, kMax>();
   for (int c = 0; c < kCh; ++c) mn[c] = mx[c] = src[c];
   for (int y = 0; y < roi.height; ++y) f(rowAt(src, step, y), roi.width, mn, mx);
 }
@@ -135,7 +140,7 @@ LumStatus extremaImpl(const T* src, int step, LumiSize roi, T* mnOut, T* mxOut) 
   if (badSize(roi)) return lumStatusSizeErr;
   if (badStep(step)) return lumStatusStepErr;
   T mn[4], mx[4];
-  extremaOf<T, L::kCh>(src, step, roi, mn, mx);
+  extremaOf<T, L::kCh, kMin, kMax>(src, step, roi, mn, mx);
   for (int c = 0; c < L::kUse; ++c) {
     if (kMin) mnOut[c] = mn[c];
     if (kMax) mxOut[c] = mx[c];
@@ -152,7 +157,7 @@ LumStatus indexImpl(const T* src, int step, LumiSize roi, T* value, int* px, int
   if (badSize(roi)) return lumStatusSizeErr;
   if (badStep(step)) return lumStatusStepErr;
   constexpr int kCh = L::kCh, kUse = L::kUse;
-  const MinMaxRowFn<T> f = pickMinMaxRow<T, kCh>();
+  const MinMaxRowFn<T> f = pickMinMaxRow<T, kCh, !kMax, kMax>();
   T best[4];
   int bx[4] = {0, 0, 0, 0}, by[4] = {0, 0, 0, 0};
   for (int c = 0; c < kCh; ++c) best[c] = src[c];

@@ -111,13 +111,14 @@ inline void f32MaxAbsFrom(const float* a, const float* b, int x0, int width, flo
 }
 
 // ---- extrema and range counts -------------------------------------------------------
-template <class T, int kCh>
+// Running minimum (kMin) and/or maximum (kMax) of pixels x0.. of a row.
+template <class T, int kCh, bool kMin, bool kMax>
 inline void minMaxFrom(const T* p, int x0, int width, T* mn, T* mx) {
   for (int x = x0; x < width; ++x)
     for (int c = 0; c < kCh; ++c) {
       T v = p[elemsOf(x, kCh) + c];
-      mn[c] = v < mn[c] ? v : mn[c];
-      mx[c] = v > mx[c] ? v : mx[c];
+      if (kMin) mn[c] = v < mn[c] ? v : mn[c];
+      if (kMax) mx[c] = v > mx[c] ? v : mx[c];
     }
 }
 
