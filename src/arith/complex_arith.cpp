@@ -7,6 +7,7 @@
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "arith/float_kernels-inl.h"
 
 #ifndef LUMI_COMPLEX_ARITH_SCALAR_  // scalar definitions, compiled once
@@ -47,8 +48,8 @@ void complexMulRow(const float* x, const float* y, float* out, std::ptrdiff_t n,
   ForEachVector(
       df, static_cast<size_t>(n), pat,
       [&](size_t i, size_t off, auto masked) {
-        const auto xv = hn::PromoteTo(dd, hn::LoadU(df, x + i));
-        const auto yv = hn::PromoteTo(dd, hn::LoadU(df, y ? y + i : pat->value + off));
+        const auto xv = loadAs(dd, x + i);
+        const auto yv = loadAs(dd, y ? y + i : pat->value + off);
         StoreOwned(df, hn::DemoteTo(df, complexProductVec(dd, xv, yv)), out + i, pat, off, masked);
       },
       [&](size_t i, size_t off) {  // the tail starts on a whole complex value

@@ -13,6 +13,7 @@
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "arith/float_kernels-inl.h"
 
 #ifndef LUMI_POINTWISE_BASIC_SCALAR_  // scalar definitions, compiled once
@@ -92,8 +93,8 @@ void mulScaleRow(const T* a, const T* b, T* out, std::ptrdiff_t n, const RowPatt
   ForEachVector(
       dt, static_cast<size_t>(n), pat,
       [&](size_t i, size_t off, auto masked) {
-        const auto x = hn::PromoteTo(dw, hn::LoadU(dt, a + i));
-        const auto y = hn::PromoteTo(dw, hn::LoadU(dt, b ? b + i : pat->value + off));
+        const auto x = loadAs(dw, a + i);
+        const auto y = loadAs(dw, b ? b + i : pat->value + off);
         const auto p = hn::Mul(x, y);
         const auto r = hn::ShiftRight<k>(hn::Add(hn::Add(p, hn::ShiftRight<k>(p)), one));
         StoreOwned(dt, hn::DemoteTo(dt, hn::BitCast(ds, r)), out + i, pat, off, masked);

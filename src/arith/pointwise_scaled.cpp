@@ -17,6 +17,7 @@
 #include <cfloat>
 
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "arith/float_kernels-inl.h"
 #include "hwy/contrib/math/math-inl.h"
 
@@ -85,7 +86,7 @@ int scaledRow(const T* s, T* out, std::ptrdiff_t n, const RowPattern<T>* pat,
   ForEachVector(
       dt, static_cast<size_t>(n), pat,
       [&](size_t i, size_t off, auto masked) {
-        const auto x = hn::PromoteTo(dd, hn::PromoteTo(di, hn::LoadU(dt, s + i)));
+        const auto x = loadAs(dd, s + i);
         hn::Vec<decltype(dd)> r;
         hn::Mask<decltype(dd)> neg = hn::Lt(x, zero);
         if constexpr (F == kSqr) {

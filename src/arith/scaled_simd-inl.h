@@ -12,6 +12,7 @@
 
 #include "hwy/highway.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "core/alpha-inl.h"
 #include "arith/scaled_kernels.h"
 
@@ -148,8 +149,8 @@ HWY_INLINE int divLoop(const T* s1, const T* s2, T* d, std::ptrdiff_t n, float s
   auto lowest = hn::Set(di, 1);
   std::ptrdiff_t i = 0;
   for (; i + N <= n; i += N) {
-    const auto b = hn::PromoteTo(di, hn::LoadU(dh, s1 + i));
-    const auto a = hn::PromoteTo(di, hn::LoadU(dh, s2 + i));
+    const auto b = loadAs(di, s1 + i);
+    const auto a = loadAs(di, s2 + i);
     const auto bAbs = std::is_signed_v<T> ? hn::Abs(b) : b;
     lowest = hn::Min(lowest, keepAlpha ? hn::Or(bAbs, alphaBits) : bAbs);
     const auto fb = hn::IfThenElse(hn::RebindMask(df, hn::Eq(b, zero)), tiny, hn::ConvertTo(df, b));

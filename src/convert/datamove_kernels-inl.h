@@ -8,6 +8,7 @@
 #endif
 
 #include "hwy/highway.h"
+#include "core/widen-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace lumi {
@@ -22,7 +23,7 @@ HWY_INLINE auto pixelMask(D d, const uint8_t* m) {
     return hn::Ne(hn::LoadU(d, m), hn::Zero(d));
   } else {
     const hn::Rebind<uint8_t, D> d8;
-    return hn::Ne(hn::PromoteTo(d, hn::LoadU(d8, m)), hn::Zero(d));
+    return hn::Ne(loadAs(d, m), hn::Zero(d));
   }
 }
 

@@ -8,6 +8,7 @@
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "correlation/match_kernels.h"
 
 LUMI_SIMD_BEGIN
@@ -172,8 +173,7 @@ void loadRow(const S* HWY_RESTRICT in, int n, float level, float* HWY_RESTRICT o
     const hn::Rebind<int16_t, decltype(df)> dw;
     const hn::Rebind<S, decltype(df)> ds;
     for (; j + N <= n; j += N) {
-      const auto wide = hn::PromoteTo(di, hn::PromoteTo(dw, hn::LoadU(ds, in + j)));
-      hn::StoreU(hn::Sub(hn::ConvertTo(df, wide), lv), df, out + j);
+      hn::StoreU(hn::Sub(loadAs(df, in + j), lv), df, out + j);
     }
   }
   loadRowFrom(j, in, n, level, out);

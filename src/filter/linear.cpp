@@ -246,7 +246,7 @@ HWY_INLINE hn::Vec<hn::Repartition<int16_t, hn::ScalableTag<int32_t>>> load16(
   const hn::Repartition<int16_t, hn::ScalableTag<int32_t>> d16;
   if constexpr (std::is_same_v<T, Lum8u>) {
     const hn::Rebind<uint8_t, decltype(d16)> d8;
-    return hn::BitCast(d16, hn::PromoteTo(hn::RebindToUnsigned<decltype(d16)>(), hn::LoadU(d8, p)));
+    return loadAs(d16, p);
   } else {
     return hn::LoadU(d16, p);
   }
@@ -414,7 +414,7 @@ void linearRowNarrow(const Lum8u* HWY_RESTRICT win, int srcStep, Lum8u* HWY_REST
   const auto colour = colourLanes(d8);
   const int k1 = sc.mode == linear::Mode::kShift ? (sc.k - 1 < 15 ? sc.k - 1 : 15) : 0;
   auto load = [&](const Lum8u* p) {
-    return hn::BitCast(d16, hn::PromoteTo(hn::RebindToUnsigned<decltype(d16)>(), hn::LoadU(d8, p)));
+    return loadAs(d16, p);
   };
   auto store = [&](V sum, Lum8u* q) {
     if (sc.mode == linear::Mode::kShift) {  // halves up: q - (q >> 1) with q = S >> (k - 1)

@@ -14,6 +14,7 @@
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "lumi/filter.h"
 
 #ifndef LUMI_FILTER_WINDOW_SUM_PLAIN_  // once, though the file is read once per target
@@ -71,7 +72,7 @@ void slideRow(const T* HWY_RESTRICT in, const T* HWY_RESTRICT out, Lum32f* HWY_R
   const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(df));
   std::ptrdiff_t i = 0;
   for (; i + N <= n; i += N) {
-    const auto diff = hn::Sub(hn::PromoteTo(di, hn::LoadU(dt, in + i)), hn::PromoteTo(di, hn::LoadU(dt, out + i)));
+    const auto diff = hn::Sub(loadAs(di, in + i), loadAs(di, out + i));
     hn::StoreU(hn::Add(hn::LoadU(df, sum + i), hn::ConvertTo(df, diff)), df, sum + i);
   }
   window::slideRowScalar(in + i, out + i, sum + i, n - i);
@@ -88,8 +89,8 @@ void windowRow(const T* HWY_RESTRICT s, Lum32f* HWY_RESTRICT d, int width, int m
   const std::ptrdiff_t n = elemsOf(width, kCh);
   std::ptrdiff_t i = 0;
   for (; i + N <= n; i += N) {
-    auto sum = hn::PromoteTo(di, hn::LoadU(dt, s + i));
-    for (int k = 1; k < mask; ++k) sum = hn::Add(sum, hn::PromoteTo(di, hn::LoadU(dt, s + i + elemsOf(k, kCh))));
+    auto sum = loadAs(di, s + i);
+    for (int k = 1; k < mask; ++k) sum = hn::Add(sum, loadAs(di, s + i + elemsOf(k, kCh)));
     hn::StoreU(hn::ConvertTo(df, sum), df, d + i);
   }
   for (; i < n; ++i) {

@@ -13,6 +13,7 @@
 // (foreach_target re-includes this file once per SIMD target)
 #include "hwy/highway.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "generate/generate_kernels.h"
 
 LUMI_SIMD_BEGIN
@@ -40,7 +41,7 @@ void addNoiseRow(T* HWY_RESTRICT row, const double* HWY_RESTRICT noise, int n) {
       auto x = hn::Min(hn::Max(hn::LoadU(dd, noise + i), lo), hi);
       const auto m = hn::CopySign(magic, x);
       x = hn::Sub(hn::Add(x, m), m);
-      const auto sum = hn::Add(hn::PromoteTo(di, hn::LoadU(dt, row + i)), hn::DemoteTo(di, x));
+      const auto sum = hn::Add(loadAs(di, row + i), hn::DemoteTo(di, x));
       hn::StoreU(hn::DemoteTo(dt, sum), dt, row + i);
     }
   }

@@ -16,6 +16,7 @@
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "geometry/cubic-inl.h"
 #include "geometry/remap_kernels.h"
 #include "lumi/remap.h"
@@ -101,7 +102,7 @@ HWY_INLINE hn::Vec<DI> limitV(DI di, std::ptrdiff_t lim) {
 // the destination's values.
 template <class DN, class DI, class M>
 HWY_INLINE void storeNarrow(DN dn, DI di, M in, hn::Vec<DI> v, hn::TFromD<DN>* dst) {
-  const auto old = hn::PromoteTo(di, hn::LoadU(dn, dst));
+  const auto old = loadAs(di, dst);
   hn::StoreU(hn::DemoteTo(dn, hn::IfThenElse(hn::RebindMask(di, in), v, old)), dn, dst);
 }
 

@@ -13,6 +13,7 @@
 #include "hwy/cache_control.h"
 #include "core/alpha-inl.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "geometry/resize_engine.h"
 
 LUMI_SIMD_BEGIN
@@ -262,8 +263,8 @@ void linV8(const int16_t* HWY_RESTRICT h0, const int16_t* HWY_RESTRICT h1, int w
   const auto colour = colourLanes(d8);
   int e = 0;
   for (; e + N <= n; e += N) {
-    const auto a = hn::PromoteTo(d, hn::LoadU(d16, h0 + e));
-    const auto b = hn::PromoteTo(d, hn::LoadU(d16, h1 + e));
+    const auto a = loadAs(d, h0 + e);
+    const auto b = loadAs(d, h1 + e);
     const auto v = hn::ShiftRight<20>(hn::Add(hn::Add(hn::ShiftLeft<14>(a), hn::Mul(hn::Sub(b, a), w)), half));
     storeColour(d8, hn::DemoteTo(d8, v), dst + e, keepAlpha, colour);
   }

@@ -10,6 +10,7 @@
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 
 #include <cmath>
 #include <cstring>
@@ -56,7 +57,7 @@ void iterSumRows(const T* HWY_RESTRICT p, int step, int rows, int n, S* HWY_REST
     auto a1 = hn::LoadU(d, s + i), a2 = hn::LoadU(d, s + n + i);
     auto a3 = hn::LoadU(d, s + 2 * n + i), a4 = hn::LoadU(d, s + 3 * n + i);
     for (int k = 0; k < rows; ++k) {
-      a1 = hn::Add(a1, hn::PromoteTo(d, hn::LoadU(dn, r[k] + i)));
+      a1 = hn::Add(a1, loadAs(d, r[k] + i));
       a2 = hn::Add(a2, a1);
       a3 = hn::Add(a3, a2);
       a4 = hn::Add(a4, a3);

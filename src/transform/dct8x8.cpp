@@ -23,6 +23,7 @@
 #include "hwy/foreach_target.h"
 #include "hwy/highway.h"
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "lumi/dct.h"
 #include "transform/dct8x8.h"
 
@@ -151,7 +152,7 @@ HWY_INLINE void intColumns(const Lum16s* in, double* t) {
   for (size_t g = 0; g < 8; g += N) {
     VD x[8], y[8];
     for (int r = 0; r < 8; ++r)
-      x[r] = hn::PromoteTo(d, hn::PromoteTo(d32, hn::LoadU(d16, in + 8 * r + g)));
+      x[r] = loadAs(d, in + 8 * r + g);
     if constexpr (kFwd)
       sums8v(x, y);
     else

@@ -13,6 +13,7 @@
 #include "hwy/highway.h"
 
 #include "core/simd.h"
+#include "core/widen-inl.h"
 #include "lumi/fft.h"
 #include "transform/pack.h"
 
@@ -30,8 +31,8 @@ void mulPairs(const float* a, const float* b, float* d, int pairs) {
   const auto sign = hn::OddEven(hn::Set(dd, kConj ? -1.0 : 1.0), hn::Set(dd, kConj ? 1.0 : -1.0));
   int i = 0;
   for (; i + N <= n; i += N) {
-    const auto x = hn::PromoteTo(dd, hn::LoadU(df, a + i));
-    const auto y = hn::PromoteTo(dd, hn::LoadU(df, b + i));
+    const auto x = loadAs(dd, a + i);
+    const auto y = loadAs(dd, b + i);
     const auto yr = hn::DupEven(y), yi = hn::DupOdd(y);
     const auto p = hn::Mul(x, yr);                                   // xr yr, xi yr
     const auto q = hn::Mul(hn::Mul(hn::Reverse2(dd, x), yi), sign);  // -xi yi, xr yi
