@@ -202,35 +202,39 @@ HWY_INLINE int streamHead(const float* p, int n, int N) {
   return head < n ? head : n;
 }
 
-// Linear 8u along a row: pairs of taps from one (C1, C3) or two (C4) 32-bit gathers.
+// Linear 8u along a row for N outputs from e on: the two taps of each come from one (C1, C3)
+// or two (C4) 32-bit gathers, then (p0 w0 + p1 w1) >> 8 in 32-bit lanes.
+template <int kPitch, class D>
+HWY_INLINE hn::Vec<D> linGather8(D d, const Lum8u* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off,
+                                 const int16_t* HWY_RESTRICT wq, int e) {
+  const hn::RebindToUnsigned<D> du;
+  const auto m8 = hn::Set(d, 0xFF);
+  const int32_t* base = reinterpret_cast<const int32_t*>(s);
+  const auto o = hn::LoadU(d, off + e);
+  const auto v = hn::GatherOffset(d, base, o);
+  hn::Vec<D> p1;
+  if constexpr (kPitch == 1) {
+    p1 = hn::And(hn::ShiftRight<8>(v), m8);
+  } else if constexpr (kPitch == 3) {
+    p1 = hn::BitCast(d, hn::ShiftRight<24>(hn::BitCast(du, v)));
+  } else {
+    p1 = hn::And(hn::GatherOffset(d, base, hn::Add(o, hn::Set(d, kPitch))), m8);
+  }
+  const auto wp = hn::LoadU(d, reinterpret_cast<const int32_t*>(wq + 2 * e));
+  return hn::ShiftRight<8>(hn::Add(hn::Mul(hn::And(v, m8), hn::And(wp, hn::Set(d, 0xFFFF))),
+                                   hn::Mul(p1, hn::ShiftRight<16>(wp))));
+}
+
+// Linear 8u along a row: pairs of taps from the gathers (linGather8), or from the windows.
 template <int kPitch>
 void linH8(const Lum8u* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off,
            const int16_t* HWY_RESTRICT wq, int n, int pitch, int safe,
            const resize::Windows* win, int16_t* HWY_RESTRICT h) {
   const hn::ScalableTag<int32_t> d;
-  const hn::RebindToUnsigned<decltype(d)> du;
   const hn::Rebind<int16_t, decltype(d)> d16;
-  using V = hn::Vec<decltype(d)>;
   const int N = static_cast<int>(hn::Lanes(d));
-  const int32_t* base = reinterpret_cast<const int32_t*>(s);
-  const auto m8 = hn::Set(d, 0xFF), m16 = hn::Set(d, 0xFFFF);
-  auto finish = [&](int e, V p0, V p1) {
-    const auto wp = hn::LoadU(d, reinterpret_cast<const int32_t*>(wq + 2 * e));
-    const auto hv = hn::Add(hn::Mul(p0, hn::And(wp, m16)), hn::Mul(p1, hn::ShiftRight<16>(wp)));
-    hn::StoreU(hn::DemoteTo(d16, hn::ShiftRight<8>(hv)), d16, h + e);
-  };
   auto gathered = [&](int e) {
-    const auto o = hn::LoadU(d, off + e);
-    const auto v = hn::GatherOffset(d, base, o);
-    V p1;
-    if constexpr (kPitch == 1) {
-      p1 = hn::And(hn::ShiftRight<8>(v), m8);
-    } else if constexpr (kPitch == 3) {
-      p1 = hn::BitCast(d, hn::ShiftRight<24>(hn::BitCast(du, v)));
-    } else {
-      p1 = hn::And(hn::GatherOffset(d, base, hn::Add(o, hn::Set(d, kPitch))), m8);
-    }
-    finish(e, hn::And(v, m8), p1);
+    hn::StoreU(hn::DemoteTo(d16, linGather8<kPitch>(d, s, off, wq, e)), d16, h + e);
   };
   int e = 0;
 #if LUMI_RESIZE_WINDOWS
@@ -330,35 +334,16 @@ void linF8(const Lum8u* HWY_RESTRICT s0, const Lum8u* HWY_RESTRICT s1,
            const int32_t* HWY_RESTRICT off, const int16_t* HWY_RESTRICT wq, int n, int pitch,
            int safe, const resize::Windows* win, int wy, Lum8u* HWY_RESTRICT dst, bool keepAlpha) {
   const hn::ScalableTag<int32_t> d;
-  const hn::RebindToUnsigned<decltype(d)> du;
   const hn::Rebind<uint8_t, decltype(d)> d8;
   using V = hn::Vec<decltype(d)>;
   const int N = static_cast<int>(hn::Lanes(d));
-  const auto m8 = hn::Set(d, 0xFF), m16 = hn::Set(d, 0xFFFF);
   const auto w = hn::Set(d, wy), half = hn::Set(d, 1 << 19);
   const auto colour = colourLanes(d8);
-  auto sums = [&](int e, V p0, V p1) {
-    const auto wp = hn::LoadU(d, reinterpret_cast<const int32_t*>(wq + 2 * e));
-    return hn::ShiftRight<8>(hn::Add(hn::Mul(p0, hn::And(wp, m16)), hn::Mul(p1, hn::ShiftRight<16>(wp))));
-  };
   auto column = [&](int e, V h0, V h1) {
     const auto v = hn::ShiftRight<20>(hn::Add(hn::Add(hn::ShiftLeft<14>(h0), hn::Mul(hn::Sub(h1, h0), w)), half));
     storeColour(d8, hn::DemoteTo(d8, v), dst + e, keepAlpha, colour);
   };
-  auto gathered = [&](const Lum8u* s, int e) {
-    const int32_t* base = reinterpret_cast<const int32_t*>(s);
-    const auto o = hn::LoadU(d, off + e);
-    const auto v = hn::GatherOffset(d, base, o);
-    V p1;
-    if constexpr (kPitch == 1) {
-      p1 = hn::And(hn::ShiftRight<8>(v), m8);
-    } else if constexpr (kPitch == 3) {
-      p1 = hn::BitCast(d, hn::ShiftRight<24>(hn::BitCast(du, v)));
-    } else {
-      p1 = hn::And(hn::GatherOffset(d, base, hn::Add(o, hn::Set(d, kPitch))), m8);
-    }
-    return sums(e, hn::And(v, m8), p1);
-  };
+  auto gathered = [&](const Lum8u* s, int e) { return linGather8<kPitch>(d, s, off, wq, e); };
   int e = 0;
 #if LUMI_RESIZE_WINDOWS
   if (win != nullptr && win->base != nullptr) {
