@@ -4,14 +4,16 @@
 # and its change in percent, then the change of Lumi's own median time (OpenCV's time moves
 # with the machine's load as much as ours: a row whose ratio dropped but whose time did not
 # is noise). Alternating keeps slow drifts of a shared machine off the result.
-#   scripts/bench-compare.sh OLD/lumi-bench NEW/lumi-bench [ROUNDS] [filter]
+#   scripts/bench-compare.sh OLD/lumi-bench NEW/lumi-bench [ROUNDS] [lumi-bench arguments...]
+# e.g. ... 7 "sum mean 8u C1" --reps 151 (a filter with spaces stays one argument).
 set -euo pipefail
-old=$1 new=$2 rounds=${3:-3} filter=${4:-}
+old=$1 new=$2 rounds=${3:-3}
+args=("${@:4}")
 out=$(mktemp -d)
 trap 'rm -rf "$out"' EXIT
 for r in $(seq "$rounds"); do
-  "$old" $filter > "$out/old.$r"
-  "$new" $filter > "$out/new.$r"
+  "$old" "${args[@]}" > "$out/old.$r"
+  "$new" "${args[@]}" > "$out/new.$r"
 done
 # Each run: "N thread(s)" headers, then rows "family  row ...  cv_ms lumi_ms ratio [..]".
 # A row's key is thread count + its label (everything before the three numbers).

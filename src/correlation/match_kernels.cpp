@@ -169,9 +169,6 @@ void loadRow(const S* HWY_RESTRICT in, int n, float level, float* HWY_RESTRICT o
   if constexpr (std::is_same_v<S, float>) {
     for (; j + N <= n; j += N) hn::StoreU(hn::Sub(hn::LoadU(df, in + j), lv), df, out + j);
   } else {
-    const hn::Rebind<int32_t, decltype(df)> di;
-    const hn::Rebind<int16_t, decltype(df)> dw;
-    const hn::Rebind<S, decltype(df)> ds;
     for (; j + N <= n; j += N) {
       hn::StoreU(hn::Sub(loadAs(df, in + j), lv), df, out + j);
     }

@@ -190,7 +190,6 @@ void symRow5(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixed
   constexpr int kCh = L::kCh;
   constexpr bool kAlpha = L::kUse != L::kCh;
   const hn::ScalableTag<int16_t> d;
-  const hn::Rebind<Ts, decltype(d)> ds;
   const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d));
   const std::ptrdiff_t lead = elemsOf(2, kCh), ext = elemsOf(width + 4, kCh), n = elemsOf(width, kCh);
   const std::ptrdiff_t ls = (ext + N) & ~(N - 1);
@@ -258,8 +257,6 @@ void symRow5(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixed
     }
   } else {
     const hn::ScalableTag<int32_t> d32;
-    const hn::Rebind<int16_t, decltype(d32)> dh;
-    const hn::Rebind<uint16_t, decltype(d32)> duh;
     const hn::Rebind<Td, decltype(d32)> dd;
     const std::ptrdiff_t N32 = static_cast<std::ptrdiff_t>(hn::Lanes(d32));
     const bool unsig = fk.symUnsigned;
@@ -283,7 +280,6 @@ void directRow32(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const F
   constexpr int kCh = L::kCh;
   constexpr bool kAlpha = L::kUse != L::kCh;
   const hn::ScalableTag<int32_t> d;
-  const hn::Rebind<Ts, decltype(d)> ds;
   const hn::Rebind<Td, decltype(d)> dd;
   const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(d)), n = elemsOf(width, kCh);
   const auto colour = colourLanes(dd);

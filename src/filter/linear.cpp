@@ -245,7 +245,6 @@ HWY_INLINE hn::Vec<hn::Repartition<int16_t, hn::ScalableTag<int32_t>>> load16(
     const T* HWY_RESTRICT p) {
   const hn::Repartition<int16_t, hn::ScalableTag<int32_t>> d16;
   if constexpr (std::is_same_v<T, Lum8u>) {
-    const hn::Rebind<uint8_t, decltype(d16)> d8;
     return loadAs(d16, p);
   } else {
     return hn::LoadU(d16, p);

@@ -68,7 +68,6 @@ void slideRow(const T* HWY_RESTRICT in, const T* HWY_RESTRICT out, Lum32f* HWY_R
               std::ptrdiff_t n) {
   const hn::ScalableTag<float> df;
   const hn::RebindToSigned<decltype(df)> di;
-  const hn::Rebind<T, decltype(df)> dt;
   const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(df));
   std::ptrdiff_t i = 0;
   for (; i + N <= n; i += N) {
@@ -84,7 +83,6 @@ template <class T, int kCh>
 void windowRow(const T* HWY_RESTRICT s, Lum32f* HWY_RESTRICT d, int width, int mask) {
   const hn::ScalableTag<float> df;
   const hn::RebindToSigned<decltype(df)> di;
-  const hn::Rebind<T, decltype(df)> dt;
   const std::ptrdiff_t N = static_cast<std::ptrdiff_t>(hn::Lanes(df));
   const std::ptrdiff_t n = elemsOf(width, kCh);
   std::ptrdiff_t i = 0;

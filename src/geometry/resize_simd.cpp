@@ -260,7 +260,6 @@ void linH8(const Lum8u* HWY_RESTRICT s, const int32_t* HWY_RESTRICT off,
 void linV8(const int16_t* HWY_RESTRICT h0, const int16_t* HWY_RESTRICT h1, int wy, int n,
            Lum8u* HWY_RESTRICT dst, bool keepAlpha) {
   const hn::ScalableTag<int32_t> d;
-  const hn::Rebind<int16_t, decltype(d)> d16;
   const hn::Rebind<uint8_t, decltype(d)> d8;
   const int N = static_cast<int>(hn::Lanes(d));
   const auto w = hn::Set(d, wy), half = hn::Set(d, 1 << 19);

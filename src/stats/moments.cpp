@@ -48,7 +48,6 @@ LUMI_SIMD_BEGIN
 template <class T, class S>
 void iterSumRows(const T* HWY_RESTRICT p, int step, int rows, int n, S* HWY_RESTRICT s) {
   const hn::ScalableTag<S> d;
-  const hn::Rebind<T, decltype(d)> dn;
   const int N = static_cast<int>(hn::Lanes(d));
   const T* r[moments::kGroupRows];
   for (int k = 0; k < rows; ++k) r[k] = rowAt(p, step, k);

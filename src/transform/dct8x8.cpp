@@ -145,8 +145,6 @@ HWY_INLINE void sumsT8v(const VD* y, VD* x) {
 template <bool kFwd>
 HWY_INLINE void intColumns(const Lum16s* in, double* t) {
   const DD d;
-  const hn::Rebind<int32_t, DD> d32;
-  const hn::Rebind<int16_t, DD> d16;
   constexpr size_t N = hn::MaxLanes(d);
   HWY_ALIGN double lane[N];
   for (size_t g = 0; g < 8; g += N) {
