@@ -198,10 +198,8 @@ void symRow5(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixed
   int16_t* HWY_RESTRICT c2 = line + 2 * ls;
   std::ptrdiff_t e = 0;
   for (; e + N <= ext; e += N) {
-    const auto a = hn::Add(loadAs(d, rows[0] - lead + e),
-                           loadAs(d, rows[4] - lead + e));
-    const auto b = hn::Add(loadAs(d, rows[1] - lead + e),
-                           loadAs(d, rows[3] - lead + e));
+    const auto a = hn::Add(loadAs(d, rows[0] - lead + e), loadAs(d, rows[4] - lead + e));
+    const auto b = hn::Add(loadAs(d, rows[1] - lead + e), loadAs(d, rows[3] - lead + e));
     const auto m = loadAs(d, rows[2] - lead + e);
     int16_t* outs[3] = {c0, c1, c2};
 #pragma GCC unroll 3
@@ -261,8 +259,7 @@ void symRow5(const Ts* const* rows, Td* HWY_RESTRICT dst, int width, const Fixed
     const std::ptrdiff_t N32 = static_cast<std::ptrdiff_t>(hn::Lanes(d32));
     const bool unsig = fk.symUnsigned;
     auto ld = [&](const int16_t* p) {
-      return unsig ? loadAs(d32, reinterpret_cast<const uint16_t*>(p))
-                   : loadAs(d32, p);
+      return unsig ? loadAs(d32, reinterpret_cast<const uint16_t*>(p)) : loadAs(d32, p);
     };
     const auto colour = colourLanes(dd);
     for (; i + N32 <= n; i += N32) {

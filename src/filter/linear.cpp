@@ -243,12 +243,7 @@ void linearTwoRows(const T* HWY_RESTRICT win, int srcStep, T* HWY_RESTRICT dst, 
 template <class T>
 HWY_INLINE hn::Vec<hn::Repartition<int16_t, hn::ScalableTag<int32_t>>> load16(
     const T* HWY_RESTRICT p) {
-  const hn::Repartition<int16_t, hn::ScalableTag<int32_t>> d16;
-  if constexpr (std::is_same_v<T, Lum8u>) {
-    return loadAs(d16, p);
-  } else {
-    return hn::LoadU(d16, p);
-  }
+  return loadAs(hn::Repartition<int16_t, hn::ScalableTag<int32_t>>(), p);
 }
 
 template <class T>
@@ -412,9 +407,6 @@ void linearRowNarrow(const Lum8u* HWY_RESTRICT win, int srcStep, Lum8u* HWY_REST
   const int32_t* last = kernel + (static_cast<std::ptrdiff_t>(kw) * kh - 1);
   const auto colour = colourLanes(d8);
   const int k1 = sc.mode == linear::Mode::kShift ? (sc.k - 1 < 15 ? sc.k - 1 : 15) : 0;
-  auto load = [&](const Lum8u* p) {
-    return loadAs(d16, p);
-  };
   auto store = [&](V sum, Lum8u* q) {
     if (sc.mode == linear::Mode::kShift) {  // halves up: q - (q >> 1) with q = S >> (k - 1)
       sum = hn::ShiftRightSame(sum, k1);    // |S| < 2^15: larger shifts give the same 0 or -1
@@ -430,10 +422,10 @@ void linearRowNarrow(const Lum8u* HWY_RESTRICT win, int srcStep, Lum8u* HWY_REST
       const Lum8u* p = rowAt(win, srcStep, ii) + e;
       for (int jj = 0; jj < kw; ++jj, --tap, p += kCh) {
         const V t = hn::Set(d16, static_cast<int16_t>(*tap));
-        a0 = hn::Add(a0, hn::Mul(t, load(p)));
-        a1 = hn::Add(a1, hn::Mul(t, load(p + M)));
-        a2 = hn::Add(a2, hn::Mul(t, load(p + 2 * M)));
-        a3 = hn::Add(a3, hn::Mul(t, load(p + 3 * M)));
+        a0 = hn::Add(a0, hn::Mul(t, loadAs(d16, p)));
+        a1 = hn::Add(a1, hn::Mul(t, loadAs(d16, p + M)));
+        a2 = hn::Add(a2, hn::Mul(t, loadAs(d16, p + 2 * M)));
+        a3 = hn::Add(a3, hn::Mul(t, loadAs(d16, p + 3 * M)));
       }
     }
     store(a0, dst + e);
@@ -447,7 +439,7 @@ void linearRowNarrow(const Lum8u* HWY_RESTRICT win, int srcStep, Lum8u* HWY_REST
     for (int ii = 0; ii < kh; ++ii) {
       const Lum8u* p = rowAt(win, srcStep, ii) + at;
       for (int jj = 0; jj < kw; ++jj, --tap, p += kCh)
-        acc = hn::Add(acc, hn::Mul(hn::Set(d16, static_cast<int16_t>(*tap)), load(p)));
+        acc = hn::Add(acc, hn::Mul(hn::Set(d16, static_cast<int16_t>(*tap)), loadAs(d16, p)));
     }
     store(acc, dst + at);
   };
